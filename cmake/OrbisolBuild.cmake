@@ -1,0 +1,61 @@
+# How every target of the house is built: language, warnings, sanitizers, coverage, compiler cache.
+
+option(ORBISOL_TESTS "Build the tests" ON)
+option(ORBISOL_BENCH "Build the benches" OFF)
+option(ORBISOL_FUZZ "Build the fuzzers (clang only)" OFF)
+option(ORBISOL_WERROR "Warnings are errors" OFF)
+option(ORBISOL_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
+option(ORBISOL_COVERAGE "Count which lines and branches run" OFF)
+option(ORBISOL_PCH "Precompile the Qt and GoogleTest headers" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+# Tried first: without a folder it may write to, as on an account without a home, ccache fails every
+# compilation.
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  file(WRITE "${CMAKE_BINARY_DIR}/ccache_trial.cpp" "int main() {}\n")
+  execute_process(
+    COMMAND "${CCACHE_PROGRAM}" "${CMAKE_CXX_COMPILER}" -c ccache_trial.cpp -o ccache_trial.o
+    WORKING_DIRECTORY "${CMAKE_BINARY_DIR}" RESULT_VARIABLE CCACHE_FAILED OUTPUT_QUIET ERROR_QUIET)
+  if(CCACHE_FAILED EQUAL 0)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  endif()
+endif()
+
+# The moon's days are decided by doubles: no fused multiply-add may round them
+# differently on another machine.
+add_compile_options(-Wall -Wextra -Wconversion -Wshadow -ffp-contract=off)
+if(ORBISOL_WERROR)
+  add_compile_options(-Werror)
+endif()
+if(ORBISOL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(ORBISOL_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+if(ORBISOL_COVERAGE)
+  add_compile_options(--coverage -fprofile-abs-path)
+  add_link_options(--coverage)
+endif()
+
+# orbisol_floor(NAME SOURCES ... [PUBLIC lib ...] [PRIVATE lib ...])
+#
+# One static library a floor. Includes go by path from the root, so the root is its only include
+# folder; the floors without Qt never see a Qt header because no Qt target is linked to them.
+function(orbisol_floor name)
+  cmake_parse_arguments(FLOOR "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  add_library(${name} STATIC ${FLOOR_SOURCES})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PUBLIC ${FLOOR_PUBLIC} PRIVATE ${FLOOR_PRIVATE})
+endfunction()
+

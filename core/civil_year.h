@@ -1,0 +1,45 @@
+// Civil years: the numbering of years where they began on another day than 1 January.
+//
+// A Date is always numbered from 1 January (the historical year). The rows of the rules
+// (CalendarConfig::firstDayOfYear) say from when on civil years began on another day, and whether their
+// number lagged behind (the days before the start counted to the year before) or ran one ahead ("J.+1").
+//
+//   // with the row {15000325, false}: Florence
+//   CivilYear(16000324);  // 1599
+//   CivilYear(16000325);  // 1600
+#pragma once
+
+#include "core/date.h"
+
+namespace orbisol {
+
+// The row of the table that governs a date: -1 when the table is empty; else the first row (most recent
+// first) whose `from` is at or before the date as integers; where none is, the index of the empty row that
+// ends the table, which governs nothing.
+int CivilRowIndex(const Date& date);
+
+// Month * 100 + day on which civil years begin at that date; 101 where no row governs.
+int CivilYearStartDay(const Date& date);
+
+int CivilYear(PackedDate packed);
+inline int CivilYearOf(const Date& date) { return CivilYear(date.Packed()); }
+
+// 1 on the first day of the civil year. Days are counted as they were: dropped dates are left out. Can be 0
+// or negative where the first day of the year itself was dropped.
+int DayOfCivilYear(const Date& date);
+
+// Days after the date to the end of its civil year: 0 on its last day. Where another row begins in the same
+// or the next year, day and days left need not add up to the length of a year.
+int DaysLeftInCivilYear(const Date& date);
+
+// Changes the year so that the civil year becomes `target`; month and day stay. Returns the civil year that
+// the date then has. On purpose: where setting the historical year leaves the civil year what it was before
+// the call, nothing more is tried, whatever `target` is.
+int SetCivilYear(Date& date, int target);
+
+// Labels of the years up to 0.
+constexpr int kFoundingOfRome = 753;  // years from the founding of the city to year 0
+constexpr std::int64_t YearBeforeEra(int year) { return 1 - std::int64_t{year}; }
+constexpr std::int64_t YearOfRome(int year) { return std::int64_t{year} + kFoundingOfRome; }
+
+}  // namespace orbisol

@@ -1,0 +1,281 @@
+#include "core/date.h"
+
+#include "core/civil_year.h"
+#include "core/platform.h"
+
+namespace orbisol {
+namespace {
+
+// Every count below starts on a 1 March around -4800: its years end with their leap day, and it is positive
+// for all dates shown, so that '/' rounds down. Sums are 64 bits wide, because any int may come in.
+constexpr int kYearShift = 4800;
+
+constexpr int kFourYears = 1461;                // days of four Julian years
+constexpr int kJulianCycle = 100 * kFourYears;  // days of 400 Julian years
+constexpr int kGregorianCycle = 146097;         // days of 400 Gregorian years
+constexpr int kJulianOrigin = -32082;           // day number of 1 March -4800 in the Julian calendar
+constexpr int kGregorianOrigin = -32044;        // and in the Gregorian
+
+// The early Julian calendar had a leap year every third year from -44 on, none from 1 March -8 to 28 February
+// 4, and ordinary ones again from then on. The three stretches meet without a gap.
+constexpr int kTriennialStart = 1704987;  // day number of 1 January -44
+constexpr int kNoLeapStart = 1718199;     // of 1 March -8
+constexpr int kOrdinaryStart = 1722579;   // of 1 March 4
+constexpr int kThreeYears = 1096;         // days of three years with one leap year
+constexpr int kTriennialShift = 4799;     // its years are counted from 1 March -4799 ...
+constexpr int kTriennialOrigin = -32113;  // ... the day number of that day, had the cycle always held
+constexpr int kYear = 365;
+constexpr int kNoLeapOrigin = -30881;  // of 1 March -4800, had there never been a leap year
+
+constexpr PackedDate kLastEarlyLeapDay = -80229;
+
+// The everyday dates: what follows fits 32 bits for them, and a division in half the width takes half the
+// time. Any other integers go the same way in 64 bits.
+constexpr int kEverydayYears = 1000000;
+constexpr bool IsEveryday(int year, int month, int day) {
+  return year > -kYearShift && year < kEverydayYears && month >= 1 && month <= 12 && day >= 0 && day < 100;
+}
+constexpr bool IsEveryday(int dayNumber) { return dayNumber > -32000 && dayNumber < 365 * kEverydayYears; }
+
+constexpr int AbsoluteRest(PackedDate packed) {
+  const int rest = packed % 10000;
+  return rest < 0 ? -rest : rest;
+}
+
+// Integers in the order of the days: packed dates of a year before the era run backwards.
+constexpr int OrderKey(PackedDate packed) { return packed >= 0 ? packed : packed + 2 * AbsoluteRest(packed); }
+constexpr std::int64_t OrderKey(int year, int month, int day) {
+  return std::int64_t{year} * 10000 + MonthDay(month, day);
+}
+static_assert(OrderKey(-440315) == OrderKey(-44, 3, 15) && OrderKey(-440315) > OrderKey(-440101));
+
+// The dates whose day number the early leap years decide.
+constexpr std::int64_t kEarlyFrom = OrderKey(-43, 1, 1);
+constexpr std::int64_t kEarlyTo = OrderKey(4, 2, 28);
+
+// Days from 1 March to the first of `month`, where January and February are the months 13 and 14 of the year
+// before. C. Tøndering, Calendar FAQ, "The Julian Period".
+template <typename U>
+constexpr U DaysSinceMarch(U month) {  // [3, 14]
+  return (153 * month - 457) / 5;      // [0, 337]
+}
+static_assert(DaysSinceMarch(3u) == 0 && DaysSinceMarch(8u) == 153 && DaysSinceMarch(14u) == 337);
+
+// Century years whose leap day the Gregorian calendar dropped.
+template <typename U>
+constexpr U DroppedLeapDays(U centuries) {
+  return centuries - centuries / 4;
+}
+
+// A day of a year that begins on 1 March.
+template <typename U>
+struct MarchDay {
+  U year;       // from the origin of its count
+  U dayOfYear;  // 0 is 1 March
+};
+
+// `days` from the origin of a count whose every `years` years, `length` days long, end with one leap day.
+template <typename U>
+constexpr MarchDay<U> MarchDayOf(U days, U years, U length) {
+  const U scaled = days * years + years - 1;
+  return {scaled / length, scaled % length / years};
+}
+
+// A Gregorian day is counted as if no century had dropped its leap day, and is then a Julian one of the same
+// date.
+template <typename U>
+constexpr MarchDay<U> MarchDayInCycles(U days, bool gregorian) {
+  const U centuries = (4 * days + 3) / kGregorianCycle;
+  return MarchDayOf<U>(gregorian ? days + DroppedLeapDays(centuries) : days, 4, kFourYears);
+}
+
+// Month and day of a day of a March year, with January and February as months 13 and 14. Months have 153 days
+// in five, 30.6 on average: 2141 / 65536 of a month a day, and what is left over counts the days. C. Neri and
+// L. Schneider, "Euclidean affine functions and their application to calendar algorithms", 2022.
+struct MonthAndDay {
+  unsigned month;  // [3, 14]
+  unsigned day;    // [1, 31]
+};
+constexpr MonthAndDay MonthAndDayOf(unsigned dayOfYear) {  // [0, 365]
+  const unsigned scaled = 2141 * dayOfYear + 197913;
+  return {scaled >> 16, (scaled & 0xFFFF) / 2141 + 1};
+}
+constexpr bool MonthsEndWhereTheyShould() {
+  for (unsigned dayOfYear = 0; dayOfYear <= 365; ++dayOfYear) {
+    const auto [month, day] = MonthAndDayOf(dayOfYear);
+    if (month < 3 || month > 14 || DaysSinceMarch(month) + day - 1 != dayOfYear || day > 31) return false;
+  }
+  return true;
+}
+static_assert(MonthsEndWhereTheyShould());
+
+// Sets year, month and day. The year of the origin is `firstYear`.
+template <typename U>
+void SetDate(Date& date, const MarchDay<U>& march, std::int64_t firstYear) {
+  const auto [month, day] = MonthAndDayOf(static_cast<unsigned>(march.dayOfYear));
+  const bool nextYear = month > 12;
+  date.year = Saturate(static_cast<std::int64_t>(march.year) + firstYear + nextYear);
+  date.month = static_cast<int>(nextYear ? month - 12 : month);
+  date.day = static_cast<int>(day);
+}
+
+// Before -4800 a date 400, 800 … years later looks the same.
+[[gnu::noinline]] void SetAnyDateInCycles(Date& date, int dayNumber, bool gregorian) {
+  std::int64_t days = std::int64_t{dayNumber} - (gregorian ? kGregorianOrigin : kJulianOrigin);
+  const int cycle = gregorian ? kGregorianCycle : kJulianCycle;
+  const std::int64_t cyclesBack = days < 0 ? (cycle - 1 - days) / cycle : 0;
+  days += cyclesBack * cycle;
+  SetDate(date, MarchDayInCycles(static_cast<std::uint64_t>(days), gregorian),
+          -kYearShift - 400 * cyclesBack);
+}
+
+// Without the early leap years.
+void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
+  if (!IsEveryday(dayNumber)) return SetAnyDateInCycles(date, dayNumber, gregorian);
+  const auto days = static_cast<unsigned>(dayNumber - (gregorian ? kGregorianOrigin : kJulianOrigin));
+  SetDate(date, MarchDayInCycles(days, gregorian), -kYearShift);
+}
+
+bool DateIsBefore(int year, std::int64_t monthDay, PackedDate packed) {
+  const int otherYear = packed / 10000;
+  return year != otherYear ? year < otherYear : monthDay < AbsoluteRest(packed);
+}
+
+// The rare ways stand apart, so that the everyday one stays short: it is walked millions of times.
+
+// The day number of a date between 1 January -43 and 28 February 4 under the early leap years.
+[[gnu::noinline]] int EarlyDayNumber(int year, int month, int day) {
+  const std::int64_t monthDay = MonthDay(month, day);
+  const int before = month < 3 ? 1 : 0;
+  const std::int64_t y = std::int64_t{year} + kYearShift - before;
+  const std::int64_t inYear = std::int64_t{day} - 1 + DaysSinceMarch(std::int64_t{month} + 12 * before);
+  // On purpose: 29 February -8 is not before itself, and takes the number of 1 March.
+  if (year < 0 && DateIsBefore(year, monthDay, kLastEarlyLeapDay))
+    return Saturate(inYear + kYear * (y - 1) + (y - 1) / 3 + kTriennialOrigin);
+  return Saturate(inYear + kYear * y + kNoLeapOrigin);
+}
+
+[[gnu::noinline]] int DayNumberOfAny(int year, int month, int day, bool gregorian) {
+  const int before = month < 3 ? 1 : 0;
+  std::int64_t y = std::int64_t{year} + kYearShift - before;
+  const std::int64_t cyclesBack = y < 0 ? (399 - y) / 400 : 0;
+  y += 400 * cyclesBack;
+  const std::int64_t inYear = std::int64_t{day} - 1 + DaysSinceMarch(std::int64_t{month} + 12 * before);
+  const std::int64_t toYear = kYear * y + y / 4 - (gregorian ? DroppedLeapDays(y / 100) : 0);
+  const std::int64_t origin = (gregorian ? kGregorianOrigin : kJulianOrigin) -
+                              cyclesBack * (gregorian ? kGregorianCycle : kJulianCycle);
+  return Saturate(inYear + toYear + origin);
+}
+
+}  // namespace
+
+int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic) {
+  const std::int64_t key = OrderKey(year, month, day);
+  const std::int64_t sinceReform = key - OrderKey(startGregorian);
+  if (key >= kEarlyFrom && key <= kEarlyTo && !proleptic && sinceReform < 0)
+    return EarlyDayNumber(year, month, day);
+  if (!IsEveryday(year, month, day)) return DayNumberOfAny(year, month, day, sinceReform >= 0);
+
+  const unsigned before = month < 3 ? 1 : 0;  // January and February belong to the March year before
+  const unsigned y = static_cast<unsigned>(year + kYearShift) - before;
+  const unsigned julian = static_cast<unsigned>(day - 1) +
+                          DaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + kYear * y + y / 4;
+  // The two calendars are joined by a mask, not a branch: dates come in any order, and the processor would
+  // guess wrong at every change between them.
+  const unsigned shift = static_cast<unsigned>(kGregorianOrigin - kJulianOrigin) - DroppedLeapDays(y / 100);
+  const auto ifGregorian = static_cast<unsigned>(~(sinceReform >> 63));  // all bits or none
+  return static_cast<int>(julian + (shift & ifGregorian)) + kJulianOrigin;
+}
+
+PackedDate JulianDateOfDayNumber(int dayNumber) {
+  Date date(0);
+  SetDateInCycles(date, dayNumber, false);
+  return date.Packed();
+}
+
+int GregorianDaysInMonth(int year, int month) {
+  if (month == 2) return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : 28;
+  return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
+}
+
+Date::Date(PackedDate packed) : dateOrder(CurrentPlatform().locale->ShortDateOrder()) { SetPacked(packed); }
+
+Date::Date(int theYear, int theMonth, int theDay)
+    : year(theYear), month(theMonth), day(theDay), dateOrder(CurrentPlatform().locale->ShortDateOrder()) {}
+
+Date Date::Today() {
+  if (Rules().startGregorian == 0) Rules().ApplyGregorianStart(kRomanReform);
+  const YearMonthDay today = CurrentPlatform().clock->Today();
+  // The clock is Gregorian also where a reform yet to come leaves the calendar Julian.
+  constexpr PackedDate kAlwaysGregorian = -99990101;
+  return DateOfDayNumber(DayNumberUnder(today.year, today.month, today.day, kAlwaysGregorian, false));
+}
+
+PackedDate Date::SetPacked(PackedDate packed) {
+  const YearMonthDay date = Unpack(packed);
+  year = date.year;
+  month = date.month;
+  day = date.day;
+  return Packed();
+}
+
+int Date::DayNumber() const {
+  return DayNumberUnder(year, month, day, Rules().startGregorian, Rules().proleptic);
+}
+
+void Date::SetDayNumber(int dayNumber) {
+  const CalendarRules& rules = Rules();
+  const bool gregorian = dayNumber >= rules.firstGregorianDayNumber;
+  if (dayNumber >= kTriennialStart && dayNumber < kOrdinaryStart && !rules.proleptic && !gregorian) {
+    if (dayNumber < kNoLeapStart)
+      SetDate(*this,
+              MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kThreeYears),
+              -kTriennialShift);
+    else
+      SetDate(*this, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kNoLeapOrigin), 1, kYear),
+              -kYearShift);
+    return;
+  }
+  SetDateInCycles(*this, dayNumber, gregorian);
+}
+
+void Date::AddDays(int days) { SetDayNumber(Saturate(std::int64_t{DayNumber()} + days)); }
+
+int Date::AddMonths(int months) {
+  const std::int64_t fromJanuary = std::int64_t{month} - 1 + months;
+  const std::int64_t years = fromJanuary >= 0 ? fromJanuary / 12 : (fromJanuary - 11) / 12;
+  year = Saturate(year + years);
+  month = static_cast<int>(fromJanuary - 12 * years) + 1;
+  const int length = DaysInMonth();
+  if (day > length) day = length;
+  return length;
+}
+
+int Date::DaysInMonth(int ofMonth) const {
+  if (ofMonth != 2) return GregorianDaysInMonth(year, ofMonth);
+  const CalendarRules& rules = Rules();
+  if (!rules.proleptic && year >= -44 && year <= 7) return year <= -8 && (year - 7) % 3 == 0 ? 29 : 28;
+  if (year > rules.startGregorian / 10000) return GregorianDaysInMonth(year, 2);
+  // On purpose: the year of the reform is Julian here, also where the reform came before February.
+  return CivilYear(Pack(year, 2, day)) % 4 == 0 ? 29 : 28;
+}
+
+int Date::Weekday(bool raw) const {
+  const int weekday = WeekdayOfDayNumber(DayNumber());
+  return weekday == 0 && !raw && Rules().iso8601 ? 7 : weekday;
+}
+
+bool Date::IsBefore(PackedDate packed) const { return DateIsBefore(year, MonthDay(month, day), packed); }
+
+PackedDate Date::JulianForm() const {
+  const PackedDate packed = Packed();
+  return packed < Rules().startGregorian ? packed : JulianDateOfDayNumber(DayNumber());
+}
+
+Date DateOfDayNumber(int dayNumber) {
+  Date date(0);
+  date.SetDayNumber(dayNumber);
+  return date;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,198 @@
+#include "core/moon.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace orbisol {
+namespace {
+
+constexpr double kRadians = 0.017453292519943295;  // of a degree
+constexpr double kDegrees = 57.29577951308232;     // of a radian
+
+// An angle by its sine and cosine. The perturbations are sums of few angles, and sums of these take products
+// only, where a sine costs ten times as much.
+struct Turn {
+  double sin;
+  double cos;
+};
+
+Turn TurnOf(double degrees) { return {std::sin(degrees * kRadians), std::cos(degrees * kRadians)}; }
+Turn operator+(Turn a, Turn b) { return {a.sin * b.cos + a.cos * b.sin, a.cos * b.cos - a.sin * b.sin}; }
+Turn operator-(Turn a, Turn b) { return {a.sin * b.cos - a.cos * b.sin, a.cos * b.cos + a.sin * b.sin}; }
+
+double DegreesOf(double y, double x) { return std::atan2(y, x) * kDegrees; }
+
+// Into [0, 360).
+double Reduce(double degrees) { return degrees - 360.0 * std::floor(degrees / 360.0); }
+
+// Orbital elements, in degrees and degrees a day: P. Schlyter, "Computing planetary positions".
+struct Element {
+  double atStart;
+  double perDay;
+
+  double At(double t) const { return atStart + perDay * t; }
+};
+
+constexpr Element kSunPerihelion{282.9404, 4.70935e-5};
+constexpr Element kSunAnomaly{356.047, 0.9856002585};
+constexpr Element kSunEccentricity{0.016709, -1.151e-9};  // a number, no angle
+constexpr Element kMoonNode{125.1228, -0.0529538083};
+constexpr Element kMoonPerigee{318.0634, 0.1643573223};
+constexpr Element kMoonAnomaly{115.3654, 13.0649929509};
+constexpr double kMoonEccentricity = 0.0549;
+constexpr double kMoonEccentricityInDegrees = 3.1455382952682194;
+constexpr double kMoonMinorAxis = 0.99698599;  // square of the ratio of the axes
+constexpr double kMoonInclination = 5.1454;
+
+// The mean Moon ahead of the mean Sun.
+constexpr Element kMeanLead{kMoonNode.atStart + kMoonPerigee.atStart + kMoonAnomaly.atStart -
+                                kSunAnomaly.atStart - kSunPerihelion.atStart,
+                            kMoonNode.perDay + kMoonPerigee.perDay + kMoonAnomaly.perDay -
+                                kSunAnomaly.perDay - kSunPerihelion.perDay};
+
+double SunLongitude(double t, double perihelion, double meanAnomaly, Turn anomaly) {
+  const double e = kSunEccentricity.At(t);
+  const Turn eccentric = TurnOf(meanAnomaly + e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
+  return DegreesOf(std::sqrt(1.0 - e * e) * eccentric.sin, eccentric.cos - e) + perihelion;
+}
+
+// Kepler's equation by Newton's method. The first correction is always made.
+Turn MoonEccentricAnomaly(double meanAnomaly, Turn anomaly) {
+  constexpr double kCloseEnough = 0.005;
+  double angle =
+      meanAnomaly + kMoonEccentricityInDegrees * anomaly.sin * (1.0 + kMoonEccentricity * anomaly.cos);
+  for (;;) {
+    const Turn turn = TurnOf(angle);
+    const double correction =
+        (angle - kMoonEccentricityInDegrees * turn.sin - meanAnomaly) / (1.0 - kMoonEccentricity * turn.cos);
+    angle -= correction;
+    if (!(std::abs(correction) >= kCloseEnough)) return TurnOf(angle);
+  }
+}
+
+// On its ellipse, seen from the Earth, projected on the ecliptic.
+double UnperturbedMoonLongitude(double node, double perigee, double meanAnomaly, Turn anomaly) {
+  static const double axes = std::sqrt(kMoonMinorAxis);
+  static const double tilt = TurnOf(kMoonInclination).cos;
+  const Turn eccentric = MoonEccentricAnomaly(meanAnomaly, anomaly);
+  const double x = eccentric.cos - kMoonEccentricity;
+  const double y = axes * eccentric.sin;
+  const Turn turn = TurnOf(perigee);
+  const double along = x * turn.cos - y * turn.sin;  // toward the node
+  const double across = x * turn.sin + y * turn.cos;
+  return DegreesOf(across * tilt, along) + node;
+}
+
+double Perturbations(Turn moon, Turn sun, Turn lead, Turn fromNode) {
+  const Turn lead2 = lead + lead;
+  const Turn moonLessLead2 = moon - lead2;  // the evection's angle
+  return -1.274 * moonLessLead2.sin + 0.658 * lead2.sin - 0.186 * sun.sin -
+         0.059 * (moonLessLead2 + moon).sin - 0.057 * (moonLessLead2 + sun).sin + 0.053 * (moon + lead2).sin +
+         0.046 * (lead2 - sun).sin + 0.041 * (moon - sun).sin - 0.035 * lead.sin - 0.031 * (moon + sun).sin -
+         0.015 * (fromNode + fromNode - lead2).sin + 0.011 * (moonLessLead2 - lead2).sin;
+}
+
+// Whether the day of `angle` is the nearest to the phase angle among its neighbours. Of two equally near days
+// the earlier one is.
+bool IsNearestDay(int before, int angle, int after, int phase) {
+  int centre = phase;
+  if (phase == 0) {  // away from where angles jump from 359 to 0
+    centre = 180;
+    before = (before + 180) % 360;
+    angle = (angle + 180) % 360;
+    after = (after + 180) % 360;
+  }
+  const int u = before - centre;
+  const int w = after - centre;
+  const int s = angle - centre;
+  if (u * w > 0) return false;  // not reached between yesterday and tomorrow
+  if (s * u >= 0) return std::abs(s) <= std::abs(w);
+  return std::abs(s) < std::abs(u);
+}
+
+// The phase whose day an angle may lie on.
+struct Candidate {
+  MoonPhase phase;  // kNoPhase when there is none
+  int angle;
+};
+
+Candidate CandidateOf(int angle) {
+  if (angle < 10 || angle > 350) return {kNewMoon, 0};
+  if (angle >= 261 && angle <= 279) return {kFirstQuarter, 270};
+  if (angle >= 171 && angle <= 189) return {kFullMoon, 180};
+  if (angle >= 81 && angle <= 99) return {kLastQuarter, 90};
+  return {kNoPhase, 0};
+}
+
+// The elongations of the noons around the one looked at, each computed once.
+class CNoonElongations {
+ public:
+  int At(std::int64_t dayNumber) {
+    Noon& noon = m_noons[static_cast<std::size_t>(dayNumber & 3)];
+    if (noon.dayNumber != dayNumber) noon = {dayNumber, MoonElongation(MoonTimeOfNoon(dayNumber))};
+    return noon.angle;
+  }
+
+ private:
+  struct Noon {
+    std::int64_t dayNumber = std::numeric_limits<std::int64_t>::min();
+    int angle = 0;
+  };
+  Noon m_noons[4];
+};
+
+// Whether the mean Moon is too far from all phase angles for the true one to be near. The true Moon is at
+// most 12 degrees away from the mean one in the whole range shown, and its phases are looked for within 10
+// degrees.
+bool IsFarFromPhases(double t) {
+  constexpr double kFar = 23.0;
+  const double lead = kMeanLead.At(t);
+  const double fromPhase = lead - 90.0 * std::floor(lead / 90.0);
+  return fromPhase > kFar && fromPhase < 90.0 - kFar;
+}
+
+}  // namespace
+
+int MoonElongation(double t) {
+  const double sunPerihelion = kSunPerihelion.At(t);
+  const double sunAnomaly = Reduce(kSunAnomaly.At(t));
+  const double node = kMoonNode.At(t);
+  const double perigee = kMoonPerigee.At(t);
+  const double moonAnomaly = Reduce(kMoonAnomaly.At(t));
+  const double fromNode = perigee + moonAnomaly;
+  const double lead = fromNode + node - sunAnomaly - sunPerihelion;
+
+  const Turn sun = TurnOf(sunAnomaly);
+  const Turn moon = TurnOf(moonAnomaly);
+  const double longitude = UnperturbedMoonLongitude(node, perigee, moonAnomaly, moon) +
+                           Perturbations(moon, sun, TurnOf(lead), TurnOf(fromNode));
+  const double elongation = Reduce(SunLongitude(t, sunPerihelion, sunAnomaly, sun) - longitude);
+  return elongation < 360.0 ? static_cast<int>(elongation) : 0;
+}
+
+bool IsPhaseDay(double t, int angle, int phase) {
+  return IsNearestDay(MoonElongation(t - 1.0), angle, MoonElongation(t + 1.0), phase);
+}
+
+MoonPhase MoonPhaseOfDay(const Date& date) {
+  MoonPhase phase = kNoPhase;
+  MoonPhasesOfDays(date.DayNumber(), 1, &phase);
+  return phase;
+}
+
+void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases) {
+  CNoonElongations noons;
+  for (int i = 0; i < count; ++i) {
+    phases[i] = kNoPhase;
+    const std::int64_t dayNumber = std::int64_t{firstDayNumber} + i;
+    if (IsFarFromPhases(MoonTimeOfNoon(dayNumber))) continue;
+    const int angle = noons.At(dayNumber);
+    const Candidate candidate = CandidateOf(angle);
+    if (candidate.phase != kNoPhase &&
+        IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), candidate.angle))
+      phases[i] = candidate.phase;
+  }
+}
+
+}  // namespace orbisol

@@ -1,0 +1,35 @@
+// The four main phases of the moon, a day each.
+//
+// The phase is decided from the difference between the longitudes of the Sun and the Moon at noon. Accuracy
+// is a few hundredths of a degree of the Sun and some tenths of the Moon around 2000, a day or more thousands
+// of years away. Source: P. Schlyter, "Computing planetary positions", mean elements linear in time and the
+// twelve greatest perturbations of the Moon's longitude, with a zero point of its own.
+//
+//   MoonPhaseOfDay(Date(20240125));  // kFullMoon
+#pragma once
+
+#include "core/date.h"
+
+namespace orbisol {
+
+enum MoonPhase : int { kNoPhase = 0, kNewMoon = 1, kFirstQuarter = 2, kFullMoon = 3, kLastQuarter = 4 };
+
+// Time in days from 0 h UT of 31 December 1999; noon of a day is its day number minus that day's, plus 0.5.
+constexpr double MoonTimeOfNoon(std::int64_t dayNumber) {
+  return static_cast<double>(dayNumber - kDayNumber1999Dec31) + 0.5;
+}
+
+// Longitude of the Sun minus that of the Moon, whole degrees 0..359 cut down: 0 new moon, 270 first quarter,
+// 180 full moon, 90 last quarter. Any finite time is accepted.
+int MoonElongation(double t);
+
+// Whether the angle `phase` (0, 90, 180 or 270) is reached on the day of noon t, whose own elongation is
+// `angle`. Only meant for an angle within 10 degrees of the phase: elsewhere it can be true without reason.
+bool IsPhaseDay(double t, int angle, int phase);
+
+MoonPhase MoonPhaseOfDay(const Date& date);
+
+// The phases of `count` days from one on, by the same rule, in a third of the time or less.
+void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases);
+
+}  // namespace orbisol

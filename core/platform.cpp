@@ -1,0 +1,37 @@
+#include "core/platform.h"
+
+#include <ctime>
+
+#include "core/text.h"
+#include "resources/strings.h"
+
+namespace orbisol {
+namespace {
+
+std::u16string Item(int textId, int fromOne) {
+  return std::u16string(Piece(StringText(textId), u'|', fromOne - 1));
+}
+
+const FrenchLocale kFrenchLocale;
+const LocalClock kLocalClock;
+constinit Platform currentPlatform{&kFrenchLocale, &kLocalClock};
+
+}  // namespace
+
+Platform& CurrentPlatform() { return currentPlatform; }
+
+std::u16string FrenchLocale::MonthName(int month) const { return Item(kTextFrenchMonths, month); }
+std::u16string FrenchLocale::MonthAbbrev(int month) const { return Item(kTextFrenchMonthAbbrevs, month); }
+std::u16string FrenchLocale::WeekdayName(int weekday) const { return Item(kTextFrenchWeekdays, weekday); }
+std::u16string FrenchLocale::WeekdayAbbrev(int weekday) const {
+  return Item(kTextFrenchWeekdayAbbrevs, weekday);
+}
+
+YearMonthDay LocalClock::Today() const {
+  const std::time_t now = std::time(nullptr);
+  const std::tm* const local = std::localtime(&now);
+  if (local == nullptr) return {1970, 1, 1};  // a clock beyond what the system can write
+  return {local->tm_year + 1900, local->tm_mon + 1, local->tm_mday};
+}
+
+}  // namespace orbisol

@@ -1,0 +1,88 @@
+#include "core/republican.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "resources/strings.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int k400Years = 146097;
+constexpr int k100Years = 36524;
+constexpr int k4Years = 1461;
+constexpr int kYear = 365;
+
+constexpr int LeapDaysBefore(int year) { return year / 4 - year / 100 + year / 400; }
+
+std::u16string_view Item(int textId, int index) { return Piece(StringText(textId), u'|', index); }
+
+}  // namespace
+
+RepublicanDate ToRepublican(const Date& date) {
+  // Days since the first day of a year 0.
+  const std::int64_t days = std::int64_t{date.DayNumber()} - Date(kRepublicanEpoch).DayNumber() + kYear;
+  const std::int64_t q400 = days / k400Years;
+  auto rest = static_cast<int>(days - k400Years * q400);
+  const int q100 = rest / k100Years;
+  rest -= k100Years * q100;
+  const int q4 = (rest + 1) / k4Years;
+  rest -= k4Years * q4;
+  const int q1 = rest / kYear;
+  auto year = static_cast<int>(400 * q400) + 100 * q100 + 4 * q4 + q1;
+  int dayOfYear = rest - kYear * q1;
+  if (dayOfYear == -1 &&
+      year % 4 == 0) {  // the "+ 1" above took the last day of four years for the next year's
+    --year;
+    dayOfYear = kYear;  // the sixth complementary day
+  }
+  return {year, dayOfYear / 30, dayOfYear % 30};
+}
+
+int ComplementaryDays(int year) {
+  const std::int64_t next = std::int64_t{year} + 1;  // the leap day ends the year before the divisible one
+  return next % 4 == 0 && (next % 100 != 0 || next % 400 == 0) ? 6 : 5;
+}
+
+Date FromRepublican(int year, int month, int day) {
+  const int a = std::clamp(year, 1, kLastRepublicanYear);
+  const int m = std::clamp(month, 1, kComplementaryMonth + 1);
+  const int d = std::clamp(day, 1, m == kComplementaryMonth + 1 ? 6 : 30);
+  Date date(kRepublicanEpoch);
+  date.AddDays(kYear * (a - 1) + LeapDaysBefore(a) + 30 * (m - 1) + d - 1);
+  return date;
+}
+
+std::u16string RomanNumeral(int n) {
+  if (n >= 4999) return {};
+  struct Numeral {
+    int value;
+    std::u16string_view letters;
+  };
+  static constexpr Numeral kNumerals[] = {{1000, u"M"}, {900, u"CM"}, {500, u"D"}, {400, u"CD"}, {100, u"C"},
+                                          {90, u"XC"},  {50, u"L"},   {40, u"XL"}, {10, u"X"},   {9, u"IX"},
+                                          {5, u"V"},    {4, u"IV"},   {1, u"I"}};
+  std::u16string text;
+  for (const Numeral& numeral : kNumerals) {
+    for (; n >= numeral.value; n -= numeral.value) text += numeral.letters;
+  }
+  return text;
+}
+
+std::u16string RepublicanMonthName(int monthIndex) {
+  return std::u16string(Item(kTextRepublicanMonths, monthIndex));
+}
+
+std::u16string RepublicanText(const Date& date) {
+  if (date.DayNumber() < Date(kRepublicanEpoch).DayNumber()) return {};
+  const RepublicanDate republican = ToRepublican(date);
+  const std::u16string roman = RomanNumeral(republican.year);
+  if (republican.monthIndex == kComplementaryMonth)
+    return FormatText(StringText(kTextRepublicanComplementaryDay),
+                      {Item(kTextComplementaryDays, republican.dayIndex), republican.year, roman});
+  return FormatText(StringText(kTextRepublicanDay),
+                    {Item(kTextDecadeDays, republican.dayIndex % 10), republican.dayIndex + 1,
+                     Item(kTextRepublicanMonths, republican.monthIndex), republican.year, roman});
+}
+
+}  // namespace orbisol

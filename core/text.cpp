@@ -1,0 +1,208 @@
+#include "core/text.h"
+
+#include <charconv>
+
+#include "core/packed_date.h"
+
+namespace orbisol {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+void AppendUtf16(std::u16string& out, char32_t c) {
+  if (c < 0x10000) {
+    out += static_cast<char16_t>(c);
+  } else {
+    out += static_cast<char16_t>(0xD7C0 + (c >> 10));
+    out += static_cast<char16_t>(0xDC00 + (c & 0x3FF));
+  }
+}
+
+void AppendUtf8(std::string& out, char32_t c) {
+  const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
+  if (c < 0x80) {
+    out += static_cast<char>(c);
+  } else if (c < 0x800) {
+    out += static_cast<char>(0xC0 | (c >> 6));
+    tail(0);
+  } else if (c < 0x10000) {
+    out += static_cast<char>(0xE0 | (c >> 12));
+    tail(6);
+    tail(0);
+  } else {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
+
+// How the characters that begin with a byte go on: how many bytes follow, and what the first of these may be.
+struct Utf8Lead {
+  int following;  // 0 for a byte that begins no character of more than one byte
+  unsigned char firstMin;
+  unsigned char firstMax;
+};
+
+// The well-formed sequences, table 3-7 of the Unicode standard: no overlong forms, no surrogates, none above
+// U+10FFFF.
+Utf8Lead LeadOf(unsigned char byte) {
+  if (byte < 0xC2 || byte > 0xF4) return {0, 0, 0};
+  if (byte < 0xE0) return {1, 0x80, 0xBF};
+  if (byte == 0xE0) return {2, 0xA0, 0xBF};
+  if (byte == 0xED) return {2, 0x80, 0x9F};
+  if (byte < 0xF0) return {2, 0x80, 0xBF};
+  if (byte == 0xF0) return {3, 0x90, 0xBF};
+  if (byte == 0xF4) return {3, 0x80, 0x8F};
+  return {3, 0x80, 0xBF};
+}
+
+// Upper case of a letter of the Latin, Greek and Cyrillic alphabets; any other unit as it is.
+char16_t Upper(char16_t c) {
+  const auto in = [c](char16_t first, char16_t last) { return c >= first && c <= last; };
+  const auto down = [c](int by) { return static_cast<char16_t>(c - by); };
+  if (in(u'a', u'z') || (in(u'à', u'þ') && c != u'÷')) return down(32);
+  if (c == u'ÿ') return u'Ÿ';
+  if (c == u'ı') return u'I';
+  // Latin Extended-A comes in pairs, the capital first; in two stretches the capital is the odd one.
+  if (in(0x0139, 0x0148) || in(0x0179, 0x017E)) return c % 2 == 0 ? down(1) : c;
+  if (in(0x0100, 0x0137) || in(0x014A, 0x0177)) return c % 2 == 1 ? down(1) : c;
+  if (in(u'α', u'ώ')) {
+    if (c == u'ς') return u'Σ';
+    if (c == u'ό') return u'Ό';
+    if (c == u'ύ' || c == u'ώ') return down(63);
+    return down(32);
+  }
+  if (c == u'ά') return u'Ά';
+  if (in(u'έ', u'ί')) return down(37);
+  if (in(u'а', u'я')) return down(32);
+  if (in(u'ѐ', u'џ')) return down(80);
+  return c;
+}
+
+}  // namespace
+
+std::u16string FromUtf8(std::string_view bytes) {
+  std::u16string out;
+  out.reserve(bytes.size());
+  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  std::size_t i = 0;
+  while (i < bytes.size()) {
+    const unsigned char lead = at(i++);
+    if (lead < 0x80) {
+      out += static_cast<char16_t>(lead);
+      continue;
+    }
+    Utf8Lead rest = LeadOf(lead);
+    char32_t c = lead & (0x3Fu >> rest.following);
+    bool complete = rest.following > 0;
+    for (int k = 0; complete && k < rest.following; ++k) {
+      if (i == bytes.size() || at(i) < rest.firstMin || at(i) > rest.firstMax) {
+        complete = false;  // the byte that does not belong begins the next character
+      } else {
+        c = (c << 6) | (at(i++) & 0x3Fu);
+        rest.firstMin = 0x80;
+        rest.firstMax = 0xBF;
+      }
+    }
+    AppendUtf16(out, complete ? c : kReplacement);
+  }
+  return out;
+}
+
+std::string ToUtf8(std::u16string_view text) {
+  std::string out;
+  out.reserve(text.size() + text.size() / 8);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char16_t unit = text[i];
+    if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+      AppendUtf8(out, 0x10000 + ((char32_t{unit} - 0xD800) << 10) + (char32_t{text[++i]} - 0xDC00));
+    } else {
+      AppendUtf8(out, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : char32_t{unit});
+    }
+  }
+  return out;
+}
+
+std::vector<std::u16string_view> Split(std::u16string_view text, char16_t separator) {
+  std::vector<std::u16string_view> pieces;
+  for (;;) {
+    const std::size_t end = text.find(separator);
+    pieces.push_back(text.substr(0, end));
+    if (end == std::u16string_view::npos) return pieces;
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::u16string_view Piece(std::u16string_view text, char16_t separator, int n) {
+  if (n < 0) return {};
+  for (;; --n) {
+    const std::size_t end = text.find(separator);
+    if (n == 0) return text.substr(0, end);
+    if (end == std::u16string_view::npos) return {};
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what, std::u16string_view by) {
+  std::u16string out;
+  for (;;) {
+    const std::size_t found = text.find(what);
+    out += text.substr(0, found);
+    if (found == std::u16string_view::npos) return out;
+    out += by;
+    text.remove_prefix(found + what.size());
+  }
+}
+
+std::u16string UpperFirst(std::u16string_view text) {
+  std::u16string out(text);
+  if (!out.empty()) out[0] = Upper(out[0]);
+  return out;
+}
+
+std::u16string DecimalText(long long number) {
+  char digits[24];
+  const std::to_chars_result end = std::to_chars(std::begin(digits), std::end(digits), number);
+  return std::u16string(digits, end.ptr);
+}
+
+int ParseDecimal(std::u16string_view text) {
+  std::size_t i = 0;
+  while (i < text.size() && (text[i] == u' ' || (text[i] >= u'\t' && text[i] <= u'\r'))) ++i;
+  bool negative = false;
+  if (i < text.size() && (text[i] == u'-' || text[i] == u'+')) negative = text[i++] == u'-';
+  constexpr long long kBeyond = 100000000000;  // no int reaches it, and ten times as much is no overflow
+  long long number = 0;
+  for (; i < text.size() && text[i] >= u'0' && text[i] <= u'9'; ++i)
+    if (number < kBeyond) number = number * 10 + (text[i] - u'0');
+  return Saturate(negative ? -number : number);
+}
+
+std::u16string FormatText(std::u16string_view pattern, std::initializer_list<FormatArgument> arguments) {
+  std::u16string out;
+  const FormatArgument* next = arguments.begin();
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    if (pattern[i] != u'%') {
+      out += pattern[i];
+      continue;
+    }
+    std::size_t width = 0;
+    for (++i; i < pattern.size() && pattern[i] >= u'0' && pattern[i] <= u'9'; ++i)
+      width = std::min<std::size_t>(width * 10 + (pattern[i] - u'0'), 99);
+    if (i == pattern.size()) return out;
+    if (pattern[i] == u'%') {
+      out += u'%';
+    } else if (next != arguments.end()) {
+      const auto* const text = std::get_if<std::u16string_view>(next);
+      const std::u16string value =
+          text != nullptr ? std::u16string(*text) : DecimalText(*std::get_if<long long>(next));
+      out.append(width > value.size() ? width - value.size() : 0, u' ');
+      out += value;
+      ++next;
+    }
+  }
+  return out;
+}
+
+}  // namespace orbisol

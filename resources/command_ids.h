@@ -1,0 +1,31 @@
+// The numbers of the commands. A command's status and tool-tip texts stand in the string table under its
+// number (strings.h).
+#pragma once
+
+namespace orbisol {
+
+enum CommandId : int {
+  kNoCommand = 0,  // in tables of menus: a separator
+
+  kCmdQuit = 2,
+  kCmdCopyJulianDate = 140,
+  kCmdCopyRepublicanDate = 142,
+  kCmdCopyDate = 261,
+  kCmdPrint = 262,
+  kCmdTogglePane = 263,
+  kCmdEditEvents = 264,
+  kCmdPreferences = 265,
+  kCmdAbout = 896,
+  kCmdFirstMonth = 1051,  // the menu of the months: 1051 January .. 1062 December
+  kCmdLastMonth = 1062,
+  kCmdGoBack = 5201,
+  kCmdGoForward = 5202,
+  kCmdEditVacations = 40027,
+  kCmdChooseCalendar = 40036,
+  kCmdHelpIndex = 57666,
+  kCmdHelpContents = 57670,
+  kCmdToggleToolBar = 59392,
+  kCmdToggleStatusBar = 59393,
+};
+
+}  // namespace orbisol

@@ -1,0 +1,65 @@
+#include "resources/menus.h"
+
+namespace orbisol {
+namespace {
+
+constexpr MenuItem kFileMenu[] = {
+    {kCmdChooseCalendar, u"Autre calendrier...", u""},
+    {kCmdPrint, u"&Imprimer...", u""},
+    {kNoCommand, u"", u""},
+    {kCmdQuit, u"&Quitter", u""},
+};
+
+constexpr MenuItem kEditMenu[] = {
+    {kCmdCopyDate, u"Co&pier la date", u"Ctrl+C"},
+    {kCmdCopyJulianDate, u"Copier la date julienne", u""},
+    {kCmdCopyRepublicanDate, u"Copier la date républicaine", u""},
+};
+
+constexpr MenuItem kViewMenu[] = {
+    {kCmdToggleToolBar, u"Barre d'outils", u"", true},    {kCmdToggleStatusBar, u"Barre d'état", u"", true},
+    {kCmdTogglePane, u"Fenêtre d'infos", u"Space", true}, {kNoCommand, u"", u""},
+    {kCmdGoBack, u"Date précédente", u"Alt+Left"},        {kCmdGoForward, u"Date suivante", u"Alt+Right"},
+};
+
+constexpr MenuItem kToolsMenu[] = {
+    {kCmdPreferences, u"&Personnaliser...", u"F8"},
+    {kCmdEditEvents, u"&Saisir des événements...", u""},
+    {kCmdEditVacations, u"Périodes de &vacances...", u""},
+};
+
+constexpr MenuItem kHelpMenu[] = {
+    {kCmdHelpContents, u"Sommaire...", u""},
+    {kCmdHelpIndex, u"Index...", u""},
+    {kNoCommand, u"", u""},
+    {kCmdAbout, u"À propos...", u""},
+};
+
+constexpr Menu kMainMenu[] = {
+    {u"&Fichier", kFileMenu}, {u"&Édition", kEditMenu}, {u"Affichage", kViewMenu},
+    {u"&Outils", kToolsMenu}, {u"?", kHelpMenu},
+};
+
+constexpr ToolItem kMainToolBar[] = {
+    {kCmdChooseCalendar, "calendars"},
+    {kCmdPrint, "print"},
+    {kCmdCopyDate, "copy"},
+    {kNoCommand, ""},
+    {kCmdGoBack, "back"},
+    {kCmdGoForward, "forward"},
+    {kNoCommand, ""},
+    {kCmdEditEvents, "events"},
+    {kCmdEditVacations, "vacations"},
+    {kCmdPreferences, "preferences"},
+    {kCmdTogglePane, "pane"},
+    {kNoCommand, ""},
+    {kCmdHelpContents, "help"},
+};
+
+}  // namespace
+
+std::span<const Menu> MainMenu() { return kMainMenu; }
+
+std::span<const ToolItem> MainToolBar() { return kMainToolBar; }
+
+}  // namespace orbisol

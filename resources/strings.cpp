@@ -1,0 +1,147 @@
+#include "resources/strings.h"
+
+#include "resources/command_ids.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orbisol {
+namespace {
+
+struct Entry {
+  int id;
+  std::u16string_view text;
+};
+
+constexpr bool ById(const Entry& a, const Entry& b) { return a.id < b.id; }
+
+constexpr Entry kStrings[] = {
+    {kCmdQuit, u"Quitter le programme\nQuitter"},
+    {131, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
+    {132, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
+    {135, u"Installation incorrecte - réinstallez le programme."},
+    {137,
+     u"À date fixe|Relatif à Pâques romain|Relatif à Pâques orthodoxe|Jour semaine donné|"
+     u"Jour sem. avant date (incluse)|Jour sem. après date (incluse)|Bank Holiday (ni sam. ni dim.)|"
+     u"Sauf dimanche"},
+    {138, u"premier|second|troisième|quatrième|dernier|"},
+    {139, u"1er|2e|3e|4e|Der.|"},
+    {kCmdCopyJulianDate, u"Copier la date julienne dans le presse-papier\nCopier la date julienne"},
+    {kCmdCopyRepublicanDate,
+     u"Copier la date républicaine dans le presse-papier\nCopier la date républicaine"},
+    {kCmdCopyDate, u"Copier dans le presse-papier\nCopier (Ctrl+C)"},
+    {kCmdPrint, u"Imprimer le calendrier\nImprimer"},
+    {kCmdTogglePane, u"Afficher le volet droit\nAfficher le volet droit"},
+    {kCmdEditEvents, u"Définir les jours fériés et les événements personnels\nSaisir les événements"},
+    {kCmdPreferences, u"Définir les préférences de dates et d'affichage\nPropriétés"},
+    {280, u"%d AUC | %d av. JC"},
+    {281, u"Nouvelle lune"},
+    {282, u"Premier quartier de lune"},
+    {283, u"Pleine lune"},
+    {284, u"Dernier quartier de lune"},
+    {295, u"s."},
+    {297,
+     u"Couleur du texte d'en-tête|Couleur du fond d'en-tête|Couleur de jour normal|Couleur d'arrière-plan|"
+     u"Couleur du jour férié|Couleur d'arrière-plan du jour férié|Couleur du jour de l'événement|"
+     u"Couleur d'arrière-plan de l'événement|Couleur du jour de vacances|"
+     u"Couleur d'arrière-plan du jour de vacances|Couleur du cadre actif|Couleur du texte grisé|"
+     u"Couleur du texte du titre du mois|Couleur d'arrière-plan du calendrier|"
+     u"Couleur du numéro de semaine"},
+    {299,
+     u"premier|deuxième|troisième|quatrième|cinquième|sixième|septième|huitième|neuvième|dixième|"
+     u"onzième|douzième|treizième|quatorzième|quinzième|seizième|dix-septième|dix-huitième|"
+     u"dix-neuvième"},
+    {300, u"vingtième|trentième|quarantième"},
+    {301, u"vingt|trente|quarante"},
+    {302, u"et-unième"},
+    {303, u"siècle"},
+    {304, u"siècle avant notre ère"},
+    {309, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
+    {kCmdAbout, u"Afficher la version du programme\nÀ propos"},
+    {kTextFrenchMonths,
+     u"janvier|février|mars|avril|mai|juin|juillet|août|septembre|octobre|novembre|décembre"},
+    {kTextFrenchMonthAbbrevs, u"janv.|févr.|mars|avr.|mai|juin|juil.|août|sept.|oct.|nov.|déc."},
+    {kTextFrenchWeekdays, u"lundi|mardi|mercredi|jeudi|vendredi|samedi|dimanche"},
+    {kTextFrenchWeekdayAbbrevs, u"lun.|mar.|mer.|jeu.|ven.|sam.|dim."},
+    {kTextRepublicanMonths,
+     u"vendémiaire|brumaire|frimaire|nivose|pluviose|ventose|germinal|floréal|prairial|messidor|"
+     u"thermidor|fructidor|Complémentaires"},
+    {kTextDecadeDays, u"Primidi|Duodi|Tridi|Quartidi|Quintidi|Sextidi|Septidi|Octidi|Nonidi|Décadi"},
+    {kTextComplementaryDays,
+     u"Jour de la Vertu|Jour du Génie|Jour du Travail|Jour de l'Opinion|Jour de la Récompense|"
+     u"Jour de la Révolution"},
+    {kTextRepublicanDay, u"%s %d %s an %d\n (an %s)"},
+    {kTextRepublicanComplementaryDay, u"%s an %d\n (an %s)"},
+    {kTextProgramName, u"Orbisol"},
+    {kTextCalendarTitle, u"Orbisol - %s"},
+    {kTextGregorianGroup, u"Calendrier grégorien"},
+    {kTextJulianGroup, u"Calendrier julien"},
+    {kTextRepublicanGroup, u"Calendrier républicain"},
+    {kTextDifferenceGroup, u"Écart en jours avec le :"},
+    {kTextShowGroup, u"Afficher"},
+    {kTextFirstDayGroup, u"Premier jour"},
+    {kTextRepublicanEntry, u"Saisir date républicaine"},
+    {kTextGo, u"Ok"},
+    {kTextToday, u"Aujourd'hui"},
+    {kTextFirstDayRepublican, u"&républicain"},
+    {kTextFirstDayGregorian, u"&grégorien"},
+    {kTextFirstDayEra, u"notre èr&e"},
+    {kTextFirstDayJulian, u"&julien"},
+    {kTextJulianDayNumber, u"Jour julien n° %d"},
+    {kTextProlepticGregorian, u"Grégorien proleptique : %s"},
+    {kTextKeepDate, u"Retenir la date affichée|Oublier la date retenue"},
+    {kTextConverterNames,
+     u"Jour républicain|Mois républicain|Année républicaine|Date retenue|Écart en jours"},
+    {kTextCivilYearStart, u"Année civile débutant le %d %s"},
+    {kTextDayCounts, u"%d • %d"},
+    {kTextWeekAndDayCounts, u"[%s %d] %d • %d"},
+    {kTextHeaderNames, u"Navigation|Mois précédent|Mois suivant|Mois : %s|Année : %d|Année"},
+    {kTextHeaderTips, u"Choisir le mois|Saisir l'année"},
+    {kTextToolBarName, u"Barre d'outils"},
+    {kTextToolkitSource,
+     u"Double Sided Printing|Off|Long side binding|Short side binding|Pages|"
+     u"Specify pages or ranges separated by commas. Ranges are specified by two numbers separated by a "
+     u"hyphen. "
+     u"E.g: 3,5-7,9 prints pages 3, 5, 6, 7 and 9.|"
+     u"%1 does not follow the correct syntax. Please use ',' to separate ranges and pages, '-' to define "
+     u"ranges and make sure ranges do not intersect with each other.|"
+     u"Invalid Pages Definition|Printer Properties|Advanced|Page Setup Conflicts|Advanced Option Conflicts|"
+     u"Duplex Settings Conflicts|There are conflicts in some options. Please fix them.|"
+     u"There are conflicts in page setup options. Do you want to fix them?|"
+     u"There are conflicts in some advanced options. Do you want to fix them?|"
+     u"There are conflicts in duplex settings. Do you want to fix them?|"
+     u"Options 'Pages Per Sheet' and 'Page Set' cannot be used together.|Drive|Folder"},
+    {kTextToolkitFrench,
+     u"Impression recto verso|Non|Reliure sur le côté long|Reliure sur le côté court|Pages|"
+     u"Indiquez des pages ou des plages séparées par des virgules. Une plage s'écrit par deux nombres "
+     u"séparés par "
+     u"un trait d'union. Par exemple, 3,5-7,9 imprime les pages 3, 5, 6, 7 et 9.|"
+     u"%1 n'est pas écrit correctement. Séparez les pages et les plages par « , », écrivez les plages avec "
+     u"« - » et faites en sorte qu'elles ne se recouvrent pas.|"
+     u"Pages incorrectes|Propriétés de l'imprimante|Avancé|Conflits de mise en page|"
+     u"Conflits d'options avancées|Conflits de recto verso|"
+     u"Certaines options se contredisent. Veuillez les corriger.|"
+     u"Des options de mise en page se contredisent. Voulez-vous les corriger ?|"
+     u"Des options avancées se contredisent. Voulez-vous les corriger ?|"
+     u"Les réglages de recto verso se contredisent. Voulez-vous les corriger ?|"
+     u"Les options « Pages par feuille » et « Jeu de pages » ne vont pas ensemble.|Disque|Dossier"},
+    {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
+    {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
+    {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
+    {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
+    {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},
+    {kCmdHelpContents, u"Afficher le sommaire de l'aide\nAide"},
+    {kCmdToggleToolBar, u"Afficher ou masquer la barre d'outils\nBarre d'outils"},
+    {kCmdToggleStatusBar, u"Afficher ou masquer la barre d'état\nBarre d'état"},
+};
+static_assert(std::is_sorted(std::begin(kStrings), std::end(kStrings), ById));
+
+}  // namespace
+
+std::u16string_view StringText(int id) {
+  const auto* const found = std::lower_bound(std::begin(kStrings), std::end(kStrings), Entry{id, {}}, ById);
+  if (found == std::end(kStrings) || found->id != id) return {};
+  return found->text;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,54 @@
+// The one table of the texts that the program shows, by number. Several entries are lists whose items are
+// separated by
+// "|"; some hold placeholders for FormatText (core/text.h). Menus and dialogs have tables of their own.
+#pragma once
+
+#include <string_view>
+
+namespace orbisol {
+
+// Our own entries, beside the numbers that commands and controls share with their texts.
+enum TextId : int {
+  kTextFrenchMonths = 5001,
+  kTextFrenchMonthAbbrevs = 5002,
+  kTextFrenchWeekdays = 5003,
+  kTextFrenchWeekdayAbbrevs = 5004,
+  kTextRepublicanMonths = 5011,
+  kTextDecadeDays = 5012,
+  kTextComplementaryDays = 5013,
+  kTextRepublicanDay = 5014,
+  kTextRepublicanComplementaryDay = 5015,
+
+  kTextProgramName = 5100,
+  kTextCalendarTitle = 5101,  // of the main window: the calendar's name
+  kTextGregorianGroup = 5102,
+  kTextJulianGroup = 5103,
+  kTextRepublicanGroup = 5104,
+  kTextDifferenceGroup = 5105,
+  kTextShowGroup = 5106,
+  kTextFirstDayGroup = 5107,
+  kTextRepublicanEntry = 5108,
+  kTextGo = 5109,
+  kTextToday = 5110,
+  kTextFirstDayRepublican = 5111,
+  kTextFirstDayGregorian = 5112,
+  kTextFirstDayEra = 5113,
+  kTextFirstDayJulian = 5114,
+  kTextJulianDayNumber = 5115,
+  kTextProlepticGregorian = 5116,
+  kTextKeepDate = 5117,        // tool tips of the button that remembers a date: not pressed, pressed
+  kTextConverterNames = 5118,  // accessible names: day, month, year, date remembered, difference
+  kTextCivilYearStart = 5120,
+  kTextDayCounts = 5121,
+  kTextWeekAndDayCounts = 5122,
+  kTextHeaderNames = 5123,  // accessible: header, previous, next, month, year, year editor
+  kTextHeaderTips = 5124,   // of the month and of the year
+  kTextToolBarName = 5125,
+  kTextToolkitSource = 5130,  // texts that the toolkit leaves in English, and the same in French
+  kTextToolkitFrench = 5131,
+};
+
+// Empty for a number that the table does not hold.
+std::u16string_view StringText(int id);
+
+}  // namespace orbisol

@@ -1,0 +1,71 @@
+// The machine as a test wants it.
+//
+//   FakeLocale american;
+//   american.dateOrder = 0;
+//   const ScopedPlatform inForce(american, FakeClock({2024, 5, 1}));
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/platform.h"
+
+namespace orbisol {
+
+// French where nothing else is asked for.
+struct FakeLocale : FrenchLocale {
+  int dateOrder = 1;
+  int firstDay = 0;                                                            // 0 Monday .. 6 Sunday
+  int firstWeek = 2;                                                           // as Locale::FirstWeekOfYear
+  std::vector<std::u16string> months, monthAbbrevs, weekdays, weekdayAbbrevs;  // empty: the French ones
+
+  int ShortDateOrder() const override { return dateOrder; }
+  int FirstDayOfWeek() const override { return firstDay; }
+  int FirstWeekOfYear() const override { return firstWeek; }
+  std::u16string MonthName(int month) const override {
+    return months.empty() ? FrenchLocale::MonthName(month) : Item(months, month);
+  }
+  std::u16string MonthAbbrev(int month) const override {
+    return monthAbbrevs.empty() ? FrenchLocale::MonthAbbrev(month) : Item(monthAbbrevs, month);
+  }
+  std::u16string WeekdayName(int weekday) const override {
+    return weekdays.empty() ? FrenchLocale::WeekdayName(weekday) : Item(weekdays, weekday);
+  }
+  std::u16string WeekdayAbbrev(int weekday) const override {
+    return weekdayAbbrevs.empty() ? FrenchLocale::WeekdayAbbrev(weekday) : Item(weekdayAbbrevs, weekday);
+  }
+
+ private:
+  static std::u16string Item(const std::vector<std::u16string>& names, int fromOne) {
+    return fromOne < 1 || fromOne > static_cast<int>(names.size())
+               ? u""
+               : names[static_cast<std::size_t>(fromOne - 1)];
+  }
+};
+
+struct FakeClock : Clock {
+  YearMonthDay today = {2000, 1, 1};
+
+  FakeClock() = default;
+  explicit FakeClock(YearMonthDay day) : today(day) {}
+  YearMonthDay Today() const override { return today; }
+};
+
+// Holds a locale and a clock in force, and puts back what was.
+class ScopedPlatform {
+ public:
+  explicit ScopedPlatform(const FakeLocale& locale, const FakeClock& clock = FakeClock())
+      : m_saved(CurrentPlatform()), m_locale(locale), m_clock(clock) {
+    CurrentPlatform() = {&m_locale, &m_clock};
+  }
+  ~ScopedPlatform() { CurrentPlatform() = m_saved; }
+  ScopedPlatform(const ScopedPlatform&) = delete;
+  ScopedPlatform& operator=(const ScopedPlatform&) = delete;
+
+ private:
+  Platform m_saved;
+  FakeLocale m_locale;
+  FakeClock m_clock;
+};
+
+}  // namespace orbisol

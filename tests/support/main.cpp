@@ -1,0 +1,128 @@
+// The main() of every test program. It gives the process a home, settings, data and temporary folder
+// of its own, so that tests run in any order, side by side, on any account, and never meet the
+// calendars of whoever runs them. A test that crashes leaves its folder behind, to be looked into.
+// Compiled once without Qt and once with a QApplication.
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <system_error>
+
+#include <gtest/gtest.h>
+
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+#endif
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void SetVariable(const char* name, const std::string& value) {
+#ifdef _WIN32
+  _putenv_s(name, value.c_str());
+#else
+  setenv(name, value.c_str(), 1);
+#endif
+}
+
+void DropVariable(const char* name) {
+#ifdef _WIN32
+  _putenv_s(name, "");
+#else
+  unsetenv(name);
+#endif
+}
+
+// The offscreen platform's own screen is 800 x 800, into which the main window does not fit.
+constexpr char kScreens[] = R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1920, "height": 1080,
+  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
+class CPrivateFolders {
+ public:
+  // Makes the folders and points the environment to them. Made() is false when that failed.
+  CPrivateFolders() {
+    std::error_code error;
+    const fs::path common = fs::temp_directory_path(error);
+    std::random_device random;
+    for (int attempt = 0; attempt < 100 && m_root.empty(); ++attempt) {
+      const fs::path root = common / ("orbisol-test-" + std::to_string(random()));
+      if (fs::create_directory(root, error)) m_root = root;
+    }
+    if (m_root.empty()) return;
+    fs::permissions(m_root, fs::perms::owner_all, error);
+
+    struct {
+      const char* variable;
+      const char* folder;
+    } const kFolders[] = {
+        {"HOME", "home"},
+        {"XDG_CONFIG_HOME", "home/.config"},
+        {"XDG_DATA_HOME", "home/.local/share"},
+        {"XDG_CACHE_HOME", "home/.cache"},
+        {"XDG_STATE_HOME", "home/.local/state"},
+        {"XDG_RUNTIME_DIR", "run"},
+        {"XDG_CONFIG_DIRS", "etc"},
+        {"XDG_DATA_DIRS", "share"},
+        {"TMPDIR", "tmp"},
+    };
+    m_made = true;
+    for (const auto& [variable, folder] : kFolders) {
+      const fs::path path = m_root / folder;
+      fs::create_directories(path, error);
+      m_made = m_made && fs::is_directory(path, error);
+      SetVariable(variable, path.string());
+    }
+    fs::permissions(m_root / "run", fs::perms::owner_all, error);  // Qt asks for 0700.
+
+    const fs::path screens = m_root / "screens.json";
+    m_made = m_made && (std::ofstream(screens) << kScreens).flush().good();
+    SetVariable("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.string());
+  }
+
+  ~CPrivateFolders() {
+    std::error_code error;
+    if (!m_root.empty()) fs::remove_all(m_root, error);
+  }
+
+  CPrivateFolders(const CPrivateFolders&) = delete;
+  CPrivateFolders& operator=(const CPrivateFolders&) = delete;
+
+  bool Made() const { return m_made; }
+
+ private:
+  fs::path m_root;
+  bool m_made = false;
+};
+
+// What a desktop session adds to the environment and a test must not depend on.
+void ForgetTheDesktop() {
+  for (const char* name :
+       {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "LANG", "LANGUAGE", "LC_CTYPE", "LC_TIME",
+        "LC_MESSAGES", "LC_NUMERIC", "QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR",
+        "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_PLUGIN_PATH"})
+    DropVariable(name);
+  SetVariable("LC_ALL", "C");
+  SetVariable("TZ", "UTC0");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();  // Nothing runs: nothing is prepared.
+
+  ForgetTheDesktop();
+  const CPrivateFolders folders;
+  if (!folders.Made()) {
+    std::fputs("No private folder could be made for this test.\n", stderr);
+    return EXIT_FAILURE;
+  }
+#ifdef QT_WIDGETS_LIB
+  QApplication application(argc, argv);
+#endif
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,26 @@
+// The judge of core/date.h: the same two conversions, written out one branch after the other as their
+// definition has them, in 64-bit integers, without any thought of speed. The tests compare both on every day;
+// the benches measure them side by side. It knows nothing of `core` and may not.
+//
+// Valid from 1 March -4800 on, where every quantity that is divided is positive.
+#pragma once
+
+#include <cstdint>
+
+namespace orbisol::plain {
+
+struct Reform {
+  int startGregorian;  // packed as in core/packed_date.h
+  bool proleptic;
+};
+
+struct CivilDate {
+  std::int64_t year, month, day;
+
+  bool operator==(const CivilDate&) const = default;
+};
+
+std::int64_t DayNumber(const CivilDate& date, const Reform& reform);
+CivilDate DateOfDayNumber(std::int64_t dayNumber, const Reform& reform);
+
+}  // namespace orbisol::plain
