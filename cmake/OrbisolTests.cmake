@@ -36,10 +36,7 @@ function(orbisol_test name)
   endif()
   if(ORBISOL_PCH)
     target_precompile_headers(${name} REUSE_FROM ${main})
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-      # Through a precompiled header g++ 12 warns of faults inside std::string that it does not see without one.
-      target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
-    endif()
+    orbisol_quiet_precompiled(${name})
   endif()
 
   # The tests of a program are asked for when ctest begins: a broken one fails the run, not the build.

@@ -48,8 +48,11 @@ struct CalendarConfig {
   // possibly negative) for earlier ones. The early leap years count in it: set `proleptic` first.
   void ApplyGregorianStart(PackedDate start);
 
-  // Whether the reform removed this date. Any packed value is accepted.
-  bool IsDropped(PackedDate date) const { return julianEquivalentOfStart <= date && date < startGregorian; }
+  // Whether the reform removed this date: by days, so that a reform in the first centuries or before the era,
+  // where the Gregorian date is the earlier one, removes none. Any packed value is accepted.
+  bool IsDropped(PackedDate date) const {
+    return DayOrder(julianEquivalentOfStart) <= DayOrder(date) && DayOrder(date) < DayOrder(startGregorian);
+  }
 
   bool operator==(const CalendarConfig&) const = default;
 };

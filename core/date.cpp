@@ -42,16 +42,9 @@ constexpr int AbsoluteRest(PackedDate packed) {
   return rest < 0 ? -rest : rest;
 }
 
-// Integers in the order of the days: packed dates of a year before the era run backwards.
-constexpr int OrderKey(PackedDate packed) { return packed >= 0 ? packed : packed + 2 * AbsoluteRest(packed); }
-constexpr std::int64_t OrderKey(int year, int month, int day) {
-  return std::int64_t{year} * 10000 + MonthDay(month, day);
-}
-static_assert(OrderKey(-440315) == OrderKey(-44, 3, 15) && OrderKey(-440315) > OrderKey(-440101));
-
 // The dates whose day number the early leap years decide.
-constexpr std::int64_t kEarlyFrom = OrderKey(-43, 1, 1);
-constexpr std::int64_t kEarlyTo = OrderKey(4, 2, 28);
+constexpr std::int64_t kEarlyFrom = DayOrder(-43, 1, 1);
+constexpr std::int64_t kEarlyTo = DayOrder(4, 2, 28);
 
 // Days from 1 March to the first of `month`, where January and February are the months 13 and 14 of the year
 // before. C. Tøndering, Calendar FAQ, "The Julian Period".
@@ -170,8 +163,8 @@ bool DateIsBefore(int year, std::int64_t monthDay, PackedDate packed) {
 }  // namespace
 
 int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic) {
-  const std::int64_t key = OrderKey(year, month, day);
-  const std::int64_t sinceReform = key - OrderKey(startGregorian);
+  const std::int64_t key = DayOrder(year, month, day);
+  const std::int64_t sinceReform = key - DayOrder(startGregorian);
   if (key >= kEarlyFrom && key <= kEarlyTo && !proleptic && sinceReform < 0)
     return EarlyDayNumber(year, month, day);
   if (!IsEveryday(year, month, day)) return DayNumberOfAny(year, month, day, sinceReform >= 0);

@@ -142,6 +142,8 @@ class CNoonElongations {
   Noon m_noons[4];
 };
 
+constexpr int kLeastGap = 6;  // days from one phase to the next, at the fewest
+
 // Whether the mean Moon is too far from all phase angles for the true one to be near. The true Moon is at
 // most 12 degrees away from the mean one in the whole range shown, and its phases are looked for within 10
 // degrees.
@@ -190,8 +192,10 @@ void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases) {
     const int angle = noons.At(dayNumber);
     const Candidate candidate = CandidateOf(angle);
     if (candidate.phase != kNoPhase &&
-        IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), candidate.angle))
+        IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), candidate.angle)) {
       phases[i] = candidate.phase;
+      for (int next = 1; next < kLeastGap && i + 1 < count; ++next) phases[++i] = kNoPhase;
+    }
   }
 }
 

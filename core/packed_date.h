@@ -49,6 +49,16 @@ constexpr YearMonthDay Unpack(PackedDate packed) {
   return {year, monthDay / 100, monthDay % 100};
 }
 
+// An integer that rises with the days also before the era, for packed dates and for their fields.
+constexpr std::int64_t DayOrder(int year, int month, int day) {
+  return std::int64_t{year} * 10000 + MonthDay(month, day);
+}
+constexpr std::int64_t DayOrder(PackedDate packed) {
+  const std::int64_t rest = packed % 10000;
+  return packed >= 0 ? packed : packed - 2 * rest;
+}
+
+static_assert(DayOrder(-440315) == DayOrder(-44, 3, 15) && DayOrder(-440315) > DayOrder(-440101));
 static_assert(Unpack(-440315) == YearMonthDay{-44, 3, 15} && Pack(-44, 3, 15) == -440315);
 static_assert(Unpack(301) == YearMonthDay{0, 3, 1} && Pack(0, 3, 1) == 301);
 

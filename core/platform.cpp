@@ -9,6 +9,8 @@ namespace orbisol {
 namespace {
 
 std::u16string Item(int textId, int fromOne) {
+  if (fromOne < 1) return {};
+
   return std::u16string(Piece(StringText(textId), u'|', fromOne - 1));
 }
 

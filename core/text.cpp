@@ -82,6 +82,12 @@ char16_t Upper(char16_t c) {
 
 }  // namespace
 
+std::u16string_view CutText(std::u16string_view text, std::size_t maxUnits) {
+  if (text.size() <= maxUnits) return text;
+  if (maxUnits > 0 && IsHighSurrogate(text[maxUnits - 1]) && IsLowSurrogate(text[maxUnits])) --maxUnits;
+  return text.substr(0, maxUnits);
+}
+
 std::u16string FromUtf8(std::string_view bytes) {
   std::u16string out;
   out.reserve(bytes.size());

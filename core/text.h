@@ -15,11 +15,7 @@ constexpr bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <=
 constexpr bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 // The first `maxUnits` units of a text, one less where that would cut a surrogate pair in two.
-constexpr std::u16string_view CutText(std::u16string_view text, std::size_t maxUnits) {
-  if (text.size() <= maxUnits) return text;
-  if (maxUnits > 0 && IsHighSurrogate(text[maxUnits - 1]) && IsLowSurrogate(text[maxUnits])) --maxUnits;
-  return text.substr(0, maxUnits);
-}
+std::u16string_view CutText(std::u16string_view text, std::size_t maxUnits);
 
 // A text held in place: at most N - 1 UTF-16 units and a zero. A longer text is cut, never refused; a zero
 // inside a text ends it.

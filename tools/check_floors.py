@@ -28,7 +28,9 @@ FLOORS = [
 ]
 
 # Geometry in plain integers, on floors that otherwise draw.
-WITHOUT_QT = ["ui/month/month_layout.", "ui/month/header_layout.", "ui/print/page_layout."]
+WITHOUT_QT = [
+    "ui/month/month_layout.", "ui/month/header_layout.", "ui/print/page_layout.", "ui/shell/main_layout.",
+]
 
 # Inside core the headers have an order too; a source may look upward.
 CORE_HEADERS = ["core/packed_date.h", "core/calendar_config.h", "core/date.h", "core/civil_year.h"]

@@ -27,8 +27,8 @@ def touched():
     return set(names)
 
 
-def without_precompiled(words):
-    """Drops '-include .../cmake_pch.hxx' and what goes with it: clang cannot read g++'s form."""
+def for_clang(words):
+    """Drops '-include .../cmake_pch.hxx', which clang cannot read in g++'s form, and what only g++ knows."""
     kept = []
     for word in words:
         if word.endswith("cmake_pch.hxx") and kept:
@@ -36,7 +36,7 @@ def without_precompiled(words):
                 kept.pop()
         elif word not in ("-Winvalid-pch", "-fprofile-abs-path"):
             kept.append(word)
-    return kept
+    return kept + ["-Wno-unknown-warning-option"]
 
 
 def main(commands_path, out_folder, *options):
@@ -51,7 +51,7 @@ def main(commands_path, out_folder, *options):
         path = os.path.realpath(os.path.join(entry["directory"], entry["file"]))
         if path.startswith(build + os.sep) or not path.endswith(".cpp"):
             continue  # made by the build
-        words = without_precompiled(shlex.split(entry["command"]))
+        words = for_clang(shlex.split(entry["command"]))
         kept.append({"directory": entry["directory"], "file": path, "command": shlex.join(words)})
         has_qt = any(re.search(r"-DQT_CORE_LIB\b", word) for word in words)
         relative = os.path.relpath(path, root)

@@ -24,7 +24,8 @@ class CAnyNumbers {
     constexpr int kEdges[] = {INT_MIN, INT_MIN + 1, INT_MAX, INT_MAX - 1, 0,         1,
                               -1,      12,          13,      31,          -47120101, -80229,
                               -440101, 40228,       101,     15821015,    1 << 30,   -(1 << 30),
-                              1718198, 1704987,     2299161, -21474836,   214748,    -214748};
+                              1718198, 1704987,     2299161, -21474836,   214748,    -214748,
+                              -32045,  -32000,      -4801,   -4800,       1000000,   365000000};
     if (m_random() % 4 == 0) return kEdges[m_random() % std::size(kEdges)];
     return static_cast<int>(m_random()) >> (m_random() % 32);
   }

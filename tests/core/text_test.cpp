@@ -145,6 +145,7 @@ TEST(TextTest, PatternsAreFilledInOrder) {
   EXPECT_EQ(FormatText(u"%s %d, %d", {u"mai"sv, 5, -44}), u"mai 5, -44");
   EXPECT_EQ(FormatText(u"[%2d] [%2d] [%2d] [%4s]", {1, 12, 123, u"a"sv}), u"[ 1] [12] [123] [   a]");
   EXPECT_EQ(FormatText(u"100 %% %s", {u"%d"sv}), u"100 % %d");
+  EXPECT_EQ(FormatText(u"[%10d]", {-7}), u"[        -7]");
   EXPECT_EQ(FormatText(u"%d|%s|", {}), u"||");
   EXPECT_EQ(FormatText(u"a", {1, 2}), u"a");
   EXPECT_EQ(FormatText(u"%d %", {1}), u"1 ");
