@@ -1,0 +1,73 @@
+// The cells of one month, laid out by weeks, with all that a view draws in them.
+//
+//   MonthModel model;
+//   model.year = 2024;
+//   model.month = 5;
+//   model.Build(content, settings.colors, MonthModel::kWithMoon);
+//   for (int i = model.FirstCell(); i <= model.LastCell(); ++i) …
+//
+// A row holds seven consecutive cells. Monday-first weeks (iso8601) begin at index 1 and leave index 0 empty,
+// Sunday-first weeks begin at index 0. Cells before day 1 and after the last day complete their rows with
+// days of the neighbouring months; at the two ends of the range shown they stay empty.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "content/calendar_content.h"
+#include "settings/display_settings.h"
+
+namespace orbisol {
+
+constexpr int kCellCount = 45;
+constexpr int kNoCell = -1;
+
+constexpr unsigned kHolidayCell = 1;  // bits of DayCell::marks
+constexpr unsigned kEventCell = 2;
+constexpr unsigned kVacationCell = 4;
+
+struct DayCell {
+  int day = 0;      // of the month; 0 in an empty cell
+  int weekday = 0;  // 0 Sunday .. 6
+  int week = 0;     // 1..53
+  int month = 0;    // of the cell's own date, also in cells of the neighbouring months
+  PackedDate ymd = 0;
+  int moonPhase = 0;  // MoonPhase
+  unsigned marks = 0;
+  Color backColor = 0;
+  Color textColor = 0;
+  std::u16string vacationTitle;
+  std::u16string holidayText;  // public holidays, joined by " + "
+  std::u16string eventText;    // other rules, likewise
+};
+
+struct MonthModel {
+  enum Moon { kWithoutMoon, kWithMoon };
+
+  std::array<DayCell, kCellCount> cells;
+  int year = 0;
+  int month = 0;  // 1..12
+  int day = 1;    // kept by Build
+
+  // Computes all cells under the rules in force. Where the reform removed the 1st of the month, the model's
+  // date becomes the first day that exists from there on, and stays so; of a month that it removed whole that
+  // is a day of the next one. On purpose: a public holiday hides the personal events of
+  // its day; a day's text color is that of holiday or event before vacation, its background that of vacation
+  // before holiday before event; days of the neighbouring months have no moon and no marks but that of a
+  // vacation period.
+  void Build(const CalendarContent& content, const std::array<Color, kColorCount>& colors, Moon moon);
+
+  int FirstCell() const {
+    return m_firstCell;
+  }  // where the first row begins: 1 with Monday-first weeks, else 0
+  int LastCell() const { return m_lastCell; }  // the last cell filled, kNoCell before Build
+
+  // The first cell with that month and day, whatever its year; kNoCell when there is none.
+  int CellOf(int ofMonth, int ofDay) const;
+
+ private:
+  int m_firstCell = 1;
+  int m_lastCell = kNoCell;
+};
+
+}  // namespace orbisol

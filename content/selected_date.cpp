@@ -1,0 +1,72 @@
+#include "content/selected_date.h"
+
+namespace orbisol {
+namespace {
+
+constexpr YearMonthDay kFirst = Unpack(kFirstDateShown);
+constexpr YearMonthDay kLast = Unpack(kLastDateShown);
+
+bool LiesBeforeFirst(const Date& date) {
+  return date.year < kFirst.year ||
+         (date.year == kFirst.year && MonthDay(date.month, date.day) < MonthDay(kFirst.month, kFirst.day));
+}
+
+bool LiesAfterLast(const Date& date) {
+  return date.year > kLast.year ||
+         (date.year == kLast.year && MonthDay(date.month, date.day) > MonthDay(kLast.month, kLast.day));
+}
+
+bool IsEarlier(const Date& date, const Date& other) {
+  return date.year != other.year ? date.year < other.year
+                                 : MonthDay(date.month, date.day) < MonthDay(other.month, other.day);
+}
+
+}  // namespace
+
+Date& Selected() {
+  static Date selected = [] {
+    Date today = Date::Today();
+    ClampToBounds(today);
+    return today;
+  }();
+  return selected;
+}
+
+bool IsWithinBounds(const Date& date) { return !LiesBeforeFirst(date) && !LiesAfterLast(date); }
+
+void ClampToBounds(Date& date) {
+  if (LiesBeforeFirst(date)) date.SetPacked(kFirstDateShown);
+  if (LiesAfterLast(date)) date.SetPacked(kLastDateShown);
+}
+
+void StepDays(Date& date, int days) {
+  // Some days read as a date that has another day's number: 29 February -8 has that of 1 March, and after a
+  // reform before the year 200 dates come twice. A step back that ends on such a day is no step back, and
+  // goes on until the date is an earlier one. The longest repeat, of a reform at the very beginning, is 32
+  // days.
+  constexpr int kLongestRepeat = 40;
+  const Date start = date;
+  std::int64_t dayNumber = std::int64_t{start.DayNumber()} + days;
+  date.SetDayNumber(Saturate(dayNumber));
+  for (int i = 0; days < 0 && i < kLongestRepeat && !IsEarlier(date, start); ++i)
+    date.SetDayNumber(Saturate(--dayNumber));
+  ClampToBounds(date);
+}
+
+void StepMonths(Date& date, int months) {
+  date.AddMonths(months);
+  ClampToBounds(date);
+}
+
+void StepYears(Date& date, int years) {
+  SelectDate(date, Saturate(std::int64_t{date.year} + years), date.month, date.day);
+}
+
+void SelectDate(Date& date, int year, int month, int day) {
+  date.year = year;
+  date.month = month;
+  date.day = day;
+  ClampToBounds(date);
+}
+
+}  // namespace orbisol

@@ -1,0 +1,29 @@
+// The selected date, shared by all views, with the steps that keys, wheel and arrows make.
+//
+// It always lies within -3999-01-01 … 3999-12-31. A date that does not exist (29 February 2025 after a step
+// of a year) is kept.
+//
+//   Date& selected = Selected();
+//   StepDays(selected, -1);
+#pragma once
+
+#include "core/date.h"
+
+namespace orbisol {
+
+constexpr PackedDate kFirstDateShown = -39990101;
+constexpr PackedDate kLastDateShown = 39991231;
+
+// The selected date. Today until something else is selected; the first call asks the clock.
+Date& Selected();
+
+bool IsWithinBounds(const Date& date);
+void ClampToBounds(Date& date);
+
+// Each ends within the bounds. Any number is accepted.
+void StepDays(Date& date, int days);      // back when negative; a step back of one day always leaves the date
+void StepMonths(Date& date, int months);  // the day is pulled back into a shorter month
+void StepYears(Date& date, int years);    // month and day unchanged, also where that day does not exist
+void SelectDate(Date& date, int year, int month, int day);  // keeps dateOrder
+
+}  // namespace orbisol
