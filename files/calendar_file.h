@@ -1,0 +1,47 @@
+// A calendar as its file holds it, and the file's bytes.
+//
+//   CalendarFile calendar = ReadCalendar(bytes, Display());  // touches nothing that is in force
+//   calendar.content.dayEvents.push_back(rule);
+//   bytes = WriteCalendar(calendar, CalendarForm::kUser);
+//
+// A file is UTF-8 with CR LF line ends: a line that calls itself XML, then <CalendarParams> and
+// <CalendarEvents>. Any bytes are read: what is missing takes its default, a malformed record is dropped,
+// malformed UTF-8 becomes U+FFFD, a byte-order mark is ignored. Written again, what was read gives the same
+// bytes from the first time on.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "content/calendar_content.h"
+#include "core/calendar_config.h"
+#include "settings/display_settings.h"
+
+namespace orbisol {
+
+struct CalendarFile {
+  DisplaySettings display;  // font, background picture and colors are the file's, all else the reader's
+  CalendarRules rules;
+  CalendarContent content;
+  std::u16string info;  // what a public calendar says about itself; empty in most files
+
+  bool operator==(const CalendarFile&) const = default;
+};
+
+enum class CalendarForm {
+  kUser,    // with the nine parameters
+  kPublic,  // holidays alone: the block of parameters stays empty
+};
+
+// `before` gives what no file sets: layouts, switches, names. What a file may set and does not is at its
+// default.
+CalendarFile ReadCalendar(std::string_view bytes, const DisplaySettings& before = {});
+
+std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form);
+
+// Whether a file holds anything that would be gone after it was read and written: a record that is not
+// accepted or stands behind an empty one, an element no one knows, text outside the elements, a value cut or
+// replaced. Order, line ends and the dates of older releases are no loss.
+bool HoldsMore(std::string_view bytes, CalendarForm form);
+
+}  // namespace orbisol

@@ -1,0 +1,122 @@
+#include "files/calendar_params.h"
+
+#include <algorithm>
+
+#include "files/elements.h"
+
+namespace orbisol {
+
+namespace {
+
+constexpr Color kColorMask = 0xFFFFFF;
+constexpr std::size_t kHexDigits = 6;
+
+std::u16string Value(std::u16string_view block, std::u16string_view tag, std::u16string_view ifMissing = {}) {
+  std::ptrdiff_t position = 0;
+  return GetElement(block, tag, position, ifMissing);
+}
+
+int HexDigit(char16_t unit) {
+  if (unit >= u'0' && unit <= u'9') return unit - u'0';
+  if (unit >= u'a' && unit <= u'f') return unit - u'a' + 10;
+  if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
+  return -1;
+}
+
+// Reads like a decimal number: digits up to the first other character, "00zz11" is 0.
+Color HexNumber(std::u16string_view text) {
+  Color number = 0;
+  for (const char16_t unit : text) {
+    const int digit = HexDigit(unit);
+    if (digit < 0) break;
+    number = number << 4 | static_cast<Color>(digit);
+  }
+  return number & kColorMask;
+}
+
+// Cuts the next piece off a list whose pieces end in ";", the last one possibly without. Empty pieces are
+// skipped. False when there is none left.
+bool NextPiece(std::u16string_view& list, std::u16string_view& piece) {
+  list.remove_prefix(std::min(list.find_first_not_of(u';'), list.size()));
+  piece = list.substr(0, list.find(u';'));
+  list.remove_prefix(piece.size());
+  return !piece.empty();
+}
+
+void ReadColors(std::u16string_view table, std::array<Color, kColorCount>& colors) {
+  // On purpose: a malformed piece leaves its color alone and still counts.
+  std::u16string_view piece;
+  for (std::size_t i = 0; i < colors.size() && NextPiece(table, piece); ++i)
+    if (piece.size() == 1 + kHexDigits && piece[0] == u'#') colors[i] = HexNumber(piece.substr(1));
+}
+
+std::u16string ColorsText(const std::array<Color, kColorCount>& colors) {
+  std::u16string out;
+  for (const Color color : colors) {
+    out += u'#';
+    for (int shift = 4 * (static_cast<int>(kHexDigits) - 1); shift >= 0; shift -= 4)
+      out += u"0123456789abcdef"[color >> shift & 0xF];
+    out += u';';
+  }
+  return out;
+}
+
+// A date of 0 ends the table for everything that scans it, so nothing is read behind one.
+void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
+  std::u16string_view piece;
+  for (int row = 0; row < kCivilYearRows && NextPiece(table, piece); ++row) {
+    const bool plusOne = piece[0] == u'+';
+    const PackedDate from = ParseDecimal(plusOne ? piece.substr(1) : piece);
+    if (from == 0) return;
+    config.firstDayOfYear[row] = {from, plusOne};
+  }
+}
+
+std::u16string CivilYearsText(const CalendarConfig& config) {
+  std::u16string out;
+  for (const CivilYearStart* row = config.firstDayOfYear; row->from != 0; ++row) {
+    if (row->plusOne) out += u'+';
+    out += DecimalText(row->from);
+    out += u';';
+  }
+  return out;
+}
+
+}  // namespace
+
+void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, CalendarRules& rules) {
+  display.backgroundImage = Value(block, u"bgImage", u"1") == u"1";
+  display.backgroundImagePath.Set(Value(block, u"bgImagePath"));
+  display.fontName.Set(Value(block, u"fontName"));
+  display.fontWeight = ParseDecimal(Value(block, u"fontWeight", u"400"));
+  ReadColors(Value(block, u"colorTable"), display.colors);
+
+  rules = DefaultCalendarRules();
+  rules.proleptic = Value(block, u"proleptic") == u"1";
+  rules.ApplyGregorianStart(
+      GregorianStartOrDefault(ParseDecimal(Value(block, u"startGregorian", u"15821015"))));
+  const int iso8601 = ParseDecimal(Value(block, u"iso8601", u"-1"));
+  if (iso8601 != -1) rules.iso8601 = iso8601 != 0;
+  ReadCivilYears(Value(block, u"firstDayOfYear"), rules);
+}
+
+std::u16string CalendarParamsText(const DisplaySettings& display, const CalendarRules& rules) {
+  std::u16string out;
+  const auto line = [&](std::u16string_view tag, std::u16string_view value) {
+    out += u'\t';
+    out += MakeElement(value, tag);
+  };
+  const auto flag = [](bool on) { return on ? u"1" : u"0"; };
+  line(u"bgImage", flag(display.backgroundImage));
+  line(u"bgImagePath", display.backgroundImagePath.View());
+  line(u"fontName", display.fontName.View());
+  line(u"fontWeight", DecimalText(display.fontWeight));
+  line(u"colorTable", ColorsText(display.colors));
+  line(u"proleptic", flag(rules.proleptic));
+  line(u"startGregorian", DecimalText(rules.startGregorian));
+  line(u"iso8601", flag(rules.iso8601));
+  line(u"firstDayOfYear", CivilYearsText(rules));
+  return out;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,22 @@
+// The first block of a calendar file: how the calendar looks and which calendar rules it follows.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/calendar_config.h"
+#include "settings/display_settings.h"
+
+namespace orbisol {
+
+// Sets font, background picture and colors of `display`, and all rules, from the content of the block,
+// whatever the order of its elements. Missing or empty: picture shown, weight 400, no texts, Roman reform,
+// early leap years as they were, no civil-year rows, iso8601 from the user's locale; colors are left as they
+// are where the table does not name them. A first Gregorian day that is 0 or no date is read as the Roman
+// reform.
+void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, CalendarRules& rules);
+
+// The nine lines of the block, each behind a tab.
+std::u16string CalendarParamsText(const DisplaySettings& display, const CalendarRules& rules);
+
+}  // namespace orbisol

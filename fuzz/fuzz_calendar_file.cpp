@@ -1,0 +1,42 @@
+// Any bytes are a calendar file. What was read and written once stays as it is from then on, holds nothing
+// more, and every record of it is accepted.
+
+#include <cstdint>
+#include <cstdlib>
+
+#include "files/calendar_file.h"
+
+namespace {
+
+void Check(bool holds) {
+  if (!holds) std::abort();
+}
+
+// Returns what comes back.
+orbisol::CalendarFile CheckForm(const orbisol::CalendarFile& read, orbisol::CalendarForm form) {
+  const std::string once = WriteCalendar(read, form);
+  orbisol::CalendarFile again = orbisol::ReadCalendar(once);
+  Check(WriteCalendar(again, form) == once);
+  Check(!HoldsMore(once, form));
+  return again;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const orbisol::CalendarRules before = orbisol::Rules();
+  const orbisol::CalendarFile read = orbisol::ReadCalendar(bytes);
+  const orbisol::CalendarFile again = CheckForm(read, orbisol::CalendarForm::kUser);
+  Check(again.content.dayEvents.size() == read.content.dayEvents.size());
+  Check(again.content.holidays.size() == read.content.holidays.size());
+  Check(again.rules == read.rules);
+  if (size % 4 == 0) {
+    // A public calendar follows the rules of whoever reads it: what other rules alone accepted is gone.
+    const std::string holidays = WriteCalendar(read, orbisol::CalendarForm::kPublic);
+    CheckForm(orbisol::ReadCalendar(holidays), orbisol::CalendarForm::kPublic);
+  }
+  HoldsMore(bytes, orbisol::CalendarForm::kUser);
+  Check(orbisol::Rules() == before);
+  return 0;
+}

@@ -1,0 +1,92 @@
+// A folder of calendars in memory, with faults on demand.
+//
+//   CMemoryFiles files;
+//   files.Put(u"/user/A.xml", "…");     // as somebody else writes
+//   files.failingWrites.insert(u"/user/A.xml.bak");
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "files/files.h"
+
+namespace orbisol {
+
+class CMemoryFiles : public Files {
+ public:
+  struct File {
+    std::string bytes;
+    FileStamp stamp;
+  };
+  std::map<std::u16string, File> files;  // by path
+  std::map<std::u16string, File> trash;
+  std::set<std::u16string> unreadable;     // they exist, and no more can be said of them
+  std::set<std::u16string> failingWrites;  // they stay as they are
+  std::function<void()> beforeReplace;     // somebody else, at the last moment; called once
+  bool trashFails = false;
+
+  void Put(const std::u16string& path, std::string_view bytes) {
+    File& file = files[path];
+    file.bytes = bytes;
+    file.stamp = {true,
+                  1,
+                  ++m_clock,
+                  bytes.size(),
+                  static_cast<std::int64_t>(m_clock),
+                  std::hash<std::string_view>()(bytes)};
+  }
+
+  std::u16string CalendarFolder() const override { return u"/user"; }
+  std::u16string UserLegalsFolder() const override { return u"/user/Legals"; }
+  std::u16string ShippedLegalsFolder() const override { return u"/share/Legals"; }
+
+  std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const override {
+    std::vector<std::u16string> names;
+    for (const auto& [path, file] : files) {
+      const std::size_t slash = path.rfind(u'/');
+      if (path.substr(0, slash) == folder && path.ends_with(ending)) names.push_back(path.substr(slash + 1));
+    }
+    return names;
+  }
+
+  bool Exists(std::u16string_view path) const override {
+    return files.count(std::u16string(path)) > 0 || unreadable.count(std::u16string(path)) > 0;
+  }
+
+  std::optional<FileBytes> Read(std::u16string_view path) const override {
+    const auto found = files.find(std::u16string(path));
+    if (found == files.end() || unreadable.count(found->first) > 0) return std::nullopt;
+    return FileBytes{found->second.bytes, found->second.stamp};
+  }
+
+  WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
+                      FileStamp* stamp) override {
+    if (beforeReplace) std::exchange(beforeReplace, nullptr)();
+    const std::u16string key(path);
+    if (failingWrites.count(key) > 0) return WriteResult::kFailed;
+    const auto found = files.find(key);
+    if (expected != nullptr && *expected != (found == files.end() ? FileStamp() : found->second.stamp))
+      return WriteResult::kChanged;
+    Put(key, bytes);
+    if (stamp != nullptr) *stamp = files[key].stamp;
+    return WriteResult::kWritten;
+  }
+
+  bool MoveToTrash(std::u16string_view path) override {
+    const auto found = files.find(std::u16string(path));
+    if (found == files.end() || trashFails) return false;
+    trash[found->first] = found->second;
+    files.erase(found);
+    return true;
+  }
+
+ private:
+  std::uint64_t m_clock = 0;
+};
+
+}  // namespace orbisol
