@@ -1,0 +1,55 @@
+#include "platform/desktop_store.h"
+
+#include <utility>
+
+#include "platform/posix_file.h"
+#include "settings/registry_text.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int kAttempts = 10;  // against an editor that saves again and again
+
+// Empty when there is no key.
+std::string KeyFile(const std::vector<std::string>& files) {
+  for (const std::string& file : files)
+    if (FileExists(file)) return file;
+  return {};
+}
+
+}  // namespace
+
+CDesktopStore::CDesktopStore(std::vector<std::string> files, std::chrono::milliseconds patience)
+    : m_files(std::move(files)), m_patience(patience) {}
+
+std::optional<StoredValues> CDesktopStore::Read() const {
+  const std::optional<FileBytes> file = ReadWholeFile(KeyFile(m_files));
+  if (!file) return {};
+  return CRegistryText(file->bytes).Values();
+}
+
+bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
+  if (KeyFile(m_files).empty()) return false;
+  const std::string& own = m_files.front();
+  const CFileLock lock(own + ".lock", m_patience);
+  if (!lock.IsHeld()) return false;
+
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    const std::string key = KeyFile(m_files);
+    const std::optional<FileBytes> file = ReadWholeFile(key);
+    if (!file) return false;
+    CRegistryText text(file->bytes);
+    for (const StoreChange& change : changes) {
+      if (!change.value)
+        text.Delete(change.name);
+      else if (!text.Set(change.name, *change.value))
+        return false;
+    }
+    const FileStamp expected = key == own ? file->stamp : FileStamp{};
+    const WriteResult result = ReplaceFile(own, text.Bytes(), &expected, nullptr);
+    if (result != WriteResult::kChanged) return result == WriteResult::kWritten;
+  }
+  return false;
+}
+
+}  // namespace orbisol

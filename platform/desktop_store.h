@@ -1,0 +1,31 @@
+// The settings of a Linux desktop: a text file of the user's (settings/registry_text.h), which is replaced
+// whole and under a lock, so that two processes that write at once lose nothing of each other's.
+//
+//   CDesktopStore store(DesktopFolders().stores);
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "settings/settings_store.h"
+
+namespace orbisol {
+
+class CDesktopStore : public SettingsStore {
+ public:
+  // The first file that exists is the key, whole; one that exists and cannot be read is a key that cannot be
+  // read. Writing goes to the first of the list alone, which begins as a copy of the key.
+  explicit CDesktopStore(std::vector<std::string> files,
+                         std::chrono::milliseconds patience = std::chrono::seconds(3));
+
+  std::optional<StoredValues> Read() const override;
+  // Waits at most the patience for a process that writes at the same moment.
+  bool Write(const std::vector<StoreChange>& changes) override;
+
+ private:
+  std::vector<std::string> m_files;
+  std::chrono::milliseconds m_patience;
+};
+
+}  // namespace orbisol

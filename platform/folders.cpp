@@ -1,0 +1,69 @@
+#include "platform/folders.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <sstream>
+
+namespace orbisol {
+namespace {
+
+bool IsAbsolute(const std::string& path) { return !path.empty() && path[0] == '/'; }
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "" : path.substr(0, slash);
+}
+
+std::string Variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+std::string HomeOfAccount() {
+  const passwd* const account = getpwuid(getuid());
+  return account == nullptr || account->pw_dir == nullptr ? "" : account->pw_dir;
+}
+
+// The file that runs, links followed.
+std::string Executable() {
+  std::string path(4096, '\0');
+  const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+  if (length <= 0 || static_cast<std::size_t>(length) == path.size()) return "";
+  path.resize(static_cast<std::size_t>(length));
+  return path;
+}
+
+}  // namespace
+
+Folders FindFolders(const std::function<std::string(const char* name)>& variable, const std::string& home,
+                    const std::string& executable) {
+  const std::string ownHome = variable("HOME");
+  const std::string user = IsAbsolute(ownHome) ? ownHome : home;
+  const auto base = [&](const char* name, const char* fallBack) {
+    const std::string value = variable(name);
+    return IsAbsolute(value) ? value : user + fallBack;
+  };
+  const std::string data = base("XDG_DATA_HOME", "/.local/share");
+  const std::string shipped = FolderOf(FolderOf(executable)) + "/share/orbisol";
+
+  Folders folders;
+  folders.calendars = data + "/Corvalen/orbisol";
+  folders.userLegals = folders.calendars + "/Legals";
+  folders.shippedLegals = shipped + "/Legals";
+  folders.trash = data + "/Trash";
+
+  folders.stores.push_back(base("XDG_CONFIG_HOME", "/.config") + "/Corvalen/Calendar.reg");
+  std::string list = variable("XDG_CONFIG_DIRS");
+  if (list.empty()) list = "/etc/xdg";
+  std::istringstream entries(list);
+  for (std::string entry; std::getline(entries, entry, ':');)
+    if (IsAbsolute(entry)) folders.stores.push_back(entry + "/Corvalen/Calendar.reg");
+  folders.stores.push_back(shipped + "/Calendar.reg");
+  return folders;
+}
+
+Folders DesktopFolders() { return FindFolders(Variable, HomeOfAccount(), Executable()); }
+
+}  // namespace orbisol

@@ -1,0 +1,31 @@
+// Where the files of the program lie on a Linux desktop.
+//
+//   const Folders folders = DesktopFolders();
+//   folders.calendars;  // "/home/eva/.local/share/Corvalen/orbisol"
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace orbisol {
+
+// Absolute paths, in the bytes of the machine (path_text.h).
+struct Folders {
+  std::string calendars;            // of the user's calendars
+  std::string userLegals;           // public calendars that the user added
+  std::string shippedLegals;        // public calendars that came with the program
+  std::vector<std::string> stores;  // files that may hold the settings: the user's, then those only read
+  std::string trash;                // the user's trash, after the rules of freedesktop.org
+};
+
+// `variable` gives an environment variable, empty when it is not set. `home` is the folder of the user where
+// HOME says nothing. `executable` is the program's own file, in <prefix>/bin. As the base-directory rules
+// have it, a relative path in a variable counts as none.
+Folders FindFolders(const std::function<std::string(const char* name)>& variable, const std::string& home,
+                    const std::string& executable);
+
+// Of this process.
+Folders DesktopFolders();
+
+}  // namespace orbisol

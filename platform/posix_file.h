@@ -1,0 +1,60 @@
+// Files read and replaced whole, on the calls of the system itself, whose every answer is checked. Paths are
+// in the bytes of the machine. Interrupted calls are repeated.
+//
+//   std::optional<FileBytes> file = ReadWholeFile("/home/eva/calendar.xml");
+//   FileStamp now;
+//   if (ReplaceFile("/home/eva/calendar.xml", text, &file->stamp, &now) == WriteResult::kChanged) …
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "files/files.h"
+
+namespace orbisol {
+
+// Nothing when the file is missing, is no ordinary file, has more than kMaxFileBytes or fails to be read.
+constexpr std::size_t kMaxFileBytes = std::size_t{1} << 28;
+std::optional<FileBytes> ReadWholeFile(const std::string& path);
+
+// Whether anything stands there. A link counts for what it points to.
+bool FileExists(const std::string& path);
+
+// Afterwards the file holds the old bytes or the new ones, whatever happens. The bytes go to a temporary file
+// in the same folder, which is synced and renamed; then the folder is synced. Missing folders are made, for
+// the user alone. A symbolic link stays and what it points to is replaced; another name of the same file (a
+// hard link) keeps the old bytes. Permissions, owner and group are kept; where the group cannot be, its
+// rights fall to those of everybody.
+//
+// kChanged: `expected` is given and the file there has other bytes than the expected ones, cannot be read, or
+// was expected to be missing and is not. A file that already holds `bytes` is never called changed. kFailed:
+// also where only the sync of the folder failed: then the new bytes are in place, but may not survive a loss
+// of power; `stamp` is set to them, as after success.
+//
+// `expected` and `stamp` may be null and may be the same object.
+WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const FileStamp* expected,
+                        FileStamp* stamp);
+
+// Makes a folder and those above it, for the user alone. True when it stands there afterwards.
+bool MakeFolders(const std::string& folder);
+
+// Holds a lock file until it is destroyed or the process ends, however it ends.
+class CFileLock {
+ public:
+  // Makes the file, which stays there empty. Waits for another holder at most so long.
+  CFileLock(const std::string& path, std::chrono::milliseconds patience);
+  ~CFileLock();
+  CFileLock(const CFileLock&) = delete;
+  CFileLock& operator=(const CFileLock&) = delete;
+
+  bool IsHeld() const { return m_held; }
+
+ private:
+  int m_descriptor = -1;
+  bool m_held = false;
+};
+
+}  // namespace orbisol

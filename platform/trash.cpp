@@ -1,0 +1,117 @@
+#include "platform/trash.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <ctime>
+#include <string_view>
+
+#include "platform/posix_file.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int kMaxClashes = 10000;  // names tried before giving up
+
+// A path as the note has it: every byte but those of a plain path as %XX.
+std::string Quoted(std::string_view path) {
+  constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
+  std::string text;
+  for (const char byte : path) {
+    char escaped[4];
+    std::snprintf(escaped, sizeof escaped, "%%%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+    text += kPlain.find(byte) == std::string_view::npos ? escaped : std::string(1, byte);
+  }
+  return text;
+}
+
+std::string Note(std::string_view path, const TrashTime& when) {
+  char date[96];
+  std::snprintf(date, sizeof date, "%04d-%02d-%02dT%02d:%02d:%02d", when.day.year, when.day.month,
+                when.day.day, when.hour, when.minute, when.second);
+  return "[Trash Info]\nPath=" + Quoted(path) + "\nDeletionDate=" + date + "\n";
+}
+
+// "Travail.xml", then "Travail 2.xml", "Travail 3.xml" …
+std::string NumberedName(const std::string& name, int number) {
+  if (number == 1) return name;
+  const std::size_t dot = name.rfind('.');
+  const std::size_t stem = dot == std::string::npos || dot == 0 ? name.size() : dot;
+  return name.substr(0, stem) + " " + std::to_string(number) + name.substr(stem);
+}
+
+bool WriteNote(int descriptor, std::string_view note) {
+  bool written = true;
+  while (written && !note.empty()) {
+    const ssize_t count = write(descriptor, note.data(), note.size());
+    if (count > 0) note.remove_prefix(static_cast<std::size_t>(count));
+    written = count > 0 || (count < 0 && errno == EINTR);
+  }
+  written = fsync(descriptor) == 0 && written;
+  return close(descriptor) == 0 && written;
+}
+
+// Makes the note of the first name that is still free, which it thereby takes; empty when none could be made.
+std::string TakeName(const std::string& trash, const std::string& name, std::string_view note) {
+  for (int number = 1; number <= kMaxClashes; ++number) {
+    const std::string candidate = NumberedName(name, number);
+    const std::string info = trash + "/info/" + candidate + ".trashinfo";
+    const int descriptor = open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (descriptor < 0) {
+      if (errno == EEXIST || errno == EINTR) continue;
+      return {};
+    }
+    struct stat status;
+    const bool clashes = lstat((trash + "/files/" + candidate).c_str(), &status) == 0;
+    const bool free = !clashes && errno == ENOENT;
+    // A file that somebody put there without a note has its name all the same.
+    const bool written = WriteNote(descriptor, free ? note : "");
+    if (free && written) return candidate;
+    unlink(info.c_str());
+    if (!clashes) return {};  // What failed here would fail under any other name.
+  }
+  return {};
+}
+
+// `to` is a name nobody else uses.
+bool Move(const std::string& from, const std::string& to) {
+  if (rename(from.c_str(), to.c_str()) == 0) return true;
+  if (errno != EXDEV) return false;
+  const std::optional<FileBytes> file = ReadWholeFile(from);
+  if (file && ReplaceFile(to, file->bytes, nullptr, nullptr) == WriteResult::kWritten &&
+      unlink(from.c_str()) == 0)
+    return true;
+  unlink(to.c_str());
+  return false;
+}
+
+}  // namespace
+
+bool MoveToTrashFolder(const std::string& path, const std::string& trash, const TrashTime& when) {
+  struct stat status;
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos || lstat(path.c_str(), &status) != 0 || S_ISDIR(status.st_mode))
+    return false;
+  if (!MakeFolders(trash + "/info") || !MakeFolders(trash + "/files")) return false;
+
+  const std::string name = TakeName(trash, path.substr(slash + 1), Note(path, when));
+  if (name.empty()) return false;
+  if (Move(path, trash + "/files/" + name)) return true;
+  unlink((trash + "/info/" + name + ".trashinfo").c_str());
+  return false;
+}
+
+TrashTime TrashTimeNow() {
+  const std::time_t now = std::time(nullptr);
+  const std::tm* const local = std::localtime(&now);
+  if (local == nullptr) return {{1970, 1, 1}, 0, 0, 0};  // a clock beyond what the system can write
+  return {{local->tm_year + 1900, local->tm_mon + 1, local->tm_mday},
+          local->tm_hour,
+          local->tm_min,
+          local->tm_sec};
+}
+
+}  // namespace orbisol

@@ -1,0 +1,23 @@
+// Settings of older releases, which kept everything under the key: taken over once into the calendar's file.
+#pragma once
+
+#include "settings/settings_persistence.h"
+
+namespace orbisol {
+
+// Called by ReadSettings when the key holds no calendar name. `values` is the key as it was read; `stored`
+// holds the calendar "Calendar" as it was loaded, or the content of the first start where it has no file.
+//
+// The old values go into `stored` and the calendar is written. Only when that succeeded, the copies of public
+// calendars that older releases made ("fr_public" and the like) go to the trash, and the old values are
+// deleted in one step with the writing of the new ones. Whatever fails or is interrupted, the next start does
+// the rest.
+//
+// Of a calendar that has no file yet, an old value that is absent takes the default of older releases. On
+// purpose, a calendar that has one keeps what its file says there: it may hold a reform and colors that the
+// user chose, while the key may have lost no more than its calendar name. Where the key cannot be written,
+// such a calendar is left alone.
+void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCalendarStore& calendars,
+                           StoredSettings& stored);
+
+}  // namespace orbisol

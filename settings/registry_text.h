@@ -1,0 +1,61 @@
+// The text form of registry exports, in which the key is kept.
+//
+//   Windows Registry Editor Version 5.00
+//
+//   [HKEY_CURRENT_USER\SOFTWARE\Corvalen\Calendar]
+//   "CalendarName"="Été"
+//   "Grid"=dword:00000001
+//   "WindowLayout"=hex:32,00,00,00,32,00,00,00
+//   "Other"=hex(7):61,00,00,00
+//
+// A long value goes on in the next line when a line ends with a backslash.
+//
+//   CRegistryText text(bytes);
+//   text.Set("Grid", DwordValue(0));
+//   bytes = text.Bytes();
+//
+// Any bytes are read: UTF-16LE with its mark, else UTF-8 with or without one; malformed characters become
+// U+FFFD. Lines that are not understood, and all lines of other keys, are kept as they are. What is written
+// is UTF-8 without a mark, with LF line ends, and reading and writing it again changes nothing.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "settings/settings_store.h"
+
+namespace orbisol {
+
+class CRegistryText {
+ public:
+  explicit CRegistryText(std::string_view bytes);
+
+  // The values of our key; of two lines with one name the later counts. A line whose value is malformed, such
+  // as dword:123456789, is no value.
+  StoredValues Values() const;
+
+  // The value keeps its place among the lines; a new one stands behind the others. False, and nothing
+  // changed, for a name that no line can hold: an empty one or one with a control character.
+  bool Set(std::string_view name, const StoredValue& value);
+
+  // Deletes every line of that name from our key.
+  void Delete(std::string_view name);
+
+  std::string Bytes() const;
+
+ private:
+  struct Item {
+    enum Kind { kOther, kOurKey, kOurValue };
+
+    std::string text;  // one line, or the lines of one value, without the last line end
+    Kind kind = kOther;
+    std::string name;                  // of a value
+    std::optional<StoredValue> value;  // nothing when malformed
+  };
+
+  std::vector<Item> m_items;
+};
+
+}  // namespace orbisol

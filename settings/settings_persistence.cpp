@@ -1,0 +1,149 @@
+#include "settings/settings_persistence.h"
+
+#include <variant>
+
+#include "core/packed_date.h"
+#include "settings/legacy_settings.h"
+#include "settings/screen_fit.h"
+
+namespace orbisol {
+namespace {
+
+constexpr char kMainLayout[] = "WindowLayout";
+constexpr char kPrintLayout[] = "PrintWindowLayout";
+constexpr char kCalendarName[] = "CalendarName";
+
+constexpr Rect kMainRect{50, 50, 900, 450};
+constexpr Rect kPrintRect{50, 50, 800, 600};
+
+// The numbers of the key, in the order in which they are written.
+struct NumberValue {
+  const char* name;
+  std::variant<bool DisplaySettings::*, int DisplaySettings::*> field;
+  std::uint32_t ifAbsent;
+  std::uint32_t mask = 0xFFFFFFFF;  // the bits of the stored number that count
+};
+constexpr NumberValue kNumbers[] = {
+    {"CircleTheDay", &DisplaySettings::circleTheDay, 0},
+    {"CircleWidth", &DisplaySettings::circleWidth, 2, 0xFFFF},
+    {"Grid", &DisplaySettings::grid, 1},
+    {"TipsEvtOnly", &DisplaySettings::tipsForEventsOnly, 1},
+    {"ShowWeekNumber", &DisplaySettings::showWeekNumber, 1},
+    {"CollapseCells", &DisplaySettings::collapseCells, 1},
+    {"FullCellBkgnd", &DisplaySettings::fullCellBackground, 0},
+    {"BkgndAlpha", &DisplaySettings::backgroundAlpha, 128},
+    {"MagnetMouse", &DisplaySettings::magnetMouse, 1},
+};
+
+void ReadNumbers(const StoredValues& values, DisplaySettings& display) {
+  for (const NumberValue& row : kNumbers) {
+    const std::uint32_t number = DwordOf(values, row.name).value_or(row.ifAbsent) & row.mask;
+    if (const auto* const flag = std::get_if<bool DisplaySettings::*>(&row.field))
+      display.** flag = number != 0;
+    else
+      display.*std::get<int DisplaySettings::*>(row.field) = static_cast<int>(number);
+  }
+}
+
+void ReadLayout(const StoredValues& values, const char* name, const Rect& ifAbsent, const Rect& screen,
+                WindowLayout& layout) {
+  layout.rect = ifAbsent;
+  if (const auto bytes = BinaryOf(values, name)) LayoutFromBytes(*bytes, layout);
+  layout.rect = FitRectToScreen(layout.rect, screen);
+}
+
+bool SaveLayout(SettingsStore& store, const char* name, WindowLayout& layout, const ClosingFrame& frame,
+                const Rect& screen) {
+  if (frame.minimized) return false;
+  layout = ClosingLayout(layout, frame, screen);
+  return store.Write({{name, BinaryValue(LayoutToBytes(layout))}});
+}
+
+void SetName(DisplaySettings& display, const CCalendarStore& calendars, std::u16string_view name) {
+  display.calendarName.Set(name);
+  display.calendarPath = calendars.PathOf(name);
+}
+
+}  // namespace
+
+StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, const Rect& screen,
+                            const UserLocale& locale) {
+  StoredSettings stored;
+  const std::optional<StoredValues> values = store.Read();
+  stored.keyFound = values.has_value();
+
+  DisplaySettings display;
+  std::optional<std::u16string> name;
+  if (values) {
+    ReadLayout(*values, kMainLayout, kMainRect, screen, display.mainLayout);
+    ReadLayout(*values, kPrintLayout, kPrintRect, screen, display.printLayout);
+    name = TextOf(*values, kCalendarName, kMaxPathUnits);
+    ReadNumbers(*values, display);
+  }
+  const bool migrates = values && !name;
+  SetName(display, calendars, CalendarNameOrDefault(name.value_or(u"")));
+
+  stored.file = calendars.Load(display.calendarName.View(), display, stored.calendar);
+  if (stored.file == LoadResult::kMissing && (migrates || IsFirstStart(calendars)))
+    stored.calendar.content = FirstStartContent(calendars, locale);
+  if (migrates) MigrateLegacySettings(*values, store, calendars, stored);
+  return stored;
+}
+
+SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
+                         const CalendarRules& rules, const CalendarContent& content, WhenChanged whenChanged,
+                         std::optional<std::u16string_view> newName) {
+  SaveOutcome outcome;
+  if (newName && !IsCalendarName(*newName)) return outcome;
+
+  // An empty name of the key reads as the default one, and so does that of a record never filled.
+  std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  const CalendarFile calendar{display, rules, content, u""};
+  outcome.calendar = calendars.Save(
+      name, calendar, whenChanged == WhenChanged::kOverwrite ? IfChanged::kOverwrite : IfChanged::kRefuse);
+  if (outcome.calendar == WriteResult::kChanged && whenChanged == WhenChanged::kKeepBoth)
+    outcome.calendar = calendars.SaveBeside(std::u16string(name), calendar, name);
+  if (outcome.calendar == WriteResult::kChanged) return outcome;
+
+  if (outcome.calendar == WriteResult::kWritten) {
+    SetName(display, calendars, newName ? *newName : name);
+    display.changed = false;
+  }
+  outcome.key = store.Write(KeyChanges(display));
+  return outcome;
+}
+
+WindowLayout ClosingLayout(WindowLayout layout, const ClosingFrame& frame, const Rect& screen) {
+  layout.maximized = frame.maximized ? 1 : 0;
+  layout.rightPaneShown = frame.paneShown ? 1 : 0;
+  layout.rightPaneWidth = frame.paneWidth;
+  if (frame.rect.Width() > 0 && frame.rect.Height() > 0) {
+    layout.rect = frame.rect;
+    if (!frame.paneShown) layout.rect.right = Saturate(std::int64_t{layout.rect.right} + frame.paneWidth);
+  }
+  layout.rect = FitRectToScreen(layout.rect, screen);
+  return layout;
+}
+
+bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,
+                          const Rect& screen) {
+  return SaveLayout(store, kMainLayout, layout, frame, screen);
+}
+
+bool SavePrintWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,
+                           const Rect& screen) {
+  return SaveLayout(store, kPrintLayout, layout, frame, screen);
+}
+
+std::vector<StoreChange> KeyChanges(const DisplaySettings& display) {
+  std::vector<StoreChange> changes{{kCalendarName, TextValue(display.calendarName.View())}};
+  for (const NumberValue& row : kNumbers) {
+    const auto* const flag = std::get_if<bool DisplaySettings::*>(&row.field);
+    const int number =
+        flag != nullptr ? display.**flag : display.*std::get<int DisplaySettings::*>(row.field);
+    changes.push_back({row.name, DwordValue(static_cast<std::uint32_t>(number))});
+  }
+  return changes;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,69 @@
+// The values of the one key in which the program keeps what belongs to a user and to no calendar. platform/
+// keeps them in a file, tests in memory.
+//
+//   const std::optional<StoredValues> values = store.Read();   // nothing: there is no key
+//   DwordOf(*values, "Grid").value_or(1);
+//   store.Write({{"Grid", DwordValue(0)}, {"BoldFont", {}}});  // sets the one, deletes the other
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orbisol {
+
+using ValueType = std::uint32_t;       // any number may be met; the program itself writes 1, 3 and 4
+constexpr ValueType kRegSz = 1;        // text, UTF-16LE, a zero at its end
+constexpr ValueType kRegExpandSz = 2;  // the same; names of variables inside are not expanded
+constexpr ValueType kRegBinary = 3;    // bytes
+constexpr ValueType kRegDword = 4;     // 32 bits, little-endian
+
+struct StoredValue {
+  ValueType type = kRegBinary;
+  std::string bytes;  // as they are stored, whatever the type
+
+  bool operator==(const StoredValue&) const = default;
+};
+
+StoredValue TextValue(std::u16string_view text);
+StoredValue DwordValue(std::uint32_t number);
+StoredValue BinaryValue(std::span<const std::uint8_t> bytes);
+
+// Upper and lower case of the letters A to Z count as one in names.
+struct NameLess {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const;
+};
+using StoredValues = std::map<std::string, StoredValue, NameLess>;  // names in UTF-8
+
+// Nothing when there is no such value or it has another type.
+//
+// A number needs four bytes. A text of either kind needs an even number of bytes and a zero at its end, or no
+// byte at all, which is the empty text; it has at most `maxUnits` units before its last zero and ends at its
+// first.
+std::optional<std::uint32_t> DwordOf(const StoredValues& values, std::string_view name);
+std::optional<std::u16string> TextOf(const StoredValues& values, std::string_view name, std::size_t maxUnits);
+std::optional<std::vector<std::uint8_t>> BinaryOf(const StoredValues& values, std::string_view name);
+
+struct StoreChange {
+  std::string name;                  // not empty, without control characters
+  std::optional<StoredValue> value;  // nothing: the value is deleted; one that is missing is no error
+};
+
+struct SettingsStore {
+  virtual ~SettingsStore() = default;
+
+  // Nothing when the key does not exist or cannot be read.
+  virtual std::optional<StoredValues> Read() const = 0;
+
+  // Makes all changes, in their order, or none. False when nothing was stored: there is no key, it cannot be
+  // written, or another process keeps it locked. The key itself is never made here; the installation brings
+  // it.
+  virtual bool Write(const std::vector<StoreChange>& changes) = 0;
+};
+
+}  // namespace orbisol

@@ -1,0 +1,46 @@
+// The settings key in memory, as its text.
+//
+//   CMemoryStore store("\"Grid\"=dword:00000000\n");  // lines of the key
+//   store.readOnly = true;
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "settings/registry_text.h"
+#include "settings/settings_store.h"
+
+namespace orbisol {
+
+struct CMemoryStore : SettingsStore {
+  std::optional<std::string> text;  // nothing: there is no key
+  bool readOnly = false;
+  std::vector<StoreChange> written;  // all that was ever asked for, in its order
+
+  CMemoryStore() = default;
+  explicit CMemoryStore(std::string_view lines)
+      : text("[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n" + std::string(lines)) {}
+
+  std::optional<StoredValues> Read() const override {
+    if (!text) return std::nullopt;
+    return CRegistryText(*text).Values();
+  }
+
+  bool Write(const std::vector<StoreChange>& changes) override {
+    if (!text || readOnly) return false;
+    CRegistryText edited(*text);
+    for (const StoreChange& change : changes) {
+      written.push_back(change);
+      if (!change.value)
+        edited.Delete(change.name);
+      else if (!edited.Set(change.name, *change.value))
+        return false;
+    }
+    text = edited.Bytes();
+    return true;
+  }
+};
+
+}  // namespace orbisol
