@@ -1,0 +1,99 @@
+// The month model: all months of the range with the rules of France, and a calendar with thousands of rules.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include "content/month_model.h"
+#include "files/calendar_file.h"
+
+namespace orbisol {
+namespace {
+
+const CalendarContent& France() {
+  static const CalendarContent content = [] {
+    std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    CalendarContent legal = ReadCalendar(bytes).content;
+    std::erase_if(legal.dayEvents, [](const DayEvent& event) { return !event.isPublic; });
+    return legal;
+  }();
+  return content;
+}
+
+const std::array<Color, kColorCount>& Colors() {
+  static const DisplaySettings settings;
+  return settings.colors;
+}
+
+// One item is one month.
+void BuildYears(benchmark::State& state, int firstYear, int lastYear, MonthModel::Moon moon) {
+  MonthModel model;
+  std::int64_t months = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    for (model.year = firstYear; model.year <= lastYear; ++model.year) {
+      for (model.month = 1; model.month <= 12; ++model.month) {
+        model.Build(France(), Colors(), moon);
+        benchmark::DoNotOptimize(model.cells[8].marks);
+        ++months;
+      }
+    }
+  }
+  state.SetItemsProcessed(months);
+}
+
+void AllMonths_WithMoon(benchmark::State& state) { BuildYears(state, -3999, 3999, MonthModel::kWithMoon); }
+BENCHMARK(AllMonths_WithMoon)->Unit(benchmark::kMillisecond);
+
+void YearsOfTheEra_WithoutMoon(benchmark::State& state) {
+  BuildYears(state, 1, 3999, MonthModel::kWithoutMoon);
+}
+BENCHMARK(YearsOfTheEra_WithoutMoon)->Unit(benchmark::kMillisecond);
+
+// Rules of all kinds, and periods all over a century.
+CalendarContent CrowdedCalendar(int rules, int periods) {
+  std::mt19937 random(1792);
+  const auto any = [&random](int low, int high) {
+    return std::uniform_int_distribution<int>(low, high)(random);
+  };
+  CalendarContent content;
+  for (int i = 0; i < rules; ++i) {
+    DayEvent event;
+    event.type = any(0, 7);
+    event.isPublic = any(0, 1) == 1;
+    event.month = any(1, 12);
+    event.day = any(2, 28);
+    event.weekday = any(1, 7);
+    event.weeknum = event.type == 3 ? any(1, 5) : 1;
+    event.ymdFrom = kAlwaysFrom;
+    event.ymdTo = kAlwaysTo;
+    event.name.Set(u"Événement de la bibliothèque municipale");
+    content.dayEvents.push_back(event);
+  }
+  for (int i = 0; i < periods; ++i) {
+    const int year = any(1950, 2050);
+    content.holidays.push_back({Pack(year, any(1, 6), 1), Pack(year, any(7, 12), 28), u"Vacances"});
+  }
+  return content;
+}
+
+void CrowdedMonth(benchmark::State& state) {
+  const CalendarContent content =
+      CrowdedCalendar(static_cast<int>(state.range(0)), static_cast<int>(state.range(0)) / 10);
+  MonthModel model;
+  model.year = 2024;
+  model.month = 5;
+  for ([[maybe_unused]] auto _ : state) {
+    model.Build(content, Colors(), MonthModel::kWithMoon);
+    benchmark::DoNotOptimize(model.cells[8].marks);
+  }
+}
+BENCHMARK(CrowdedMonth)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orbisol
+
+BENCHMARK_MAIN();
