@@ -1,0 +1,187 @@
+// The converter pane, through its controls.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "tests/ui/shell/frame_fixture.h"
+
+namespace orbisol {
+namespace {
+
+class ConverterTest : public FrameTest {
+ protected:
+  ConverterTest() { Open(); }
+
+  bool ShowsLine(const char* text) {
+    for (const QLabel* const label : Dialog().Pane().findChildren<QLabel*>())
+      if (label->isVisible() && label->text() == QString::fromUtf8(text)) return true;
+    return false;
+  }
+  void Click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+
+  QCheckBox* Entry() { return Control<QCheckBox>("Saisir date républicaine"); }
+  QComboBox* Day() { return Named<QComboBox>("Jour républicain"); }
+  QComboBox* Month() { return Named<QComboBox>("Mois républicain"); }
+  QLineEdit* Year() { return Named<QLineEdit>("Année républicaine"); }
+  QLineEdit* Kept() { return Named<QLineEdit>("Date retenue"); }
+  QLineEdit* Difference() { return Named<QLineEdit>("Écart en jours"); }
+  QToolButton* Keep() { return Named<QToolButton>("Retenir la date affichée"); }
+
+  void EnterRepublican(int day, int monthIndex, const char* year) {
+    Year()->selectAll();
+    QTest::keyClicks(Year(), QLatin1String(year));
+    Month()->setCurrentIndex(monthIndex);
+    Day()->setCurrentIndex(day - 1);
+    Click(Control<QPushButton>("Ok"));
+  }
+};
+
+TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
+  Show(17990101 + 1008);  // 9 November 1799
+  EXPECT_TRUE(ShowsLine("Samedi 29 octobre 1799"));
+  EXPECT_TRUE(ShowsLine("Jour julien n° 2378444"));
+  EXPECT_TRUE(ShowsLine("Octidi 18 brumaire an 8\n (an VIII)"));
+
+  Show(15821004);
+  EXPECT_TRUE(ShowsLine("Jeudi 4 octobre 1582"));
+  EXPECT_TRUE(ShowsLine("Grégorien proleptique : 14 octobre 1582"));
+  EXPECT_FALSE(Entry()->isVisible());
+  Show(15821015);
+  EXPECT_TRUE(ShowsLine("Vendredi 5 octobre 1582"));
+  EXPECT_FALSE(ShowsLine("Grégorien proleptique : 15 octobre 1582"));
+}
+
+TEST_F(ConverterTest, TheProlepticDateCountsAsIfTheReformHadAlwaysBeenInForce) {
+  const struct {
+    PackedDate date;
+    const char16_t* text;
+  } kDates[] = {{15821004, u"14 octobre 1582"},
+                {3250525, u"26 mai 325"},
+                {10010101, u"7 janvier 1001"},
+                {10101, u"31 décembre 0"}};
+  for (const auto& row : kDates) EXPECT_EQ(ProlepticGregorianText(Date(row.date)), row.text) << row.date;
+  EXPECT_EQ(Rules().startGregorian, kRomanReform);  // put back
+}
+
+TEST_F(ConverterTest, ARepublicanDateIsEnteredAndShown) {
+  Show(20240101);
+  EXPECT_FALSE(Day()->isVisible());
+  Click(Entry());
+  ASSERT_TRUE(Day()->isVisible());
+  EXPECT_EQ(Month()->count(), 13);
+  EXPECT_EQ(Day()->currentText() + Month()->currentText() + Year()->text(), QStringLiteral("11nivose232"));
+
+  EnterRepublican(18, 1, "8");
+  EXPECT_EQ(Now(), 17991109);
+  EnterRepublican(1, 0, "0");  // years count from 1
+  EXPECT_EQ(Now(), 17920922);
+  EXPECT_EQ(Year()->text(), QStringLiteral("1"));
+  EnterRepublican(1, 0, "-12");
+  EXPECT_EQ(Now(), 17920922);
+  EnterRepublican(30, 11, "999999999");
+  EXPECT_EQ(Selected().year, 3999);  // limited, then clamped
+}
+
+TEST_F(ConverterTest, ComplementaryDaysFollowTheYear) {
+  Show(20240101);
+  Click(Entry());
+  Month()->setCurrentIndex(12);
+  Year()->setText(QStringLiteral("3"));
+  EXPECT_EQ(Day()->count(), 6);
+  Day()->setCurrentIndex(5);
+  Year()->setText(QStringLiteral("2"));
+  EXPECT_EQ(Day()->count(), 5);
+  EXPECT_EQ(Day()->currentIndex(), 4);  // reduced to the last one
+  Year()->setText(QStringLiteral("3"));
+  Day()->setCurrentIndex(5);
+  QTest::keyClick(Year(), Qt::Key_Return);
+  EXPECT_EQ(Now(), 17950922);
+  EXPECT_TRUE(ShowsLine("Jour de la Révolution an 3\n (an III)"));
+  Month()->setCurrentIndex(3);
+  EXPECT_EQ(Day()->count(), 30);
+}
+
+TEST_F(ConverterTest, ADateBeforeTheEraEndsTheEntry) {
+  Show(17920922);
+  Click(Entry());
+  Show(17920921);
+  EXPECT_FALSE(Entry()->isVisible());
+  EXPECT_FALSE(Day()->isVisible());
+  Show(17920922);
+  EXPECT_TRUE(Entry()->isVisible());
+  EXPECT_FALSE(Entry()->isChecked());
+}
+
+TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
+  Show(20240515);
+  EXPECT_EQ(Difference()->text(), QString());
+  Kept()->setFocus();
+  EXPECT_EQ(Now(), 20240515);  // nothing is remembered yet
+
+  Click(Keep());
+  EXPECT_EQ(Kept()->text(), QStringLiteral("15 mai 2024"));
+  EXPECT_EQ(Difference()->text(), QStringLiteral("0"));
+  EXPECT_TRUE(Dialog().Month().hasFocus());
+  Show(20210127 - 30000 + 1);
+  Show(20210101);
+  EXPECT_EQ(Difference()->text(), QStringLiteral("-1 230"));
+  Show(20240516);
+  EXPECT_EQ(Difference()->text(), QStringLiteral("1"));
+
+  Kept()->setFocus(Qt::ActiveWindowFocusReason);  // the window came to the front: nobody asked for the date
+  EXPECT_EQ(Now(), 20240516);
+  Dialog().FocusMonth();
+  QTest::mouseClick(Kept(), Qt::LeftButton);
+  EXPECT_EQ(Now(), 20240515);
+
+  Click(Keep());
+  EXPECT_EQ(Kept()->text() + Difference()->text(), QString());
+  EXPECT_TRUE(Dialog().Month().hasFocus());
+}
+
+TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderOfTheLocale) {
+  const struct {
+    int order;
+    const char* text;
+  } kOrders[] = {{0, "mai 15, 2024"}, {1, "15 mai 2024"}, {2, "2024 mai 15"}};
+  for (const auto& row : kOrders) {
+    Selected().dateOrder = row.order;
+    Click(Keep());
+    EXPECT_EQ(Kept()->text(), QLatin1String(row.text));
+    Click(Keep());
+  }
+  Selected().dateOrder = 1;
+}
+
+TEST_F(ConverterTest, TheButtonsGoToNotableDays) {
+  Rules().ApplyGregorianStart(17520914);
+  const struct {
+    const char* button;
+    PackedDate date;
+  } kDays[] = {{"républicain", 17920922},
+               {"grégorien", 17520914},
+               {"notre ère", 10101},
+               {"julien", -440101},
+               {"Aujourd'hui", 20240515}};
+  for (const auto& row : kDays) {
+    Click(Control<QPushButton>(row.button));
+    EXPECT_EQ(Now(), row.date) << row.button;
+    EXPECT_EQ(Dialog().Month().Month().year, Selected().year);
+  }
+}
+
+TEST_F(ConverterTest, FieldsSuitTheColorsOfTheCalendar) {
+  Display().colors[kColorBgCal] = Rgb(20, 30, 40);
+  Display().colors[kColorCalHeader] = Rgb(240, 230, 220);
+  Dialog().SettingsChanged();
+  EXPECT_EQ(Dialog().Pane().palette().color(QPalette::WindowText), QColor(240, 230, 220));
+  EXPECT_EQ(Dialog().grab().toImage().pixelColor(1, 1), QColor(20, 30, 40));
+  EXPECT_LT(Dialog().Pane().palette().color(QPalette::Button).lightness(), 128);
+}
+
+}  // namespace
+}  // namespace orbisol

@@ -1,0 +1,96 @@
+// A main frame of its own for each test, on a store and a folder of calendars in memory.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+
+#include "content/selected_date.h"
+#include "tests/support/fakes.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/memory_store.h"
+#include "tests/support/rules.h"
+#include "ui/common/messages.h"
+#include "ui/shell/calendar_frame.h"
+
+namespace orbisol {
+
+struct SpyMessages : MessageDoor {
+  std::vector<QString> errors;
+  int beeps = 0;
+
+  void ShowError(QWidget*, const QString& text) override { errors.push_back(text); }
+  int Choose(QWidget*, const QString&, const QStringList&) override { return -1; }
+  void Beep() override { ++beeps; }
+};
+
+class FrameTest : public ::testing::Test {
+ protected:
+  FrameTest()
+      : m_platform(FakeLocale(), FakeClock({2024, 5, 15})),
+        m_rules(RulesWith(kRomanReform)),
+        m_messages(messages),
+        store("\"CalendarName\"=\"Calendar\"\n"),
+        calendars(files) {
+    Select(20240515);
+  }
+  ~FrameTest() override {
+    frame.reset();
+    Display() = DisplaySettings();
+    Content() = CalendarContent();
+  }
+
+  static void Select(PackedDate date) { Selected().SetPacked(date); }
+  static PackedDate Now() { return Selected().Packed(); }
+  static void Settle() { QApplication::processEvents(); }
+
+  void Open() {
+    frame = std::make_unique<CCalendarFrame>(FrameDoors{store, calendars, {u"fr", u"FR"}});
+    frame->Open();
+    frame->activateWindow();
+    Settle();
+  }
+  CMainDlg& Dialog() { return frame->Dialog(); }
+
+  // As if it had been changed in a view.
+  void Show(PackedDate date) {
+    Select(date);
+    Dialog().Refresh(true);
+  }
+
+  // A control of the pane by its class and its text without "&".
+  template <class Widget>
+  Widget* Control(const char* text) {
+    for (Widget* const widget : Dialog().Pane().template findChildren<Widget*>())
+      if (widget->text().remove(u'&') == QString::fromUtf8(text)) return widget;
+    ADD_FAILURE() << "no control " << text;
+    return nullptr;
+  }
+  template <class Widget>
+  Widget* Named(const char* accessibleName) {
+    for (Widget* const widget : Dialog().Pane().template findChildren<Widget*>())
+      if (widget->accessibleName() == QString::fromUtf8(accessibleName)) return widget;
+    ADD_FAILURE() << "no control named " << accessibleName;
+    return nullptr;
+  }
+
+  WindowLayout Stored() {
+    WindowLayout layout;
+    if (const auto bytes = BinaryOf(*store.Read(), "WindowLayout")) LayoutFromBytes(*bytes, layout);
+    return layout;
+  }
+
+  ScopedPlatform m_platform;
+  ScopedRules m_rules;
+  SpyMessages messages;
+  ScopedMessages m_messages;
+  CMemoryStore store;
+  CMemoryFiles files;
+  CCalendarStore calendars;
+  std::unique_ptr<CCalendarFrame> frame;
+};
+
+}  // namespace orbisol

@@ -1,0 +1,251 @@
+// The main frame: commands, pane, layout, focus.
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "tests/ui/shell/frame_fixture.h"
+
+namespace orbisol {
+namespace {
+
+DayEvent EveryYear(int month, int day, const char16_t* name) {
+  DayEvent event;
+  event.month = month;
+  event.day = day;
+  event.isPublic = true;
+  event.ymdFrom = kAlwaysFrom;
+  event.ymdTo = kAlwaysTo;
+  event.name.Set(name);
+  return event;
+}
+
+TEST_F(FrameTest, ACommandWithoutAWindowIsDisabledAndAllOthersCanBeGiven) {
+  Open();
+  for (const CommandId command : {kCmdChooseCalendar, kCmdPrint, kCmdPreferences, kCmdEditEvents,
+                                  kCmdEditVacations, kCmdHelpContents, kCmdHelpIndex, kCmdAbout})
+    EXPECT_FALSE(frame->Commands().Action(command)->isEnabled()) << command;
+  for (const CommandId command : {kCmdQuit, kCmdCopyDate, kCmdCopyJulianDate, kCmdCopyRepublicanDate,
+                                  kCmdToggleToolBar, kCmdToggleStatusBar, kCmdTogglePane})
+    EXPECT_TRUE(frame->Commands().Action(command)->isEnabled()) << command;
+  Show(15821004);
+  EXPECT_FALSE(frame->Commands().Action(kCmdCopyRepublicanDate)->isEnabled());
+}
+
+TEST_F(FrameTest, DatesAreCopiedAsTheyAreShownAlsoFromTheHiddenPane) {
+  Open();
+  Show(20240101);
+  const auto copied = [&](CommandId command) {
+    frame->Commands().Action(command)->trigger();
+    return QGuiApplication::clipboard()->text();
+  };
+  EXPECT_EQ(copied(kCmdCopyDate), QStringLiteral("Lundi 1 janvier 2024"));
+  frame->RunCommand(kCmdTogglePane);
+  EXPECT_EQ(copied(kCmdCopyJulianDate), QString::fromUtf8("Lundi 19 décembre 2023"));
+  EXPECT_EQ(copied(kCmdCopyRepublicanDate), QStringLiteral("Primidi 11 nivose an 232\n (an CCXXXII)"));
+  QTest::keyClick(frame->windowHandle(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Lundi 1 janvier 2024"));
+}
+
+TEST_F(FrameTest, TheStatusBarDescribesTheDay) {
+  Open();
+  Content().dayEvents = {EveryYear(5, 23, u"<b>Fête</b> & Cie")};
+  Show(20240523);  // a full moon too
+  EXPECT_EQ(frame->StatusText(), QString::fromUtf8("<b>Fête</b> & Cie | (Pleine lune)"));
+  Show(20240521);
+  EXPECT_EQ(frame->StatusText(), QString());
+}
+
+TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
+  Open();
+  frame->resize(900, 500);
+  Settle();
+  const int grid = Dialog().Month().width();
+  const int pane = Dialog().PaneWidth();
+  EXPECT_EQ(pane % 7, 0);
+  QTest::keyClick(frame->windowHandle(), Qt::Key_Space);
+  EXPECT_FALSE(Dialog().IsPaneShown());
+  EXPECT_EQ(frame->size(), QSize(900 - pane, 500));
+  EXPECT_EQ(Dialog().Month().width(), grid);
+  EXPECT_TRUE(Dialog().Month().hasFocus());
+  EXPECT_FALSE(frame->Commands().Action(kCmdTogglePane)->isChecked());
+  EXPECT_FALSE(Dialog().Pane().isVisible());
+
+  frame->resize(0, 0);  // as small as it goes: the month is not cut
+  Settle();
+  EXPECT_GE(Dialog().Month().width(), 7 * 40);
+  const int least = frame->width();
+  frame->RunCommand(kCmdTogglePane);
+  Settle();
+  EXPECT_EQ(frame->width(), least + pane);
+  EXPECT_TRUE(frame->Commands().Action(kCmdTogglePane)->isChecked());
+}
+
+// Of a window, its frame around it included.
+Rect WithFrame(const QWidget& window) {
+  const QRect rect = window.frameGeometry();
+  return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
+}
+
+TEST_F(FrameTest, TheStoredRectangleAlwaysHoldsThePaneAndTheFrame) {
+  Open();
+  const int pane = Dialog().PaneWidth();
+  frame->setGeometry(100, 80, 900, 520);
+  Settle();
+  const Rect whole = WithFrame(*frame);
+  frame->RunCommand(kCmdTogglePane);
+  frame->close();
+  EXPECT_EQ(Stored().rect, whole);
+  EXPECT_EQ(Stored().rightPaneShown, 0);
+  EXPECT_EQ(Stored().rightPaneWidth, pane);
+
+  for (int again = 0; again < 3; ++again) {  // it does not grow from start to start
+    Open();
+    EXPECT_EQ(frame->geometry(), QRect(100, 80, 900 - pane, 520));
+    frame->close();
+    EXPECT_EQ(Stored().rect, whole);
+  }
+}
+
+TEST_F(FrameTest, AMaximizedFrameKeepsItsNormalRectangle) {
+  Open();
+  frame->setGeometry(100, 80, 900, 520);
+  Settle();
+  const Rect whole = WithFrame(*frame);
+  frame->showMaximized();
+  Settle();
+  frame->RunCommand(kCmdTogglePane);
+  frame->close();
+  EXPECT_EQ(Stored().maximized, 1);
+  EXPECT_EQ(Stored().rect, whole);
+
+  Open();
+  EXPECT_TRUE(frame->isMaximized());
+  frame->RunCommand(kCmdTogglePane);
+  frame->close();
+  EXPECT_EQ(Stored().rect, whole);
+}
+
+TEST_F(FrameTest, AMinimizedFrameStoresNothing) {
+  Open();
+  frame->showMinimized();
+  Settle();
+  const std::size_t before = store.written.size();
+  frame->close();
+  EXPECT_EQ(store.written.size(), before);
+}
+
+TEST_F(FrameTest, AWindowStoredOnAScreenThatIsGoneComesBackOntoOneThatIsThere) {
+  WindowLayout far;
+  far.rect = {4000, 3000, 4900, 3500};
+  far.statusBarShown = 0;
+  store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(far))}});
+  Open();
+  EXPECT_TRUE(QRect(0, 0, 1920, 1080).contains(frame->geometry()));
+  EXPECT_FALSE(frame->statusBar()->isVisible());
+  EXPECT_FALSE(frame->Commands().Action(kCmdToggleStatusBar)->isChecked());
+}
+
+TEST_F(FrameTest, BarsAreHiddenAndShownAndOnlyTheStatusBarIsRemembered) {
+  Open();
+  frame->RunCommand(kCmdToggleToolBar);
+  frame->RunCommand(kCmdToggleStatusBar);
+  EXPECT_FALSE(frame->findChild<QToolBar*>()->isVisible());
+  EXPECT_FALSE(frame->statusBar()->isVisible());
+  EXPECT_FALSE(frame->Commands().Action(kCmdToggleToolBar)->isChecked());
+  frame->close();
+  Open();
+  EXPECT_TRUE(frame->findChild<QToolBar*>()->isVisible());
+  EXPECT_FALSE(frame->statusBar()->isVisible());
+}
+
+TEST_F(FrameTest, AltAndArrowsGoThroughTheDatesVisited) {
+  Open();
+  QWidget& month = Dialog().Month();
+  const auto alt = [&](int key) {
+    QTest::keyClick(frame->windowHandle(), static_cast<Qt::Key>(key), Qt::AltModifier);
+    Settle();
+  };
+  EXPECT_FALSE(frame->Commands().Action(kCmdGoBack)->isEnabled());
+  QTest::keyClick(&month, Qt::Key_Right);
+  Settle();
+  QTest::keyClick(&month, Qt::Key_End);
+  Settle();
+  QTest::keyClick(&month, Qt::Key_J);
+  Settle();
+  alt(Qt::Key_Left);
+  EXPECT_EQ(Now(), kLastDateShown);
+  alt(Qt::Key_Left);
+  EXPECT_EQ(Now(), 20240516);
+  alt(Qt::Key_Left);
+  EXPECT_EQ(Now(), 20240515);
+  EXPECT_FALSE(frame->Commands().Action(kCmdGoBack)->isEnabled());
+  alt(Qt::Key_Right);
+  EXPECT_EQ(Now(), 20240516);
+  EXPECT_EQ(Dialog().Header().TitleText(), QStringLiteral("Mai 2024"));
+}
+
+TEST_F(FrameTest, ViewsFollowOneAnother) {
+  Open();
+  QTest::keyClick(&Dialog().Month(), Qt::Key_PageDown);
+  Settle();  // what a key does is reported after it
+  EXPECT_EQ(Dialog().Header().TitleText(), QStringLiteral("Juin 2024"));
+  const Rect next = Dialog().Header().Places().next;
+  QTest::mouseClick(&Dialog().Header(), Qt::LeftButton, Qt::ControlModifier,
+                    QPoint((next.left + next.right) / 2, (next.top + next.bottom) / 2));
+  EXPECT_EQ(Dialog().Month().Month().year, 2025);
+  EXPECT_EQ(Dialog().JulianText(), QStringLiteral("Dimanche 2 juin 2025"));
+  EXPECT_TRUE(Dialog().Month().hasFocus());  // a click in the header leaves the keyboard where it is
+}
+
+TEST_F(FrameTest, WithThePaneHiddenTheKeyboardBelongsToTheMonthOrTheHeader) {
+  Open();
+  frame->RunCommand(kCmdTogglePane);
+  const Rect year = Dialog().Header().Places().year;
+  QTest::mouseClick(&Dialog().Header(), Qt::LeftButton, {},
+                    QPoint((year.left + year.right) / 2, (year.top + year.bottom) / 2));
+  auto* const editor = Dialog().Header().findChild<CYearEdit*>();
+  editor->selectAll();
+  QTest::keyClicks(editor, QStringLiteral("1789"));
+  EXPECT_EQ(Selected().year, 1789);
+  EXPECT_TRUE(Dialog().Header().IsEditingYear());  // typing is not interrupted
+  QTest::keyPress(editor, Qt::Key_Return);
+  QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Dialog().Month().hasFocus());
+  EXPECT_EQ(Dialog().History().CanGoBack(), true);
+  frame->RunCommand(kCmdGoBack);
+  EXPECT_EQ(Now(), 20240515);  // not a year passed while typing
+}
+
+TEST_F(FrameTest, WhatHasNoEditorYetIsRefused) {
+  Open();
+  QTest::keyClick(&Dialog().Month(), Qt::Key_Menu);
+  EXPECT_EQ(messages.beeps, 1);
+}
+
+TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOne) {
+  Open();
+  EXPECT_EQ(frame->windowTitle(), QStringLiteral("Orbisol"));
+  store.Write({{"CalendarName", TextValue(u"Été & <b>")}});
+  Open();
+  EXPECT_EQ(frame->windowTitle(), QString::fromUtf8("Orbisol - Été & <b>"));
+}
+
+TEST_F(FrameTest, TheFirstStartShowsTheHolidaysOfTheCountry) {
+  CalendarFile france;
+  france.content.dayEvents = {EveryYear(5, 1, u"Fête du Travail")};
+  files.Put(u"/share/Legals/France.xml", WriteCalendar(france, CalendarForm::kPublic));
+  Open();
+  Show(20240501);
+  EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QString::fromUtf8("Fête du Travail"));
+  frame->close();
+  EXPECT_EQ(files.files.size(), 1U);  // opening and closing writes no calendar
+}
+
+}  // namespace
+}  // namespace orbisol

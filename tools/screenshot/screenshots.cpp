@@ -1,0 +1,188 @@
+// Pictures of the month view for people to look at: one PNG a case, at the scale of QT_SCALE_FACTOR.
+//
+//   QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 orbisol_screenshots build/screenshots
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "content/calendar_content.h"
+#include "content/selected_date.h"
+#include "files/calendar_file.h"
+#include "platform/desktop_locale.h"
+#include "settings/display_settings.h"
+#include "ui/month/month_window.h"
+
+namespace orbisol {
+namespace {
+
+CalendarContent HolidaysOfFrance() {
+  std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  return ReadCalendar(bytes).content;
+}
+
+void AddPeriod(PackedDate from, PackedDate to) {
+  HolidayPeriod period;
+  period.ymdFrom = from;
+  period.ymdTo = to;
+  Content().holidays.push_back(period);
+}
+
+void AddEvent(int month, int day) {
+  DayEvent event;
+  event.month = month;
+  event.day = day;
+  event.ymdFrom = kAlwaysFrom;
+  event.ymdTo = kAlwaysTo;
+  Content().dayEvents.push_back(event);
+}
+
+// Everything that is filled, in colors that tell one another apart.
+void ColorTheDays() {
+  AddPeriod(20240506, 20240519);
+  AddEvent(5, 14);
+  AddEvent(5, 23);
+  Display().colors[kHolidayBgColor] = Rgb(0xFF, 0xD8, 0xD0);
+  Display().colors[kEventBgColor] = Rgb(0xFF, 0xF2, 0xA8);
+  Display().colors[kHolidaysBgColor] = Rgb(0xC8, 0xE0, 0xC0);
+}
+
+QString DarkPicture(const QTemporaryDir& folder) {
+  QImage picture(400, 300, QImage::Format_RGB32);
+  QPainter painter(&picture);
+  QLinearGradient night(0, 0, 0, 300);
+  night.setColorAt(0, QColor(0x0E, 0x16, 0x26));
+  night.setColorAt(1, QColor(0x3A, 0x2C, 0x48));
+  painter.fillRect(picture.rect(), night);
+  painter.end();
+  const QString path = folder.filePath(QStringLiteral("night.png"));
+  picture.save(path);
+  return path;
+}
+
+void DragFromSelected(CMonthWindow& window, PackedDate to) {
+  const YearMonthDay end = Unpack(to);
+  const auto middle = [&](int cell) {
+    const Rect rect = window.Places().CellRect(cell);
+    return QPointF((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+  };
+  const auto send = [&](QEvent::Type type, const QPointF& at, Qt::MouseButton button) {
+    QMouseEvent event(type, at, window.mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &event);
+  };
+  send(QEvent::MouseButtonPress, middle(window.SelectedCell()), Qt::LeftButton);
+  send(QEvent::MouseMove, middle(window.Month().CellOf(end.month, end.day)), Qt::NoButton);
+}
+
+struct Picture {
+  const char* name;
+  PackedDate date;
+  QSize size;
+  void (*prepare)();
+};
+
+const Picture kPictures[] = {
+    {"month_may_2024", 20240515, {700, 392}, [] {}},
+    {"month_october_1582", 15821004, {700, 392}, [] {}},
+    {"month_before_the_era", -440315, {700, 392}, [] {}},
+    {"month_first", -39990101, {700, 392}, [] {}},
+    {"month_week_numbers", 20240515, {700, 392}, [] { Display().showWeekNumber = true; }},
+    {"month_sunday_first", 20240515, {700, 392}, [] { Rules().iso8601 = false; }},
+    {"month_bands", 20240515, {700, 392}, ColorTheDays},
+    {"month_cells",
+     20240515,
+     {700, 392},
+     [] {
+       ColorTheDays();
+       Display().fullCellBackground = true;
+     }},
+    {"month_rounded",
+     20240515,
+     {700, 392},
+     [] {
+       ColorTheDays();
+       Display().fullCellBackground = true;
+       Display().collapseCells = false;
+       Display().circleTheDay = true;
+       Display().circleWidth = 3;
+     }},
+    {"month_plain",
+     20240515,
+     {700, 392},
+     [] {
+       Display().backgroundImage = false;
+       Display().grid = false;
+       Display().showWeekNumber = true;
+       Display().fontWeight = 700;
+     }},
+    {"month_narrow", 20240515, {210, 300}, [] { Display().showWeekNumber = true; }},
+    {"month_small", 20240515, {140, 90}, [] {}},
+    {"month_large", 20240515, {1600, 900}, [] { Display().showWeekNumber = true; }},
+};
+
+bool Save(QWidget& window, const QString& folder, const QString& name) {
+  const QString path =
+      QStringLiteral("%1/%2@%3.png").arg(folder, name).arg(window.devicePixelRatioF(), 0, 'g', 3);
+  if (window.grab().save(path)) return true;
+  std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+  return false;
+}
+
+bool TakeAll(const QString& folder) {
+  const CalendarContent france = HolidaysOfFrance();
+  const QTemporaryDir scratch;
+  const auto restore = [&](PackedDate date) {
+    ResetCalendarConfig();
+    Display() = DisplaySettings();
+    Content() = france;
+    Selected().SetPacked(date);
+  };
+  bool saved = true;
+  for (const Picture& picture : kPictures) {
+    restore(picture.date);
+    picture.prepare();
+    CMonthWindow window(nullptr);
+    window.resize(picture.size);
+    saved = Save(window, folder, QString::fromLatin1(picture.name)) && saved;
+  }
+
+  restore(20240515);
+  Display().backgroundImagePath.Set(DarkPicture(scratch).toStdU16String());
+  Display().colors[kStandardTextColor] = Rgb(0xFF, 0xFF, 0xFF);
+  Display().colors[kGrayTextColor] = Rgb(0xA0, 0xA8, 0xB0);
+  {
+    CMonthWindow window(nullptr);
+    window.resize(700, 392);
+    saved = Save(window, folder, QStringLiteral("month_dark_picture")) && saved;
+  }
+
+  restore(20240513);
+  CMonthWindow window(nullptr);
+  window.resize(700, 392);
+  window.show();
+  DragFromSelected(window, 20240524);
+  return Save(window, folder, QStringLiteral("month_range")) && saved;
+}
+
+}  // namespace
+}  // namespace orbisol
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  if (argc != 2) {
+    std::fputs("usage: orbisol_screenshots FOLDER\n", stderr);
+    return 2;
+  }
+  orbisol::InstallDesktopLocale();
+  const QString folder = QString::fromLocal8Bit(argv[1]);
+  return QDir().mkpath(folder) && orbisol::TakeAll(folder) ? 0 : 1;
+}

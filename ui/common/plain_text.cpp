@@ -1,0 +1,40 @@
+#include "ui/common/plain_text.h"
+
+#include <QTextDocument>
+
+#include "resources/strings.h"
+
+namespace orbisol {
+
+QString ToQString(std::u16string_view text) {
+  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::u16string_view Units(const QString& text) {
+  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
+}
+
+QString TableText(int id) { return ToQString(StringText(id)); }
+
+QString TablePiece(int id, int n) { return ToQString(Piece(StringText(id), u'|', n)); }
+
+QString TableText(int id, std::initializer_list<FormatArgument> arguments) {
+  return ToQString(FormatText(StringText(id), arguments));
+}
+
+QString MenuText(std::u16string_view plain) {
+  return ToQString(plain).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString TipMarkup(const QString& plain) {
+  return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain, Qt::WhiteSpaceNormal);
+}
+
+QString GroupedNumber(long long number) {
+  QString text = QString::number(number);
+  const qsizetype first = number < 0 ? 1 : 0;
+  for (qsizetype i = text.size() - 3; i > first; i -= 3) text.insert(i, QLatin1Char(' '));
+  return text;
+}
+
+}  // namespace orbisol

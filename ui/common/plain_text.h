@@ -1,0 +1,37 @@
+// Texts on their way to the toolkit. Names and titles are plain text everywhere: what looks like markup in
+// one is shown as it was written.
+//
+//   menu->addAction(MenuText(MonthName(5)));
+//   QToolTip::showText(point, TipMarkup(text), this);
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+#include "core/text.h"
+
+namespace orbisol {
+
+QString ToQString(std::u16string_view text);
+// Lives as long as the text it looks into.
+std::u16string_view Units(const QString& text);
+
+// An entry of the string table (resources/strings.h).
+QString TableText(int id);
+// Piece n, from 0, of an entry that is a list.
+QString TablePiece(int id, int n);
+// An entry filled in.
+QString TableText(int id, std::initializer_list<FormatArgument> arguments);
+
+// For a menu: "&" stands for itself.
+QString MenuText(std::u16string_view plain);
+
+// For a tool tip, which may read markup: the same text, its lines kept. Empty for an empty text.
+QString TipMarkup(const QString& plain);
+
+// Digits in groups of three with a plain space between them, whatever the locale: "-1 234".
+QString GroupedNumber(long long number);
+
+}  // namespace orbisol

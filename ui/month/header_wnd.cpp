@@ -1,0 +1,494 @@
+#include "ui/month/header_wnd.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFocusEvent>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+#include "content/selected_date.h"
+#include "core/civil_year.h"
+#include "core/date_text.h"
+#include "core/week_number.h"
+#include "resources/command_ids.h"
+#include "resources/strings.h"
+#include "settings/display_settings.h"
+#include "ui/common/plain_text.h"
+#include "ui/month/month_fonts.h"
+#include "ui/month/month_painter.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int kTextPrevious = 131;
+constexpr int kTextNext = 132;
+constexpr int kTextEras = 280;
+constexpr int kTextWeek = 295;
+
+// Pieces of kTextHeaderNames.
+enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
+
+constexpr int kLastYear = 3999;
+constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
+
+QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
+
+QString MonthTitle(int month) { return ToQString(UpperFirst(MonthName(month))); }
+
+bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
+
+}  // namespace
+
+CHeaderPart::CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::KeyboardModifiers)> press,
+                         QWidget* parent)
+    : QAbstractButton(parent), m_part(part), m_press(std::move(press)) {
+  setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  // Space, and whatever presses a button from outside; the keys held count for arrows alone.
+  connect(this, &QAbstractButton::clicked, this,
+          [this] { m_press(m_part, QGuiApplication::keyboardModifiers()); });
+}
+
+void CHeaderPart::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key())) {
+    m_press(m_part, event->modifiers());
+  } else if (event->key() == Qt::Key_Left) {
+    focusPreviousChild();
+  } else if (event->key() == Qt::Key_Right) {
+    focusNextChild();
+  } else {
+    QAbstractButton::keyPressEvent(event);
+  }
+}
+
+void CHeaderPart::focusInEvent(QFocusEvent* event) {
+  QAbstractButton::focusInEvent(event);
+  update();
+}
+
+void CHeaderPart::paintEvent(QPaintEvent*) {
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ToQColor(Display().ColorAt(kColorCalHeader)), 1));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+}
+
+CYearEdit::CYearEdit(QWidget* parent) : QAbstractSpinBox(parent) {
+  setAccelerated(true);
+  setKeyboardTracking(true);
+  lineEdit()->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& entered) {
+    const bool hasDigit =
+        std::any_of(entered.begin(), entered.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (!hasDigit) return;
+    emit YearEntered(std::clamp(ParseDecimal(Units(entered)), -kLastYear, kLastYear));
+  });
+}
+
+void CYearEdit::Open(int year) {
+  m_position = year;
+  lineEdit()->setText(QString::number(year));
+  show();
+  raise();
+  setFocus(Qt::OtherFocusReason);
+  selectAll();
+}
+
+void CYearEdit::stepBy(int steps) {
+  emit YearEntered(std::clamp(m_position + std::clamp(steps, -kLastYear, kLastYear), -kLastYear, kLastYear));
+  // The host has set the position to the year that it shows now.
+  lineEdit()->setText(QString::number(m_position));
+  selectAll();
+}
+
+QAbstractSpinBox::StepEnabled CYearEdit::stepEnabled() const {
+  StepEnabled enabled = StepNone;
+  if (m_position > -kLastYear) enabled |= StepDownEnabled;
+  if (m_position < kLastYear) enabled |= StepUpEnabled;
+  return enabled;
+}
+
+QValidator::State CYearEdit::validate(QString& input, int&) const {
+  for (qsizetype i = 0; i < input.size(); ++i) {
+    const bool isSign = i == 0 && (input[i] == u'-' || input[i] == u'+');
+    if (!isSign && (input[i] < u'0' || input[i] > u'9')) return QValidator::Invalid;
+  }
+  return QValidator::Acceptable;
+}
+
+int CYearEdit::ButtonsWidth() const {
+  QStyleOptionSpinBox option;
+  initStyleOption(&option);
+  option.rect = QRect(0, 0, 200, option.fontMetrics.height() + 8);
+  const QRect field = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
+  constexpr int kTextMargins = 6;  // of the line edit inside, left and right of its text, with the cursor
+  return option.rect.width() - field.width() + kTextMargins;
+}
+
+void CYearEdit::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key()) || event->key() == Qt::Key_Escape) {
+    event->accept();
+    emit Closed(IsEnter(event->key()));
+    return;
+  }
+  QAbstractSpinBox::keyPressEvent(event);
+}
+
+void CYearEdit::focusOutEvent(QFocusEvent* event) {
+  QAbstractSpinBox::focusOutEvent(event);
+  // Its own menu takes the focus for a moment.
+  if (event->reason() != Qt::PopupFocusReason) emit Closed(false);
+}
+
+CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent)
+    : QWidget(parent), m_host(host), m_parts{}, m_year(new CYearEdit(this)) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAccessibleName(TablePiece(kTextHeaderNames, kNameHeader));
+
+  const auto press = [this](HeaderPart part, Qt::KeyboardModifiers modifiers) { Press(part, modifiers); };
+  m_parts = {
+      new CHeaderPart(HeaderPart::kPrevious, press, this), new CHeaderPart(HeaderPart::kMonth, press, this),
+      new CHeaderPart(HeaderPart::kYear, press, this), new CHeaderPart(HeaderPart::kNext, press, this)};
+  m_parts[0]->setAccessibleName(TablePiece(kTextHeaderNames, kNamePrevious));
+  m_parts[0]->setAccessibleDescription(TableText(kTextPrevious));
+  m_parts[3]->setAccessibleName(TablePiece(kTextHeaderNames, kNameNext));
+  m_parts[3]->setAccessibleDescription(TableText(kTextNext));
+
+  m_year->hide();
+  m_year->setAccessibleName(TablePiece(kTextHeaderNames, kNameYearEditor));
+  connect(m_year, &CYearEdit::YearEntered, this, &CHeaderWnd::SetYear);
+  connect(m_year, &CYearEdit::Closed, this, &CHeaderWnd::YearEditorClosed);
+
+  LayOut();
+}
+
+QString CHeaderWnd::TitleText() const {
+  return m_monthName + QLatin1Char(' ') + QString::number(m_shownYear);
+}
+
+QString CHeaderWnd::LeftText() const { return ToQString(LongDate(Selected(), false)); }
+
+QString CHeaderWnd::RightText() const {
+  const Date& date = Selected();
+  const int day = DayOfCivilYear(date);
+  const int left = DaysLeftInCivilYear(date);
+  if (Display().showWeekNumber) return TableText(kTextDayCounts, {day, left});
+  return TableText(kTextWeekAndDayCounts, {StringText(kTextWeek), WeekNumber(date), day, left});
+}
+
+QString CHeaderWnd::EraText() const {
+  const int year = CivilYearOf(Selected());
+  return year < 1 ? TableText(kTextEras, {YearOfRome(year), YearBeforeEra(year)}) : QString();
+}
+
+QString CHeaderWnd::CivilYearText() const {
+  constexpr int kFirstOfJanuary = 101;
+  const int start = CivilYearStartDay(Selected());
+  if (start == kFirstOfJanuary) return {};
+  return TableText(kTextCivilYearStart, {start % 100, MonthName(start / 100)});
+}
+
+void CHeaderWnd::Refresh() {
+  m_year->SetPosition(CivilYearOf(Selected()));
+  if (IsEditingYear() && MonthTitle(Selected().month) == m_monthName) {
+    // The title stands still under the editor.
+    UpdateNames();
+    update(ToQRect(m_layout.topBand));
+    update(ToQRect(m_layout.bottomBand));
+    return;
+  }
+  LayOut();
+  update();
+}
+
+void CHeaderWnd::LayOut() {
+  const Date& selected = Selected();
+  m_band = HeaderBandHeight(QFontInfo(font()).pixelSize());
+  m_monthName = MonthTitle(selected.month);
+  m_shownYear = CivilYearOf(selected);
+
+  QFont bold = CalendarFont(Display(), font());
+  bold.setBold(true);
+  m_titleFont = FontOfHeight(bold, HeaderLayout::TitleHeight(height(), m_band));
+  const QString widestYear = QStringLiteral("-0000");
+  const auto widest = [&] {
+    const QFontMetrics metrics(m_titleFont);
+    int name = 0;
+    for (int month = 1; month <= 12; ++month)
+      name = std::max(name, metrics.horizontalAdvance(MonthTitle(month)));
+    return name + metrics.horizontalAdvance(QLatin1Char(' ') + widestYear);
+  };
+  // In a narrow and high window every title must still fit between the arrows.
+  const int room = HeaderLayout::TitleRoom(width(), height());
+  for (int needed = widest(); needed > room && m_titleFont.pixelSize() > 1; needed = widest())
+    m_titleFont.setPixelSize(
+        std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
+
+  const QFontMetrics metrics(m_titleFont);
+  m_year->setFont(FontOfHeight(bold, std::max(1, std::min(metrics.height(), height() - 2 * m_band - 4))));
+  HeaderMeasures measures;
+  measures.width = width();
+  measures.height = height();
+  measures.band = m_band;
+  measures.space = metrics.horizontalAdvance(QLatin1Char(' '));
+  measures.month = metrics.horizontalAdvance(m_monthName);
+  measures.year = metrics.horizontalAdvance(QString::number(m_shownYear));
+  measures.widestYear = metrics.horizontalAdvance(widestYear);
+  measures.spinButtons = m_year->ButtonsWidth();
+  m_layout = HeaderLayout(measures);
+
+  m_year->setGeometry(ToQRect(m_layout.yearEditor));
+  const Rect* const places[] = {&m_layout.previous, &m_layout.month, &m_layout.year, &m_layout.next};
+  for (std::size_t i = 0; i < m_parts.size(); ++i) m_parts[i]->setGeometry(ToQRect(*places[i]));
+  UpdateNames();
+}
+
+// What a screen reader says.
+void CHeaderWnd::UpdateNames() {
+  const std::u16string month = UpperFirst(MonthName(Selected().month));
+  setAccessibleDescription(LeftText() + QLatin1Char('\n') + RightText());
+  m_parts[1]->setAccessibleName(
+      ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameMonth), {month})));
+  m_parts[2]->setAccessibleName(
+      ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameYear), {CivilYearOf(Selected())})));
+  m_parts[1]->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
+  m_parts[2]->setAccessibleDescription(YearTip());
+}
+
+void CHeaderWnd::paintEvent(QPaintEvent*) {
+  const DisplaySettings& settings = Display();
+  const QColor ink = ToQColor(settings.ColorAt(kColorCalHeader));
+  QPainter painter(this);
+  painter.fillRect(rect(), ToQColor(settings.ColorAt(kColorBgCal)));
+
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ink, 1));
+  painter.setBrush(ink);
+  for (const auto& arrow : {m_layout.previousArrow, m_layout.nextArrow}) {
+    QPolygonF corners;
+    for (const HeaderLayout::Point& point : arrow) corners << QPointF(point.x, point.y);
+    painter.drawConvexPolygon(corners);
+  }
+  painter.setBrush(Qt::NoBrush);
+
+  painter.setFont(m_titleFont);
+  const auto drawPart = [&](const Rect& place, const QString& text) {
+    painter.drawText(ToQRect(place), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, text);
+  };
+  drawPart(m_layout.month, m_monthName);
+  if (!IsEditingYear()) drawPart(m_layout.year, QString::number(m_shownYear));
+
+  painter.setFont(font());
+  // The right text is never cut; the left one gives way to it.
+  const auto drawBand = [&](const Rect& band, const QString& left, const QString& right, bool isLeftCut) {
+    const QRect area = ToQRect(band);
+    const int rightWidth = right.isEmpty() ? 0 : painter.fontMetrics().horizontalAdvance(right) + kBandGap;
+    const int room = area.width() - rightWidth;
+    painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, right);
+    if (isLeftCut || painter.fontMetrics().horizontalAdvance(left) <= room)
+      painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                       painter.fontMetrics().elidedText(left, Qt::ElideRight, room));
+  };
+  drawBand(m_layout.topBand, CivilYearText(), EraText(), false);
+  drawBand(m_layout.bottomBand, LeftText(), RightText(), true);
+}
+
+void CHeaderWnd::resizeEvent(QResizeEvent*) { LayOut(); }
+
+void CHeaderWnd::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOut();
+  QWidget::changeEvent(event);
+}
+
+QString CHeaderWnd::YearTip() const {
+  QStringList lines{ToQString(CenturyText(CivilYearOf(Selected())))};
+  lines << CivilYearText() << TablePiece(kTextHeaderTips, 1);
+  lines.removeAll(QString());
+  return lines.join(QLatin1Char('\n'));
+}
+
+// The text that belongs to a point, and the area in which it is the same.
+QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
+  const auto isIn = [&](const Rect& place) {
+    if (!place.Contains(position.x(), position.y())) return false;
+    *area = ToQRect(place);
+    return true;
+  };
+  if (isIn(m_layout.month)) return TablePiece(kTextHeaderTips, 0);
+  if (isIn(m_layout.year)) return YearTip();
+  if (isIn(m_layout.previousTip)) return TableText(kTextPrevious);
+  if (isIn(m_layout.nextTip)) return TableText(kTextNext);
+  return {};
+}
+
+bool CHeaderWnd::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    QRect area;
+    const QString tip = TipAt(help->pos(), &area);
+    if (tip.isEmpty()) {
+      QToolTip::hideText();
+      event->ignore();
+    } else {
+      QToolTip::showText(help->globalPos(), TipMarkup(tip), this, area);
+    }
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void CHeaderWnd::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint point = event->position().toPoint();
+  const bool isOnPart = m_layout.PartAt(point.x(), point.y()) != HeaderPart::kNone;
+  setCursor(isOnPart ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+// Taken, so that the release comes here too.
+void CHeaderWnd::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
+  const QPoint point = event->position().toPoint();
+  const HeaderPart part = m_layout.PartAt(point.x(), point.y());
+  if (event->button() == Qt::LeftButton) {
+    if (part == HeaderPart::kNone) CloseYearEditor();
+    Press(part, event->modifiers());
+  } else if (event->button() == Qt::RightButton &&
+             (part == HeaderPart::kPrevious || part == HeaderPart::kNext)) {
+    CloseYearEditor();
+    Selected().SetPacked(part == HeaderPart::kPrevious ? kFirstDateShown : kLastDateShown);
+    Changed();
+  }
+}
+
+void CHeaderWnd::Press(HeaderPart part, Qt::KeyboardModifiers modifiers) {
+  switch (part) {
+    case HeaderPart::kPrevious:
+    case HeaderPart::kNext:
+      Step(part == HeaderPart::kNext, modifiers);
+      break;
+    case HeaderPart::kMonth:
+      OpenMonthMenu();
+      break;
+    case HeaderPart::kYear:
+      OpenYearEditor();
+      break;
+    case HeaderPart::kNone:
+      break;
+  }
+}
+
+void CHeaderWnd::Step(bool isForward, Qt::KeyboardModifiers modifiers) {
+  CloseYearEditor();
+  const bool hasCtrl = modifiers & Qt::ControlModifier;
+  const bool hasShift = modifiers & Qt::ShiftModifier;
+  const int sign = isForward ? 1 : -1;
+  if (hasCtrl || hasShift) {
+    StepYears(Selected(), sign * (hasCtrl && hasShift ? 100 : hasShift ? 10 : 1));
+  } else {
+    StepMonths(Selected(), sign);
+  }
+  Changed();
+}
+
+void CHeaderWnd::OpenMonthMenu() {
+  CloseYearEditor();
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (int month = 1; month <= 12; ++month) {
+    QAction* const item = menu->addAction(MenuText(UpperFirst(MonthName(month))));
+    item->setData(kCmdFirstMonth + month - 1);
+    connect(item, &QAction::triggered, this, [this, month] { SelectMonth(month); });
+    if (month == Selected().month) menu->setActiveAction(item);
+  }
+  constexpr int kOverlap = 5;
+  menu->popup(mapToGlobal(QPoint(m_layout.month.left, m_layout.month.bottom - kOverlap)));
+}
+
+// On purpose: the day stays as it is, also where the month has no such day.
+void CHeaderWnd::SelectMonth(int month) {
+  Selected().month = month;
+  ClampToBounds(Selected());
+  Changed();
+}
+
+void CHeaderWnd::OpenYearEditor() {
+  if (IsEditingYear()) return;
+  m_focusBefore = QApplication::focusWidget();
+  m_year->Open(CivilYearOf(Selected()));
+  update(ToQRect(m_layout.year));
+}
+
+void CHeaderWnd::SetYear(int year) {
+  SetCivilYear(Selected(), year);
+  ClampToBounds(Selected());
+  Changed();
+}
+
+void CHeaderWnd::CloseYearEditor() {
+  if (IsEditingYear()) YearEditorClosed(false);
+}
+
+void CHeaderWnd::YearEditorClosed(bool byEnter) {
+  if (!IsEditingYear()) return;
+  const QSignalBlocker closesOnce(m_year);  // losing the focus closes it too
+  const bool hadFocus = m_year->hasFocus();
+  // Enter means "today" in the month below: until the key is up its repetitions end here.
+  m_isEnterDown = byEnter && hadFocus;
+  if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
+  m_year->hide();
+  if (hadFocus && !m_isEnterDown) GiveFocusBack();
+  LayOut();
+  update();
+}
+
+void CHeaderWnd::GiveFocusBack() {
+  if (m_focusBefore && m_focusBefore->isVisible()) {
+    m_focusBefore->setFocus(Qt::OtherFocusReason);
+  } else {
+    m_parts[2]->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void CHeaderWnd::keyPressEvent(QKeyEvent* event) {
+  if (m_isEnterDown && !IsEnter(event->key())) {
+    // A key was typed before Enter was up: it is meant for what had the focus.
+    m_isEnterDown = false;
+    GiveFocusBack();
+    if (QWidget* const receiver = QApplication::focusWidget(); receiver && receiver != this)
+      QCoreApplication::sendEvent(receiver, event);
+    return;
+  }
+  if (m_isEnterDown) return;
+  QWidget::keyPressEvent(event);
+}
+
+void CHeaderWnd::keyReleaseEvent(QKeyEvent* event) {
+  if (m_isEnterDown && IsEnter(event->key()) && !event->isAutoRepeat()) {
+    m_isEnterDown = false;
+    GiveFocusBack();
+    return;
+  }
+  QWidget::keyReleaseEvent(event);
+}
+
+void CHeaderWnd::Changed() {
+  Refresh();
+  if (m_host) m_host->OnHeaderDateChanged();
+}
+
+}  // namespace orbisol

@@ -1,0 +1,147 @@
+// The header above the month: month and year of the selected date between two arrows, its long form and its
+// place in the civil year below, the eras of years before the first above.
+//
+//   CHeaderWnd header(host, parent);
+//   Selected() = …;     // somebody else moved the date:
+//   header.Refresh();
+//
+// A click on an arrow steps by a month, with Ctrl by a year, with Shift by ten, with both by a hundred; the
+// right button goes to the end of the range. The month opens a menu, the year an editor with a spin control.
+// With the keyboard, Tab and the left and right arrows reach the four, Enter and Space press them.
+#pragma once
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QFont>
+#include <QPointer>
+
+#include <array>
+#include <functional>
+
+#include "ui/month/header_layout.h"
+
+class QMenu;
+
+namespace orbisol {
+
+struct HeaderHost {
+  virtual ~HeaderHost() = default;
+
+  // The selected date was changed by the user's hand, in the header.
+  virtual void OnHeaderDateChanged() = 0;
+};
+
+// A part of the header as the keyboard and a screen reader know it. It shows nothing but its focus; the mouse
+// belongs to the header.
+class CHeaderPart : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::KeyboardModifiers)> press, QWidget* parent);
+
+  QSize sizeHint() const override { return size(); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  HeaderPart m_part;
+  std::function<void(HeaderPart, Qt::KeyboardModifiers)> m_press;
+};
+
+// The editor of the year. It takes a sign and digits, and is never rewritten while the user types.
+class CYearEdit : public QAbstractSpinBox {
+  Q_OBJECT
+
+ public:
+  explicit CYearEdit(QWidget* parent);
+
+  void Open(int year);
+  // What the spin control steps from.
+  void SetPosition(int year) { m_position = year; }
+  QString Text() const { return text(); }
+
+  void stepBy(int steps) override;
+  QValidator::State validate(QString& input, int& position) const override;
+
+  // Width of what stands beside the text: the buttons and the frame.
+  int ButtonsWidth() const;
+
+ signals:
+  void YearEntered(int year);  // -3999..3999, clamped
+  void Closed(bool byEnter);
+
+ protected:
+  StepEnabled stepEnabled() const override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  int m_position = 0;
+};
+
+class CHeaderWnd : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The host outlives the window.
+  explicit CHeaderWnd(HeaderHost* host, QWidget* parent = nullptr);
+
+  // The selected date, the colors, the font or the calendar rules were changed elsewhere. While the year is
+  // being typed its box is left alone.
+  void Refresh();
+
+  bool IsEditingYear() const { return m_year->isVisible(); }
+  void CloseYearEditor();
+
+  const HeaderLayout& Places() const { return m_layout; }
+
+  // As the bands and the title show them, for tests and for whoever cannot see them.
+  QString TitleText() const;
+  QString LeftText() const;   // bottom left: the long date
+  QString RightText() const;  // bottom right: week, day of the civil year, days left in it
+  QString EraText() const;    // top right; empty from year 1 on
+  // Empty where civil years begin on 1 January.
+  QString CivilYearText() const;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  void LayOut();
+  void Press(HeaderPart part, Qt::KeyboardModifiers modifiers);
+  void Step(bool isForward, Qt::KeyboardModifiers modifiers);
+  void OpenMonthMenu();
+  void SelectMonth(int month);
+  void OpenYearEditor();
+  void SetYear(int year);
+  void YearEditorClosed(bool byEnter);
+  void GiveFocusBack();
+  void Changed();
+  QString YearTip() const;
+  QString TipAt(QPoint position, QRect* area) const;
+  void UpdateNames();
+
+  HeaderHost* m_host;
+  HeaderLayout m_layout;
+  QFont m_titleFont;
+  int m_band = 0;  // height of the bands
+  QString m_monthName;
+  int m_shownYear = 0;  // as the title shows it
+  std::array<CHeaderPart*, 4> m_parts;
+  CYearEdit* m_year;
+  QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
+  bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet
+};
+
+}  // namespace orbisol

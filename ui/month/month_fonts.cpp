@@ -1,0 +1,81 @@
+#include "ui/month/month_fonts.h"
+
+#include <QFontMetrics>
+#include <QString>
+#include <QStringList>
+
+#include <algorithm>
+
+#include "core/date_text.h"
+#include "ui/common/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+int WidestOf(const QStringList& texts, const QFont& font) {
+  const QFontMetrics metrics(font);
+  int widest = 0;
+  for (const QString& text : texts) widest = std::max(widest, metrics.horizontalAdvance(text));
+  return widest;
+}
+
+// `font` in the largest size, at most its own, at which all the texts fit into `room`.
+QFont FontOfWidth(QFont font, const QStringList& texts, int room) {
+  const int widest = WidestOf(texts, font);
+  if (widest <= room) return font;
+  // Widths grow with the size, nearly evenly: from a little above the estimate down to the first that fits.
+  int size = std::min(font.pixelSize(), font.pixelSize() * std::max(room, 1) / widest + 2);
+  for (; size > 1; --size) {
+    font.setPixelSize(size);
+    if (WidestOf(texts, font) <= room) break;
+  }
+  font.setPixelSize(size);
+  return font;
+}
+
+}  // namespace
+
+QFont FontOfHeight(QFont font, int height) {
+  const auto fits = [&](int size) {
+    font.setPixelSize(size);
+    return QFontMetrics(font).height() <= height;
+  };
+  if (height <= 1) {
+    font.setPixelSize(1);
+    return font;
+  }
+  font.setPixelSize(height);
+  int size = std::max(1, height * height / std::max(QFontMetrics(font).height(), 1));
+  while (size > 1 && !fits(size)) --size;
+  while (size < height && fits(size + 1)) ++size;
+  font.setPixelSize(size);
+  return font;
+}
+
+QFont CalendarFont(const DisplaySettings& settings, const QFont& dialogFont) {
+  QFont font = settings.fontName.IsEmpty() ? dialogFont : QFont(ToQString(settings.fontName.View()));
+  font.setWeight(static_cast<QFont::Weight>(std::clamp(settings.fontWeight, 1, 1000)));
+  font.setItalic(false);
+  return font;
+}
+
+MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& settings,
+                          const QFont& dialogFont) {
+  MonthFonts fonts;
+  fonts.upright = FontOfHeight(CalendarFont(settings, dialogFont), layout.FontHeight());
+  fonts.italic = fonts.upright;
+  fonts.italic.setItalic(true);
+  QStringList names;
+  for (int column = 0; column < kColumns; ++column) names << ColumnName(layout, column);
+  fonts.names = FontOfWidth(fonts.upright, names, layout.NameRect(0).Width());
+  constexpr int kWeekMargin = 1;
+  fonts.small = FontOfWidth(FontOfHeight(fonts.upright, layout.SmallFontHeight()), {QStringLiteral("00")},
+                            layout.WeekNumberRect(1).Width() - 2 * kWeekMargin);
+  return fonts;
+}
+
+QString ColumnName(const MonthLayout& layout, int column) {
+  return ToQString(UpperFirst(WeekdayName(column + layout.firstCell)));
+}
+
+}  // namespace orbisol

@@ -1,0 +1,122 @@
+#include "ui/month/month_layout.h"
+
+#include <algorithm>
+
+namespace orbisol {
+namespace {
+
+constexpr int kNameMargin = 3;  // around a weekday name
+
+}  // namespace
+
+MonthLayout::MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale)
+    : width(std::max(totalWidth, 0)),
+      height(std::max(totalHeight, 0)),
+      // Seven columns take 280 of 290 parts beside the week numbers.
+      columnWidth(weekNumbers ? MulDiv(40, width, 290) : width / kColumns),
+      rowHeight(height / (kWeekRows + 1)),
+      lineScale(std::max(scale, 1)),
+      showWeekNumber(weekNumbers),
+      firstCell(mondayFirst ? 1 : 0) {}
+
+Rect MonthLayout::CellRect(int cell) const {
+  const int left = ColumnOf(cell) * columnWidth;
+  const int top = RowOf(cell) * rowHeight;
+  return {left, top, left + columnWidth, top + rowHeight};
+}
+
+int MonthLayout::CellAt(int x, int y) const {
+  if (x < 0 || y < 0 || columnWidth == 0 || rowHeight == 0) return kNoCell;
+  const int column = x / columnWidth;
+  const int row = y / rowHeight;
+  if (column >= kColumns || row < 1 || row > kWeekRows) return kNoCell;
+  return firstCell + (row - 1) * kColumns + column;
+}
+
+Rect MonthLayout::NameRect(int column) const {
+  return Rect{column * columnWidth, 0, (column + 1) * columnWidth, rowHeight}.Shrunk(kNameMargin);
+}
+
+Rect MonthLayout::WeekHeaderRect() const { return {WeekNumbersLeft(), 0, width, rowHeight}; }
+
+Rect MonthLayout::WeekNumberRect(int row) const {
+  return {WeekNumbersLeft(), row * rowHeight, width - 1, (row + 1) * rowHeight};
+}
+
+// Where the columns of days are rounded up they reach a little into the part that is left for the numbers.
+int MonthLayout::WeekNumbersLeft() const {
+  return std::max(MulDiv(28, width, 29), kColumns * columnWidth + lineScale);
+}
+
+std::vector<int> MonthLayout::VerticalLines(bool grid) const {
+  std::vector<int> lines;
+  if (grid) {
+    const int count = showWeekNumber ? kColumns + 1 : kColumns;
+    for (int j = 0; j < count; ++j) lines.push_back(j * columnWidth);
+    lines.push_back(width);
+  } else if (showWeekNumber) {
+    lines.push_back(kColumns * columnWidth);
+  }
+  return lines;
+}
+
+std::vector<int> MonthLayout::HorizontalLines(bool grid) const {
+  std::vector<int> lines;
+  if (!grid) return lines;
+  if (rowHeight > 0)
+    for (int j = 0; j < height / rowHeight; ++j) lines.push_back(j * rowHeight);
+  lines.push_back(height);
+  return lines;
+}
+
+Rect MonthLayout::BandRect(int cell) const {
+  Rect band = CellRect(cell);
+  band.bottom = band.top + band.Height() / 5;
+  return band;
+}
+
+int MonthLayout::RoundedDiameter() const { return std::min(columnWidth, rowHeight) / (5 * lineScale); }
+
+Rect MonthLayout::GlyphRect(int cell, int textWidth, int textHeight) const {
+  const Rect rect = CellRect(cell);
+  const int side = textHeight / 4;
+  const int left = rect.left + (columnWidth + textWidth) / 2;
+  return {left, rect.top + (rowHeight - side) / 2, left + side, rect.top + (rowHeight + side) / 2};
+}
+
+Rect MonthLayout::CircleRect(int cell) const {
+  return CellRect(cell).Shrunk(columnWidth / 20, rowHeight / 20);
+}
+
+Rect MonthLayout::FrameRect(int cell, int penWidth) const {
+  Rect frame = CellRect(cell).Shrunk(penWidth / 2);
+  // The last stroke of an odd width would leave the canvas by a pixel.
+  const int behind = penWidth - penWidth / 2;
+  frame.right = std::min(frame.right, width - behind);
+  frame.bottom = std::min(frame.bottom, height - behind);
+  return frame;
+}
+
+std::vector<Rect> MonthLayout::FrameStrokes(Rect frame, int penWidth) {
+  // A stroke begins half its width before the line that it follows, and ends where it has its width.
+  const Rect outer = {frame.left - penWidth / 2, frame.top - penWidth / 2,
+                      frame.right - penWidth / 2 + penWidth, frame.bottom - penWidth / 2 + penWidth};
+  const Rect inner = outer.Shrunk(penWidth);
+  if (inner.Width() <= 0 || inner.Height() <= 0) return {outer};
+  return {{outer.left, outer.top, outer.right, inner.top},
+          {outer.left, inner.bottom, outer.right, outer.bottom},
+          {outer.left, inner.top, inner.left, inner.bottom},
+          {inner.right, inner.top, outer.right, inner.bottom}};
+}
+
+Rect MonthLayout::DirtyRect(int cell) const {
+  constexpr int kWidestStroke = 3;  // of a mark, which leaves small cells by up to that
+  return CellRect(cell).Shrunk(-std::max(columnWidth / 10, kWidestStroke),
+                               -std::max(rowHeight / 8, kWidestStroke));
+}
+
+int MonthLayout::FontHeight() const { return std::min(columnWidth / 2, rowHeight); }
+
+int MonthLayout::SmallFontHeight() const { return MulDiv(FontHeight(), 40, 100); }
+
+}  // namespace orbisol

@@ -1,0 +1,83 @@
+// Where everything stands in the month view: a header row, six rows of weeks, at the right a narrow column of
+// week numbers where it is asked for. Plain integers, the unit is that of the canvas (pixels on a screen).
+//
+//   const MonthLayout layout(900, 420, settings.showWeekNumber, Rules().iso8601);
+//   layout.CellRect(cell);  // cells are numbered as in MonthModel
+//   layout.CellAt(x, y);    // its inverse
+//
+// Any size is accepted; in one too small for seven columns and rows nothing is hit and rectangles may be
+// empty.
+#pragma once
+
+#include <vector>
+
+#include "content/month_model.h"
+#include "core/rect.h"
+
+namespace orbisol {
+
+constexpr int kColumns = 7;
+constexpr int kWeekRows = 6;
+constexpr int kToolCount = kColumns * kWeekRows;  // areas with a tool tip, one a cell
+
+struct MonthLayout {
+  int width = 0;
+  int height = 0;
+  int columnWidth = 0;
+  int rowHeight = 0;
+  int lineScale = 1;  // width of a thin line
+  bool showWeekNumber = false;
+  int firstCell = 1;  // 1 with Monday-first weeks, else 0
+
+  MonthLayout() = default;
+  MonthLayout(int width, int height, bool showWeekNumber, bool mondayFirst, int lineScale = 1);
+
+  // Column 0..6 and row 1..6 of a cell from firstCell on.
+  int ColumnOf(int cell) const { return (cell - firstCell) % kColumns; }
+  int RowOf(int cell) const { return (cell - firstCell) / kColumns + 1; }
+  bool IsInFirstRow(int cell) const { return RowOf(cell) == 1; }
+
+  Rect CellRect(int cell) const;
+  // kNoCell in the header row, in and right of the week numbers, in the rest that the divisions leave at the
+  // right and below, and outside.
+  int CellAt(int x, int y) const;
+
+  Rect HeaderBand() const { return {0, 0, width, rowHeight + 1}; }
+  Rect PictureRect() const { return {0, rowHeight, width, height}; }
+  Rect NameRect(int column) const;  // of a weekday name, 0..6
+  Rect WeekHeaderRect() const;      // of the title of the week numbers
+  Rect WeekNumberRect(int row) const;
+
+  // Left and upper edges of the grid's lines, the closing ones included, which lie just outside.
+  std::vector<int> VerticalLines(bool grid) const;
+  std::vector<int> HorizontalLines(bool grid) const;
+
+  // What is filled for a day with a mark: a band across the top of its cell, or a rectangle with rounded
+  // corners.
+  Rect BandRect(int cell) const;
+  Rect RoundedRect(int cell) const { return CellRect(cell).Shrunk(4 * lineScale); }
+  int RoundedDiameter() const;
+
+  // The phase of the moon, right of a number of two digits whose text is `textWidth` wide and `textHeight`
+  // high.
+  Rect GlyphRect(int cell, int textWidth, int textHeight) const;
+
+  Rect CircleRect(int cell) const;                                  // the ellipse of the active day
+  Rect FrameRect(int cell, int penWidth) const;                     // the middle of its frame's strokes
+  static std::vector<Rect> FrameStrokes(Rect frame, int penWidth);  // the four strokes of a frame
+
+  // What is painted anew when the mark comes to a cell or leaves it.
+  Rect DirtyRect(int cell) const;
+
+  // A cell by the number of its tool tip, 1..kToolCount, row by row.
+  int CellOfTool(int tool) const { return tool - 1 + firstCell; }
+
+  // Heights of fonts, ascent and descent together.
+  int FontHeight() const;
+  int SmallFontHeight() const;
+
+ private:
+  int WeekNumbersLeft() const;
+};
+
+}  // namespace orbisol

@@ -1,0 +1,193 @@
+#include "ui/month/month_window.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+#include "core/platform.h"
+#include "ui/month/month_pictures.h"
+
+namespace orbisol {
+namespace {
+
+QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
+
+// 0 for a clock that stands outside of the years shown.
+PackedDate TodayPacked() {
+  const Date today = Date::Today();
+  return IsWithinBounds(today) ? today.Packed() : 0;
+}
+
+}  // namespace
+
+CMonthWindow::CMonthWindow(MonthHost* host, QWidget* parent)
+    : QWidget(parent), m_host(host), m_shown(Selected()) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
+  m_painter.SetBackground(LoadBackground(Display()));
+  LayOut();
+  CheckToday();
+}
+
+void CMonthWindow::Refresh() {
+  if (!m_isDragging && !m_shown.SameDay(Selected())) CancelRange();
+  m_shown = Selected();
+  m_builtFor = 0;
+  update();
+}
+
+void CMonthWindow::SettingsChanged() {
+  m_painter.SetBackground(LoadBackground(Display()));
+  LayOut();
+  Refresh();
+}
+
+void CMonthWindow::SetSelectionVisible(bool isVisible) {
+  m_isSelectionVisible = isVisible;
+  update();
+}
+
+void CMonthWindow::SetStretchedOutput(bool isStretched) {
+  m_isStretched = isStretched;
+  if (!isStretched) LayOut();
+  update();
+}
+
+const MonthModel& CMonthWindow::Month() {
+  const Date& selected = Selected();
+  const PackedDate first = Pack(selected.year, selected.month, 1);
+  if (m_builtFor != first) {
+    m_month.year = selected.year;
+    m_month.month = selected.month;
+    m_month.day = 1;
+    m_month.Build(Content(), Display().colors, MonthModel::kWithMoon);
+    m_builtFor = first;
+  }
+  return m_month;
+}
+
+int CMonthWindow::SelectedCell() { return Month().CellOf(Selected().month, Selected().day); }
+
+int CMonthWindow::CellAt(QPoint position) {
+  const int cell = Places().CellAt(position.x(), position.y());
+  if (cell == kNoCell || Month().cells[static_cast<std::size_t>(cell)].day == 0) return kNoCell;
+  return cell;
+}
+
+bool CMonthWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (!ShowTip(help->pos(), help->globalPos())) event->ignore();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void CMonthWindow::paintEvent(QPaintEvent* event) {
+  if (m_isStretched && !m_isCanvasPainted) LayOut();  // There is no picture to stretch yet.
+  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == devicePixelRatioF();
+  if (!fits && !(m_isStretched && m_isCanvasPainted)) {
+    // A new size, or the window came to a screen of another resolution.
+    m_canvas = QImage(pixels, QImage::Format_RGB32);
+    m_canvas.setDevicePixelRatio(devicePixelRatioF());
+    m_isCanvasPainted = false;
+  }
+  if (!m_isStretched || !m_isCanvasPainted) RenderCanvas(m_isCanvasPainted ? event->region() : QRegion());
+
+  QPainter painter(this);
+  if (m_isStretched) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(rect(), m_canvas);
+  } else {
+    painter.drawImage(0, 0, m_canvas);
+  }
+}
+
+// An empty region stands for the whole canvas.
+void CMonthWindow::RenderCanvas(const QRegion& region) {
+  if (m_canvas.isNull()) return;
+  m_builtFor = 0;  // Rules, periods or colors may have changed since.
+  QPainter painter(&m_canvas);
+  m_painter.Paint(painter, Month(), Marks(), region);
+  m_isCanvasPainted = true;
+}
+
+MonthMarks CMonthWindow::Marks() {
+  const Date& selected = Selected();
+  MonthMarks marks;
+  marks.month = selected.month;
+  marks.day = selected.day;
+  marks.isVisible = m_isSelectionVisible;
+  marks.today = m_today;
+  if (m_isRangeActive) {
+    marks.hasRange = true;
+    const int anchor = Date(m_anchor).DayNumber();
+    marks.firstDayNumber = std::min(anchor, selected.DayNumber());
+    marks.lastDayNumber = std::max(anchor, selected.DayNumber());
+  }
+  return marks;
+}
+
+void CMonthWindow::resizeEvent(QResizeEvent*) {
+  if (!m_isStretched) LayOut();
+}
+
+void CMonthWindow::showEvent(QShowEvent*) { CheckToday(); }
+
+void CMonthWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) {
+    LayOut();
+    update();
+  }
+  // After a sleep the timer is late; whoever wakes the machine comes back to the window.
+  if (event->type() == QEvent::ActivationChange) CheckToday();
+  QWidget::changeEvent(event);
+}
+
+void CMonthWindow::LayOut() {
+  m_painter.SetUp(MonthLayout(width(), height(), Display().showWeekNumber, Rules().iso8601), Display(),
+                  font(), CMonthPainter::kScreen);
+  m_isCanvasPainted = false;
+}
+
+void CMonthWindow::UpdateCell(int cell) {
+  if (cell != kNoCell) update(ToQRect(Places().DirtyRect(cell)));
+}
+
+// The selected date was `before` until a hand of this window changed it.
+void CMonthWindow::Moved(const Date& before, Report report) {
+  const Date& selected = Selected();
+  if (before.year != selected.year || before.month != selected.month || m_isRangeActive) {
+    update();
+  } else {
+    UpdateCell(Month().CellOf(before.month, before.day));
+    UpdateCell(SelectedCell());
+  }
+  m_shown = selected;
+  if (m_host == nullptr) return;
+  if (report == kAtOnce) {
+    m_host->OnMonthDateChanged();
+  } else if (!m_isReportPending) {
+    m_isReportPending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          m_isReportPending = false;
+          m_host->OnMonthDateChanged();
+        },
+        Qt::QueuedConnection);
+  }
+}
+
+// Underlines another day when the date has changed, and waits for the next midnight.
+void CMonthWindow::CheckToday() {
+  const PackedDate today = TodayPacked();
+  if (today != m_today) update();
+  m_today = today;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,105 @@
+// The main window: menu bar, tool bar and status bar around the main dialog, and what every command does.
+//
+//   CCalendarFrame frame({store, calendars, {u"fr", u"FR"}});  // reads the settings and puts them in force
+//   frame.Open();                                              // where it stood when it was last closed
+//
+// Closing it stores where it stands.
+#pragma once
+
+#include <QMainWindow>
+#include <QRect>
+
+#include <span>
+
+#include "files/calendar_store.h"
+#include "resources/command_ids.h"
+#include "settings/first_start.h"
+#include "settings/settings_persistence.h"
+#include "settings/settings_store.h"
+#include "ui/common/command_table.h"
+#include "ui/shell/main_dlg.h"
+
+namespace orbisol {
+
+class CElidedLabel;
+
+struct FrameDoors {
+  SettingsStore& store;
+  CCalendarStore& calendars;
+  UserLocale locale;
+};
+
+// The smallest rectangle around all screens.
+Rect VirtualScreen();
+
+// Puts a text on the clipboard; one that is busy keeps what it has.
+void CopyTextToClipboard(const QString& text);
+
+class CCalendarFrame : public QMainWindow, private MainDlgHost {
+  Q_OBJECT
+
+ public:
+  // The doors outlive the frame.
+  explicit CCalendarFrame(const FrameDoors& doors);
+
+  void Open();
+  // To the front, for a user who started the program again.
+  void Raise();
+
+  void RunCommand(CommandId command);
+
+  CMainDlg& Dialog() { return *m_dialog; }
+  CCommandTable& Commands() { return *m_commands; }
+  QString StatusText() const;
+
+  QMenu* createPopupMenu() override { return nullptr; }
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  struct Handler {
+    CommandId command;
+    void (CCalendarFrame::*run)();
+  };
+  static const Handler kHandlers[];
+  static const Handler* HandlerOf(CommandId command);
+
+  void OnDateShown(const QString& description) override;
+  void OpenPeriods(const Date& from, const Date& to) override;
+  void OpenEvents(const Date& date) override;
+
+  void OnCopyDate();
+  void OnCopyJulianDate();
+  void OnCopyRepublicanDate();
+  void OnToggleToolBar();
+  void OnToggleStatusBar();
+  void OnTogglePane();
+  void OnGoBack();
+  void OnGoForward();
+  void OnQuit();
+  void OnNotYet();  // for commands whose windows are not made yet; they are disabled
+
+  void TakeSettings();
+  void UpdateTitle();
+  void UpdateCommands();
+  void CorrectFrame();
+  void SettleNormalWidth();
+  ClosingFrame State() const;
+
+  FrameDoors m_doors;
+  CCommandTable* m_commands;
+  QToolBar* m_toolBar;
+  CElidedLabel* m_description;
+  CMainDlg* m_dialog;
+
+  QSize m_wantedSize;       // with its frame, as it was stored
+  QSize m_openedSize;       // without; what the frame was opened with
+  QMargins m_margins;       // of the frame around the window, once they are known
+  bool m_isFitted = false;  // the frame's margins have been taken off
+  int m_owedWidth = 0;      // by which the pane changed the window while it was maximized
+};
+
+}  // namespace orbisol

@@ -1,0 +1,165 @@
+#include "ui/shell/main_dlg.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+
+#include <algorithm>
+
+#include "content/selected_date.h"
+#include "resources/strings.h"
+#include "ui/common/plain_text.h"
+#include "ui/month/month_painter.h"
+#include "ui/month/tip_text.h"
+#include "ui/shell/calendar_group.h"
+
+namespace orbisol {
+namespace {
+
+// As the dialog was designed; no smaller, so that the month is never cut.
+constexpr int kLeastGridWidth = 56 * kDayColumns;
+constexpr int kLeastHeight = 300;
+
+QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
+
+}  // namespace
+
+CMainDlg::CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_isPaneShown(isPaneShown),
+      m_group(new CCalendarGroup(TableText(kTextGregorianGroup), this)),
+      m_header(new CHeaderWnd(this, this)),
+      m_month(new CMonthWindow(this, this)),
+      m_separator(new QWidget(this)),
+      m_pane(new CConverterPane(this, this)),
+      m_paneWidth(PaneWidthFor(m_pane->sizeHint().width())) {
+  m_separator->setAutoFillBackground(true);
+  setAutoFillBackground(true);
+  m_pane->setVisible(isPaneShown);
+  m_separator->setVisible(isPaneShown);
+  ApplyColors();
+  SetMinimum();
+  setFocusProxy(m_month);
+}
+
+void CMainDlg::ApplyColors() {
+  const QColor ground = ToQColor(Display().ColorAt(kColorBgCal));
+  const QColor ink = ToQColor(Display().ColorAt(kColorCalHeader));
+  // Fields and buttons are derived from the calendar's ground, so that they suit it under every theme.
+  QPalette colors(ground, ground);
+  colors.setColor(QPalette::Active, QPalette::WindowText, ink);
+  colors.setColor(QPalette::Inactive, QPalette::WindowText, ink);
+  const QPalette desktop = QApplication::palette();
+  for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+      colors.setColor(group, role, desktop.color(group, role));
+  setPalette(colors);
+  QPalette line;
+  line.setColor(QPalette::Window, LineColor(*this));
+  m_separator->setPalette(line);
+}
+
+int CMainDlg::HeaderTop() const {
+  QStyleOptionGroupBox option;
+  option.initFrom(m_group);
+  option.text = m_group->title();
+  option.rect = QRect(0, 0, 400, 400);
+  option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+  option.lineWidth = 1;
+  const QRect inside =
+      m_group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, m_group);
+  constexpr int kBelowTitle = 2;
+  return kTopMargin + inside.top() + kBelowTitle;
+}
+
+void CMainDlg::SetMinimum() {
+  const int width = kLeastGridWidth + 2 * (kMargin + kGap) + (m_isPaneShown ? m_paneWidth : 0);
+  setMinimumSize(width, std::max(kLeastHeight, m_pane->sizeHint().height()));
+}
+
+void CMainDlg::LayOut() {
+  MainMeasures measures;
+  measures.width = width();
+  measures.height = height();
+  measures.headerTop = HeaderTop();
+  measures.weekNumbers = Display().showWeekNumber;
+  measures.paneShown = m_isPaneShown;
+  measures.paneWidth = m_paneWidth;
+  const MainLayout places = LayOutMain(measures);
+  m_group->setGeometry(ToQRect(places.group));
+  m_header->setGeometry(ToQRect(places.header));
+  m_month->setGeometry(ToQRect(places.grid));
+  m_separator->setGeometry(ToQRect(places.separator));
+  m_pane->setGeometry(ToQRect(places.pane));
+}
+
+void CMainDlg::resizeEvent(QResizeEvent*) { LayOut(); }
+
+void CMainDlg::ShowPane(bool isShown) {
+  if (isShown == m_isPaneShown) return;
+  m_isPaneShown = isShown;
+  // What is not seen must not be reached with Tab either.
+  m_pane->setVisible(isShown);
+  m_separator->setVisible(isShown);
+  SetMinimum();
+  LayOut();
+  FocusMonth();
+}
+
+void CMainDlg::FocusMonth() { m_month->setFocus(Qt::OtherFocusReason); }
+
+QString CMainDlg::Description() {
+  const int cell = m_month->SelectedCell();
+  if (cell == kNoCell) return {};
+  const DayCell& day = m_month->Month().cells[static_cast<std::size_t>(cell)];
+  return ToQString(TipText(day, Display().tipsForEventsOnly))
+      .replace(QLatin1Char('\n'), QLatin1String(" | "));
+}
+
+void CMainDlg::Refresh(bool withMonth) {
+  // A year that is being typed passes through many that nobody wants to see again.
+  m_history.Visit(Selected().Packed(), m_header->IsEditingYear() ? VisitBy::kWalk : VisitBy::kDistance);
+  if (withMonth) m_month->Refresh();
+  m_header->Refresh();
+  m_pane->Refresh();
+  // The keyboard stays where it is while the header is used with it.
+  if (!m_isPaneShown && !m_header->isAncestorOf(QApplication::focusWidget())) FocusMonth();
+  m_host->OnDateShown(Description());
+}
+
+void CMainDlg::SettingsChanged() {
+  ApplyColors();
+  m_month->SettingsChanged();
+  m_pane->SettingsChanged();
+  LayOut();
+  Refresh(true);
+  update();
+}
+
+void CMainDlg::OnMonthDateChanged() { Refresh(false); }
+
+void CMainDlg::OnHeaderDateChanged() { Refresh(true); }
+
+void CMainDlg::OnPaneDateChanged() { Refresh(true); }
+
+void CMainDlg::OpenPeriodEditor(const Date& from, const Date& to) { m_host->OpenPeriods(from, to); }
+
+void CMainDlg::OpenEventsEditor(const Date& date) { m_host->OpenEvents(date); }
+
+void CMainDlg::GoBack() {
+  if (const PackedDate date = m_history.Back()) {
+    Selected().SetPacked(date);
+    Refresh(true);
+  }
+}
+
+void CMainDlg::GoForward() {
+  if (const PackedDate date = m_history.Forward()) {
+    Selected().SetPacked(date);
+    Refresh(true);
+  }
+}
+
+}  // namespace orbisol

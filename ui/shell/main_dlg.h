@@ -1,0 +1,91 @@
+// What fills the main window: the month under its header at the left, the converter pane at the right. Every
+// change of the selected date, whoever made it, ends in its Refresh().
+//
+//   CMainDlg dialog(host, parent);
+//   Selected() = …;
+//   dialog.Refresh(true);
+#pragma once
+
+#include <QWidget>
+
+#include "ui/month/header_wnd.h"
+#include "ui/month/month_host.h"
+#include "ui/month/month_window.h"
+#include "ui/shell/converter_pane.h"
+#include "ui/shell/date_history.h"
+#include "ui/shell/main_layout.h"
+
+class QGroupBox;
+
+namespace orbisol {
+
+struct MainDlgHost {
+  virtual ~MainDlgHost() = default;
+
+  // The selected date may have changed, and with it what commands can be given. `description` says what falls
+  // on it, in one line; empty for nothing.
+  virtual void OnDateShown(const QString& description) = 0;
+
+  virtual void OpenPeriods(const Date& from, const Date& to) = 0;
+  virtual void OpenEvents(const Date& date) = 0;
+};
+
+class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private PaneHost {
+  Q_OBJECT
+
+ public:
+  // The host outlives the dialog.
+  CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent = nullptr);
+
+  // Shows the selected date everywhere, the month included when it was changed outside of it.
+  void Refresh(bool withMonth);
+  // Colors, fonts, switches, calendar rules or the content were changed.
+  void SettingsChanged();
+
+  bool IsPaneShown() const { return m_isPaneShown; }
+  void ShowPane(bool isShown);
+  // What a window gains or loses with the pane; measured once.
+  int PaneWidth() const { return m_paneWidth; }
+
+  QString JulianText() const { return m_pane->JulianText(); }
+  QString RepublicanText() const { return m_pane->RepublicanText(); }
+
+  void FocusMonth() override;
+
+  // Through the dates visited; where there is none on that side nothing happens.
+  void GoBack();
+  void GoForward();
+  const CDateHistory& History() const { return m_history; }
+
+  CMonthWindow& Month() { return *m_month; }
+  CHeaderWnd& Header() { return *m_header; }
+  CConverterPane& Pane() { return *m_pane; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void OnMonthDateChanged() override;
+  void OpenPeriodEditor(const Date& from, const Date& to) override;
+  void OpenEventsEditor(const Date& date) override;
+  void OnHeaderDateChanged() override;
+  void OnPaneDateChanged() override;
+
+  void LayOut();
+  void SetMinimum();
+  void ApplyColors();
+  int HeaderTop() const;
+  QString Description();
+
+  MainDlgHost* m_host;
+  bool m_isPaneShown;
+  QGroupBox* m_group;
+  CHeaderWnd* m_header;
+  CMonthWindow* m_month;
+  QWidget* m_separator;
+  CConverterPane* m_pane;
+  int m_paneWidth;
+  CDateHistory m_history;
+};
+
+}  // namespace orbisol

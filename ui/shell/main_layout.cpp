@@ -1,0 +1,33 @@
+#include "ui/shell/main_layout.h"
+
+#include <algorithm>
+
+namespace orbisol {
+namespace {
+
+Rect Box(int left, int top, int width, int height) {
+  return {left, top, left + std::max(width, 0), top + std::max(height, 0)};
+}
+
+}  // namespace
+
+MainLayout LayOutMain(const MainMeasures& m) {
+  int width = m.width - 2 * kMargin;
+  // What seven equal columns cannot use. With week numbers the grid divides its width itself.
+  if (!m.weekNumbers) width -= std::max((width - 3 * kGap - kMargin) % kDayColumns, 0);
+  if (m.paneShown) width -= m.paneWidth;
+
+  const int headerHeight = m.height / 7;
+  const int gridTop = m.headerTop + headerHeight + kHeaderToGrid;
+
+  MainLayout places;
+  places.group = Box(kMargin, kTopMargin, width, m.height - 2 * kTopMargin);
+  places.header = Box(kMargin + kGap, m.headerTop, width - 2 * kGap, headerHeight);
+  places.grid = Box(kMargin + kGap, gridTop, width - 2 * kGap, m.height - kTopMargin - gridTop - kGap);
+  const int paneLeft = places.group.right + kMargin;
+  places.separator = Box(places.group.right + kMargin / 2, 2 * kTopMargin, 1, m.height - 4 * kTopMargin);
+  places.pane = Box(paneLeft, 0, m.paneWidth, m.height);
+  return places;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,64 @@
+#include "ui/shell/run.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+
+#include <memory>
+
+#include "core/calendar_config.h"
+#include "core/platform.h"
+#include "platform/desktop_files.h"
+#include "platform/desktop_locale.h"
+#include "platform/desktop_store.h"
+#include "platform/folders.h"
+#include "platform/single_instance.h"
+#include "ui/common/french_toolkit.h"
+#include "ui/common/messages.h"
+#include "ui/common/plain_text.h"
+#include "ui/common/space_key.h"
+#include "ui/shell/calendar_frame.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int kTextBrokenInstallation = 135;
+
+}  // namespace
+
+int Run(const StartUp& startUp) {
+  if (!startUp.store.Read()) {
+    Messages().ShowError(nullptr, TableText(kTextBrokenInstallation));
+    return 0;
+  }
+  CSingleInstance instance(startUp.runtimeFolder);
+  if (instance.IsSecond()) return 0;
+
+  CSpaceKeyFilter spaceKey;
+  QCoreApplication::instance()->installEventFilter(&spaceKey);
+
+  CCalendarStore calendars(startUp.files);
+  CCalendarFrame frame({startUp.store, calendars, startUp.locale});
+  std::unique_ptr<QSocketNotifier> calls;
+  if (instance.Descriptor() >= 0) {
+    calls = std::make_unique<QSocketNotifier>(instance.Descriptor(), QSocketNotifier::Read);
+    QObject::connect(calls.get(), &QSocketNotifier::activated, &frame, [&] {
+      if (instance.TakeCalls()) frame.Raise();
+    });
+  }
+  frame.Open();
+  return QApplication::exec();
+}
+
+int Run(QApplication& application) {
+  SpeakFrench(application);
+  static const CDesktopLocale locale;
+  CurrentPlatform().locale = &locale;
+  ResetCalendarConfig();
+
+  const Folders folders = DesktopFolders();
+  CDesktopStore store(folders.stores);
+  CDesktopFiles files(folders);
+  return Run({store, files, {locale.Language(), locale.Country()}, RuntimeFolder()});
+}
+
+}  // namespace orbisol
