@@ -42,13 +42,12 @@ test:
 	@ctest --preset $(PRESET) $(CTEST_FLAGS)
 
 screenshot:
-	@$(need) build run display
-	@$(call build,release)
-	@cmake --install build/release --prefix $(STAGE) >build/install.log || { cat build/install.log; exit 1; }
-	@tools/screenshot.sh $(STAGE)/bin/orbisol
+	@$(need) build run test $(groups_$(PRESET))
+	@cmake --preset $(PRESET) --log-level=WARNING && cmake --build --preset $(PRESET) --target orbisol_screenshots
+	@tools/screenshot.sh build/$(PRESET)/tools/screenshot/orbisol_screenshots
 
 bench:
-	@$(need) build bench
+	@$(need) build run bench
 	@$(call build,bench)
 	@tools/bench.py build/bench/bench $(FILTER)
 

@@ -19,8 +19,8 @@ constexpr int kEventMark = 2;   // any other rule
 constexpr std::size_t kMaxJoinedUnits = 260;  // of joined names, in UTF-16 units
 
 // The bits of all rules that fall on a day, 0 for none. When `names` is given it is set to the names of those
-// rules whose bit is in `nameMask`, in list order, joined by " + ". Easter rules match no day before 326. On
-// purpose: a holiday shifted past the end of its month falls on no day, and none moves away from another.
+// rules whose bit is in `nameMask`, in list order, joined by " + ". Easter rules match no day before 326.
+// On purpose: a holiday shifted past the end of its month falls on no day, and none moves away from another.
 int MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names, int nameMask);
 
 // The same in one pass for both kinds of names.

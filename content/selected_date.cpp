@@ -58,6 +58,7 @@ void StepMonths(Date& date, int months) {
   ClampToBounds(date);
 }
 
+// On purpose: 29 February is kept in a common year.
 void StepYears(Date& date, int years) {
   SelectDate(date, Saturate(std::int64_t{date.year} + years), date.month, date.day);
 }

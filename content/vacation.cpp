@@ -7,7 +7,8 @@ namespace {
 
 bool MayBound(PackedDate packed) {
   const Date date(packed);
-  return IsWithinBounds(date) && date.month >= 1 && date.month <= 12 && date.day <= date.DaysInMonth();
+  const bool isShown = date.year >= Unpack(kFirstDateShown).year && date.year <= Unpack(kLastDateShown).year;
+  return isShown && date.month >= 1 && date.month <= 12 && date.day <= date.DaysInMonth();
 }
 
 }  // namespace

@@ -18,11 +18,6 @@ int RowAt(PackedDate packed) {
   return i;
 }
 
-int MonthDayOf(PackedDate packed) {
-  const YearMonthDay date = Unpack(packed);
-  return date.month * 100 + date.day;
-}
-
 // The month and day of the row that governs a date, or 1 January.
 int GoverningStart(const Date& date) {
   const PackedDate from = Rules().firstDayOfYear[RowAt(date.Packed())].from;

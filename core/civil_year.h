@@ -33,8 +33,8 @@ int DayOfCivilYear(const Date& date);
 int DaysLeftInCivilYear(const Date& date);
 
 // Changes the year so that the civil year becomes `target`; month and day stay. Returns the civil year that
-// the date then has. On purpose: where the date, set to that historical year, comes to lie in the civil year
-// of the number that its historical year had before, nothing more is tried, whatever `target` is.
+// the date then has. On purpose: the historical year `target` is tried first and kept also when its civil
+// year is the number of the historical year that the date had before the call, whatever `target` is.
 int SetCivilYear(Date& date, int target);
 
 // Labels of the years up to 0.

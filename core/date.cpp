@@ -37,11 +37,6 @@ constexpr bool IsEveryday(int year, int month, int day) {
 }
 constexpr bool IsEveryday(int dayNumber) { return dayNumber > -32000 && dayNumber < 365 * kEverydayYears; }
 
-constexpr int AbsoluteRest(PackedDate packed) {
-  const int rest = packed % 10000;
-  return rest < 0 ? -rest : rest;
-}
-
 // The dates whose day number the early leap years decide.
 constexpr std::int64_t kEarlyFrom = DayOrder(-43, 1, 1);
 constexpr std::int64_t kEarlyTo = DayOrder(4, 2, 28);
@@ -131,7 +126,7 @@ void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
 
 bool DateIsBefore(int year, std::int64_t monthDay, PackedDate packed) {
   const int otherYear = packed / 10000;
-  return year != otherYear ? year < otherYear : monthDay < AbsoluteRest(packed);
+  return year != otherYear ? year < otherYear : monthDay < MonthDayOf(packed);
 }
 
 // The rare ways stand apart, so that the everyday one stays short: it is walked millions of times.
@@ -199,7 +194,7 @@ Date::Date(int theYear, int theMonth, int theDay)
 Date Date::Today() {
   if (Rules().startGregorian == 0) Rules().ApplyGregorianStart(kRomanReform);
   const YearMonthDay today = CurrentPlatform().clock->Today();
-  // The clock is Gregorian also where a reform yet to come leaves the calendar Julian.
+  // On purpose: the clock is Gregorian also where a reform yet to come leaves the calendar Julian.
   constexpr PackedDate kAlwaysGregorian = -99990101;
   return DateOfDayNumber(DayNumberUnder(today.year, today.month, today.day, kAlwaysGregorian, false));
 }

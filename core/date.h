@@ -35,8 +35,9 @@ struct Date {
   PackedDate SetPacked(PackedDate packed);
   PackedDate Packed() const { return Pack(year, month, day); }
 
-  // A dropped date (5 to 14 October 1582) is read as Julian: the 10th has day number 2299166, and that is
-  // 20 October. On purpose: 29 February -8 has the number of 1 March -8, 1718199, though 1718198 is its own.
+  // On purpose: a dropped date (5 to 14 October 1582) is read as Julian: the 10th has day number 2299166, and
+  // that is 20 October. On purpose: 29 February -8 has the number of 1 March -8, 1718199, though 1718198 is
+  // its own.
   int DayNumber() const;
   void SetDayNumber(int dayNumber);  // keeps dateOrder
   void AddDays(int days);            // back when negative

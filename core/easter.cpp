@@ -8,25 +8,27 @@ struct MonthAndDay {
   int day;
 };
 
-// From the days between 21 March and the paschal full moon, and those from that Sunday back: 28 March to the
-// Sunday.
+// `sunday` counts the days from 21 March to the Sunday on or before the paschal full moon; Easter is the
+// Sunday after it, 28 March plus `sunday`.
 MonthAndDay FromMarch(int sunday) {  // [-6, 28]
   const int month = 3 + (sunday + 40) / 44;
   return {month, sunday + 28 - 31 * (month / 4)};
 }
 
 MonthAndDay JulianEaster(std::int64_t year) {
-  const auto i = static_cast<int>((19 * (year % 19) + 15) % 30);
-  const auto j = static_cast<int>((year + year / 4 + i) % 7);
+  const auto i =
+      static_cast<int>((19 * (year % 19) + 15) % 30);          // days from 21 March to the paschal full moon
+  const auto j = static_cast<int>((year + year / 4 + i) % 7);  // its weekday, 0 Sunday
   return FromMarch(i - j);
 }
 
 MonthAndDay GregorianEaster(std::int64_t year) {
   const auto golden = static_cast<int>(year % 19);
-  const std::int64_t c = year / 100;
-  const auto h = static_cast<int>((c - c / 4 - (8 * c + 13) / 25 + 19 * golden + 15) % 30);
+  const std::int64_t century = year / 100;
+  const auto h = static_cast<int>((century - century / 4 - (8 * century + 13) / 25 + 19 * golden + 15) %
+                                  30);  // 23 less the epact
   const int i = h - (h / 28) * (1 - (29 / (h + 1)) * ((21 - golden) / 11));
-  const auto j = static_cast<int>((year + year / 4 + i + 2 - c + c / 4) % 7);
+  const auto j = static_cast<int>((year + year / 4 + i + 2 - century + century / 4) % 7);
   return FromMarch(i - j);
 }
 

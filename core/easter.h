@@ -12,8 +12,8 @@ namespace orbisol {
 constexpr int kFirstEasterYear = 326;
 
 // Sets month and day to Easter Sunday of date.year; before 326 the date is left as it is, and callers test
-// the year themselves. Gregorian after the year of the reform, Julian up to and in it, where the date is
-// written in the Julian calendar even when the reform came before Easter. Source: the algorithm of J.-M.
+// the year themselves. Gregorian after the year of the reform, Julian up to and in it. On purpose: in that
+// year the date is the Julian one even when the reform came before Easter. Source: the algorithm of J.-M.
 // Oudin (1940), in the Explanatory Supplement to the Astronomical Almanac.
 void RomanEaster(Date& date);
 

@@ -93,19 +93,19 @@ double Perturbations(Turn moon, Turn sun, Turn lead, Turn fromNode) {
          0.015 * (fromNode + fromNode - lead2).sin + 0.011 * (moonLessLead2 - lead2).sin;
 }
 
-// Whether the day of `angle` is the nearest to the phase angle among its neighbours. Of two equally near days
+// Whether the day of `angle` is the nearest to the phase angle among its neighbors. Of two equally near days
 // the earlier one is.
 bool IsNearestDay(int before, int angle, int after, int phase) {
-  int centre = phase;
+  int center = phase;
   if (phase == 0) {  // away from where angles jump from 359 to 0
-    centre = 180;
+    center = 180;
     before = (before + 180) % 360;
     angle = (angle + 180) % 360;
     after = (after + 180) % 360;
   }
-  const int u = before - centre;
-  const int w = after - centre;
-  const int s = angle - centre;
+  const int u = before - center;
+  const int w = after - center;
+  const int s = angle - center;
   if (u * w > 0) return false;  // not reached between yesterday and tomorrow
   if (s * u >= 0) return std::abs(s) <= std::abs(w);
   return std::abs(s) < std::abs(u);

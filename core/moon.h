@@ -1,9 +1,9 @@
 // The four main phases of the moon, a day each.
 //
-// The phase is decided from the difference between the longitudes of the Sun and the Moon at noon. Accuracy
-// is a few hundredths of a degree of the Sun and some tenths of the Moon around 2000, a day or more thousands
-// of years away. Source: P. Schlyter, "Computing planetary positions", mean elements linear in time and the
-// twelve greatest perturbations of the Moon's longitude, with a zero point of its own.
+// The phase is decided from the difference between the longitudes of the Sun and the Moon at noon. The
+// angles are good to some tenths of a degree around 2000, and less the farther from it. Source: P. Schlyter,
+// "Computing planetary positions", mean elements linear in time and the twelve greatest perturbations of the
+// Moon's longitude.
 //
 //   MoonPhaseOfDay(Date(20240125));  // kFullMoon
 #pragma once
@@ -29,7 +29,8 @@ bool IsPhaseDay(double t, int angle, int phase);
 
 MoonPhase MoonPhaseOfDay(const Date& date);
 
-// The phases of `count` days from one on, by the same rule, in a third of the time or less.
+// The phases of `count` days from one on, by the same rule, in a third of the time or less; exact on every
+// day from -3999 to 3999.
 void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases);
 
 }  // namespace orbisol

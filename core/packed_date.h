@@ -40,13 +40,15 @@ constexpr PackedDate Pack(int year, int month, int day) {
   return Saturate(year < 0 ? years - MonthDay(month, day) : years + MonthDay(month, day));
 }
 
-// The quotient is cut toward zero; the absolute value is taken of the remainder alone. Any integer is
-// accepted.
-constexpr YearMonthDay Unpack(PackedDate packed) {
-  const int year = packed / 10000;
+// Month * 100 + day of a packed date; the absolute value is taken of this remainder alone.
+constexpr int MonthDayOf(PackedDate packed) {
   const int rest = packed % 10000;
-  const int monthDay = rest < 0 ? -rest : rest;
-  return {year, monthDay / 100, monthDay % 100};
+  return rest < 0 ? -rest : rest;
+}
+
+// The quotient is cut toward zero. Any integer is accepted.
+constexpr YearMonthDay Unpack(PackedDate packed) {
+  return {packed / 10000, MonthDayOf(packed) / 100, MonthDayOf(packed) % 100};
 }
 
 // An integer that rises with the days also before the era, for packed dates and for their fields.
@@ -54,8 +56,7 @@ constexpr std::int64_t DayOrder(int year, int month, int day) {
   return std::int64_t{year} * 10000 + MonthDay(month, day);
 }
 constexpr std::int64_t DayOrder(PackedDate packed) {
-  const std::int64_t rest = packed % 10000;
-  return packed >= 0 ? packed : packed - 2 * rest;
+  return packed >= 0 ? packed : packed + std::int64_t{2} * MonthDayOf(packed);
 }
 
 static_assert(DayOrder(-440315) == DayOrder(-44, 3, 15) && DayOrder(-440315) > DayOrder(-440101));

@@ -10,7 +10,6 @@ namespace {
 
 std::u16string Item(int textId, int fromOne) {
   if (fromOne < 1) return {};
-
   return std::u16string(Piece(StringText(textId), u'|', fromOne - 1));
 }
 

@@ -5,16 +5,28 @@
 namespace orbisol {
 namespace {
 
-// The week of a day that lies `days` after the first Monday of a cycle, whose last year alone is a leap year.
-// The Monday of week 1 falls on 29 December to 4 January; the cycle is laid so that it is the whole year's
-// weeks that come out.
+// Weeks are read off counts of days that begin on a 29 December, the earliest Monday that a week 1 can have:
+// a Monday 0 to 6 days after it begins week 1. C. Tøndering, Calendar FAQ, "What is the week number". Added
+// to a day number, each of these starts the count on the 29 December before the year named:
+constexpr int kGregorianWeeks = 31741;  // -4800, then in cycles of 400, 100 and 4 years
+constexpr int kJulianWeeks = 1098;      // -4716, before three common years and a leap year
+constexpr int kTriennialWeeks = 26;     // -44, before -43, -42 and the leap year -41
+constexpr int kNoLeapWeeks = 283;       // -7, years of 365 days
+
+constexpr int kYear = 365;
+constexpr int kThreeYears = 1096;
+constexpr int kFourYears = 1461;
+constexpr int kCentury = 36524;
+constexpr int kFourCenturies = 146097;
+
+// `days` from the beginning of a cycle of years, of which the last alone is a leap year.
 int WeekInCycle(std::int64_t days, int cycle) {
-  const std::int64_t lastDay = days / (cycle - 1);  // 1 on the last day of the cycle, a leap day, else 0
-  const std::int64_t dayOfYear = lastDay + (days - lastDay) % 365;
+  const std::int64_t lastDay = days / (cycle - 1);  // 1 on the last day of the cycle, the leap day, else 0
+  const std::int64_t dayOfYear = lastDay + (days - lastDay) % kYear;
   return static_cast<int>(dayOfYear / 7) + 1;
 }
 
-// Days by which civil years begin before 1 January under the row that governs a date.
+// Days by which civil years begin before 1 January under the row that governs a date; negative when after it.
 std::int64_t CivilYearLead(const Date& date) {
   const int row = CivilRowIndex(date);
   if (row < 0) return 0;
@@ -46,17 +58,17 @@ int IsoWeekNumber(const Date& date) {
     // one.
     const std::int64_t lastSunday = std::int64_t{rules.reformYearLastDayNumber} - rules.reformYearLastWeekday;
     if (n >= lastSunday + 8 || (rules.reformYearLastWeekday < 4 && n > lastSunday))
-      return WeekInCycle((monday + 31741) % 146097 % 36524 % 1461, 1461);
+      return WeekInCycle((monday + kGregorianWeeks) % kFourCenturies % kCentury % kFourYears, kFourYears);
   }
 
   if (!rules.proleptic && (date.year <= 0 || (date.year == 1 && date.month == 1 && date.day == 1))) {
     // On purpose: these bounds are not those of the early leap years, and the years before -44 are numbered
     // as if one in three had been a leap year then too.
-    if (!date.IsBefore(-60101)) return static_cast<int>(((monday + 283) % 365) / 7) + 1;
-    return WeekInCycle((monday + 26) % 1096, 1096);
+    if (!date.IsBefore(-60101)) return static_cast<int>(((monday + kNoLeapWeeks) % kYear) / 7) + 1;
+    return WeekInCycle((monday + kTriennialWeeks) % kThreeYears, kThreeYears);
   }
 
-  return WeekInCycle((monday + 1098 + CivilYearLead(date)) % 1461, 1461);
+  return WeekInCycle((monday + kJulianWeeks + CivilYearLead(date)) % kFourYears, kFourYears);
 }
 
 int CivilWeekNumber(const Date& date) {

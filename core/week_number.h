@@ -1,4 +1,6 @@
 // Week numbers, 1..53. Not meant for days before 1 January -4712, where any number may result.
+//
+//   WeekNumber(Date(20241231));  // 1 in ISO weeks: the week of 1 January 2025
 #pragma once
 
 #include "core/date.h"
@@ -9,8 +11,8 @@ namespace orbisol {
 int WeekNumber(const Date& date);
 
 // Monday to Sunday, week 1 holds the first Thursday. Julian years follow the civil-year table; without
-// `proleptic` the years up to 0 follow cycles of their own, which differ from the plain rule up to -49. On
-// purpose: the last weeks of the year of the reform are numbered as Julian weeks, and 1 and 2 January 1583
+// `proleptic` the years up to 0 follow cycles of their own, which differ from the plain rule up to -49.
+// On purpose: the last weeks of the year of the reform are numbered as Julian weeks, and 1 and 2 January 1583
 // are still in week 51.
 int IsoWeekNumber(const Date& date);
 

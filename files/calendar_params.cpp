@@ -61,17 +61,6 @@ std::u16string ColorsText(const std::array<Color, kColorCount>& colors) {
   return out;
 }
 
-// A date of 0 ends the table for everything that scans it, so nothing is read behind one.
-void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
-  std::u16string_view piece;
-  for (int row = 0; row < kCivilYearRows && NextPiece(table, piece); ++row) {
-    const bool plusOne = piece[0] == u'+';
-    const PackedDate from = ParseDecimal(plusOne ? piece.substr(1) : piece);
-    if (from == 0) return;
-    config.firstDayOfYear[row] = {from, plusOne};
-  }
-}
-
 std::u16string CivilYearsText(const CalendarConfig& config) {
   std::u16string out;
   for (const CivilYearStart* row = config.firstDayOfYear; row->from != 0; ++row) {
@@ -83,6 +72,17 @@ std::u16string CivilYearsText(const CalendarConfig& config) {
 }
 
 }  // namespace
+
+void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
+  for (CivilYearStart& row : config.firstDayOfYear) row = CivilYearStart();
+  std::u16string_view piece;
+  for (int row = 0; row < kCivilYearRows && NextPiece(table, piece); ++row) {
+    const bool plusOne = piece[0] == u'+';
+    const PackedDate from = ParseDecimal(plusOne ? piece.substr(1) : piece);
+    if (from == 0) return;  // it ends the table for everything that scans it
+    config.firstDayOfYear[row] = {from, plusOne};
+  }
+}
 
 void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, CalendarRules& rules) {
   display.backgroundImage = Value(block, u"bgImage", u"1") == u"1";

@@ -16,6 +16,10 @@ namespace orbisol {
 // reform.
 void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, CalendarRules& rules);
 
+// Fills the rows of a table of civil years, "+17520101;15000325;": most recent first, "+" in front where the
+// civil year runs one ahead. The rows are cleared first; four are kept, and none from the first date of 0 on.
+void ReadCivilYears(std::u16string_view table, CalendarConfig& config);
+
 // The nine lines of the block, each behind a tab.
 std::u16string CalendarParamsText(const DisplaySettings& display, const CalendarRules& rules);
 

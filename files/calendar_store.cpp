@@ -29,11 +29,6 @@ std::vector<std::u16string> NamesIn(const Files& files, std::u16string_view fold
 
 bool IsControl(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }
 
-// The same bytes, whatever was done to the file that holds them.
-bool SameBytes(const FileStamp& a, const FileStamp& b) {
-  return a.exists == b.exists && a.size == b.size && a.hash == b.hash;
-}
-
 // The letters under which U+00C0 to U+017F stand in an alphabet.
 constexpr std::u16string_view kBaseLetters =
     u"aaaaaaaceeeeiiiidnooooo*ouuuuyts"
@@ -147,10 +142,10 @@ WriteResult CCalendarStore::Save(std::u16string_view name, const CalendarFile& c
   if (path.empty()) return WriteResult::kFailed;
   const std::optional<FileBytes> disk = m_files.Read(path);
   if (!disk && m_files.Exists(path)) return WriteResult::kFailed;  // nobody knows what would be lost
-  if (disk && ifChanged == IfChanged::kRefuse && !SameBytes(disk->stamp, m_stamps[path]))
-    return WriteResult::kChanged;
+  const bool isOthers = disk && disk->stamp != m_stamps[path];
+  if (isOthers && ifChanged == IfChanged::kRefuse) return WriteResult::kChanged;
 
-  if (disk && HoldsMore(disk->bytes, CalendarForm::kUser) && !KeepCopy(path, disk->bytes))
+  if (disk && (isOthers || HoldsMore(disk->bytes, CalendarForm::kUser)) && !KeepCopy(path, disk->bytes))
     return WriteResult::kFailed;
   std::string bytes;
   if (disk && calendar.info.empty()) {
@@ -208,13 +203,16 @@ bool CCalendarStore::KeepCopy(const std::u16string& path, std::string_view bytes
 
 std::vector<PublicCalendar> CCalendarStore::PublicCalendars() const {
   std::vector<PublicCalendar> calendars;
-  for (const std::u16string& folder : {m_files.UserLegalsFolder(), m_files.ShippedLegalsFolder()}) {
+  const auto add = [&](const std::u16string& folder, bool ofFirstStarts) {
     for (const std::u16string& name : NamesIn(m_files, folder)) {
       const auto hasName = [&](const PublicCalendar& other) { return other.name == name; };
-      if (!IsFirstStartName(name) && std::none_of(calendars.begin(), calendars.end(), hasName))
+      if (!ofFirstStarts && IsFirstStartName(name)) continue;
+      if (std::none_of(calendars.begin(), calendars.end(), hasName))
         calendars.push_back({name, Joined(folder, name)});
     }
-  }
+  };
+  add(m_files.UserLegalsFolder(), true);
+  add(m_files.ShippedLegalsFolder(), false);
   std::sort(calendars.begin(), calendars.end(),
             [](const PublicCalendar& a, const PublicCalendar& b) { return ComesFirst(a.name, b.name); });
   return calendars;

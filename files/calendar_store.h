@@ -77,8 +77,10 @@ class CCalendarStore {
   LoadResult Load(std::u16string_view name, const DisplaySettings& before, CalendarFile& calendar);
 
   // kChanged: the file was changed by somebody else since it was last loaded or saved here, or was never
-  // loaded and stands there already; it is as it was. kFailed: it is as it was too. A file that somebody
-  // deleted is written again. An `info` text of the file replaced is kept when the calendar has none.
+  // loaded and stands there already; it is as it was. kFailed: it is as it was, or already new where only the
+  // sync of its folder failed. A file that somebody deleted is written again; what somebody else wrote or the
+  // reader had to drop is first copied to "<name>.xml.bak". An `info` text of the file replaced is kept when
+  // the calendar has none.
   WriteResult Save(std::u16string_view name, const CalendarFile& calendar, IfChanged ifChanged);
 
   // Saves under a free name next to the file, which stays as it is: both are kept. `newName` is set after
@@ -88,7 +90,7 @@ class CCalendarStore {
   // Moves the file to the trash. False when it is still there, or when there is none.
   bool Delete(std::u16string_view name);
 
-  // The user's own and the shipped ones in one list by the alphabet; on equal names the user's. Those made
+  // The user's own and the shipped ones in one list by the alphabet; on equal names the user's. Shipped ones
   // for first starts are left out.
   std::vector<PublicCalendar> PublicCalendars() const;
 

@@ -39,6 +39,7 @@ std::u16string_view FindElement(std::u16string_view source, std::u16string_view 
   if (opening == kNotFound) return {};
   const std::size_t start = opening + tag.size() + 2;
   const std::size_t closing = FindTag(source, tag, TagKind::kClosing, start);
+  // On purpose: an empty element ends a walk like a missing one.
   if (closing == kNotFound || closing == start) return {};
   position = static_cast<std::ptrdiff_t>(closing + tag.size() + 3);
   return source.substr(start, closing - start);

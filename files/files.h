@@ -10,14 +10,12 @@
 
 namespace orbisol {
 
-// What tells whether a file is still the one that was read. Two equal stamps mean the same bytes.
+// What tells whether a file still holds what was read. A file rewritten with the same bytes has the same
+// stamp.
 struct FileStamp {
   bool exists = false;
-  std::uint64_t device = 0;
-  std::uint64_t node = 0;
   std::uint64_t size = 0;
-  std::int64_t changed = 0;  // nanoseconds
-  std::uint64_t hash = 0;    // of the bytes
+  std::uint64_t hash = 0;  // of the bytes, FNV-1a or another of 64 bits
 
   bool operator==(const FileStamp&) const = default;
 };

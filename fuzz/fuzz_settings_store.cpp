@@ -30,6 +30,7 @@ void CheckFixedPoint(const CRegistryText& text) {
   const CRegistryText again(text.Bytes());
   Check(again.Bytes() == text.Bytes());
   Check(again.Values() == text.Values());
+  Check(again.IsLossless());
 }
 
 // The first bytes of the input choose the type, the others are the value.

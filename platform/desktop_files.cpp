@@ -3,7 +3,6 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/path_text.h"
@@ -11,26 +10,6 @@
 #include "platform/trash.h"
 
 namespace orbisol {
-namespace {
-
-// The letter under which U+00C0 … U+017F are looked up in an alphabet.
-constexpr std::u16string_view kBaseLetters =
-    u"aaaaaaaceeeeiiiidnooooo*ouuuuyts"
-    u"aaaaaaaceeeeiiiidnooooo/ouuuuyty"
-    u"aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiiiiijjkkklllllll"
-    u"lllnnnnnnnnnoooooooorrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
-static_assert(kBaseLetters.size() == 0x180 - 0xC0);
-
-std::u16string AlphabetKey(std::u16string_view name) {
-  std::u16string key(name);
-  for (char16_t& unit : key) {
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + (u'a' - u'A'));
-    if (unit >= 0xC0 && unit < 0x180) unit = kBaseLetters[unit - 0xC0u];
-  }
-  return key;
-}
-
-}  // namespace
 
 std::u16string CDesktopFiles::CalendarFolder() const { return PathText(m_folders.calendars); }
 std::u16string CDesktopFiles::UserLegalsFolder() const { return PathText(m_folders.userLegals); }
@@ -41,19 +20,15 @@ std::vector<std::u16string> CDesktopFiles::List(std::u16string_view folder,
   const std::string folderPath = PathBytes(folder);
   DIR* const entries = opendir(folderPath.c_str());
   if (entries == nullptr) return {};
-  std::vector<std::pair<std::u16string, std::u16string>> found;  // by key
+  std::vector<std::u16string> names;
   while (const dirent* const entry = readdir(entries)) {
-    const std::u16string name = PathText(entry->d_name);
+    std::u16string name = PathText(entry->d_name);
     struct stat status;
     if (name.ends_with(ending) && stat((folderPath + "/" + entry->d_name).c_str(), &status) == 0 &&
         S_ISREG(status.st_mode))
-      found.emplace_back(AlphabetKey(std::u16string_view(name).substr(0, name.size() - ending.size())), name);
+      names.push_back(std::move(name));
   }
   closedir(entries);
-  std::sort(found.begin(), found.end());
-
-  std::vector<std::u16string> names;
-  for (auto& [key, name] : found) names.push_back(std::move(name));
   return names;
 }
 

@@ -4,6 +4,8 @@
 //   files.Read(files.ShippedLegalsFolder() + u"/France.xml");
 #pragma once
 
+#include <utility>
+
 #include "files/files.h"
 #include "platform/folders.h"
 
@@ -16,7 +18,6 @@ class CDesktopFiles : public Files {
   std::u16string CalendarFolder() const override;
   std::u16string UserLegalsFolder() const override;
   std::u16string ShippedLegalsFolder() const override;
-  // Letters with accents stand beside those without, capitals beside small ones.
   std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const override;
   bool Exists(std::u16string_view path) const override;
   std::optional<FileBytes> Read(std::u16string_view path) const override;

@@ -75,9 +75,4 @@ CDesktopLocale::CDesktopLocale(std::string_view name) {
   m_country = CountryOf(tag).toStdU16String();
 }
 
-void InstallDesktopLocale() {
-  static const CDesktopLocale locale;
-  CurrentPlatform().locale = &locale;
-}
-
 }  // namespace orbisol

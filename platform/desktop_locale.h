@@ -52,8 +52,4 @@ class CDesktopLocale : public Locale {
   std::u16string m_language, m_country;
 };
 
-// Puts the desktop's locale into the current platform, for the rest of the run. The clock that stands there
-// from the beginning is already the desktop's.
-void InstallDesktopLocale();
-
 }  // namespace orbisol

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "files/calendar_store.h"
 #include "platform/posix_file.h"
 #include "settings/registry_text.h"
 
@@ -17,14 +18,34 @@ std::string KeyFile(const std::vector<std::string>& files) {
   return {};
 }
 
+// The copy is "<file>.bak". An older copy with other bytes moves on to "<file>.bak.1", or the next number
+// that is free.
+bool KeepCopy(const std::string& file, const std::string& bytes) {
+  const std::string copy = file + ".bak";
+  const std::optional<FileBytes> older = ReadWholeFile(copy);
+  if (!older && FileExists(copy)) return false;
+  if (older && older->bytes == bytes) return true;
+  const FileStamp missing;
+  if (older) {
+    int number = 1;
+    while (FileExists(copy + "." + std::to_string(number))) ++number;
+    if (ReplaceFile(copy + "." + std::to_string(number), older->bytes, &missing, nullptr) !=
+        WriteResult::kWritten)
+      return false;
+  }
+  return ReplaceFile(copy, bytes, older ? &older->stamp : &missing, nullptr) == WriteResult::kWritten;
+}
+
 }  // namespace
 
 CDesktopStore::CDesktopStore(std::vector<std::string> files, std::chrono::milliseconds patience)
     : m_files(std::move(files)), m_patience(patience) {}
 
 std::optional<StoredValues> CDesktopStore::Read() const {
-  const std::optional<FileBytes> file = ReadWholeFile(KeyFile(m_files));
-  if (!file) return {};
+  const std::string key = KeyFile(m_files);
+  if (key.empty()) return {};
+  const std::optional<FileBytes> file = ReadWholeFile(key);
+  if (!file) return StoredValues{{kCalendarNameValue, TextValue(kDefaultCalendarName)}};
   return CRegistryText(file->bytes).Values();
 }
 
@@ -46,7 +67,10 @@ bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
         return false;
     }
     const FileStamp expected = key == own ? file->stamp : FileStamp{};
-    const WriteResult result = ReplaceFile(own, text.Bytes(), &expected, nullptr);
+    // Without changes not even the encoding of the file is changed.
+    const std::string bytes = changes.empty() ? file->bytes : text.Bytes();
+    if (key == own && bytes != file->bytes && !text.IsLossless() && !KeepCopy(own, file->bytes)) return false;
+    const WriteResult result = ReplaceFile(own, bytes, &expected, nullptr);
     if (result != WriteResult::kChanged) return result == WriteResult::kWritten;
   }
   return false;

@@ -15,7 +15,8 @@ namespace orbisol {
 class CDesktopStore : public SettingsStore {
  public:
   // The first file that exists is the key, whole; one that exists and cannot be read is a key that cannot be
-  // read. Writing goes to the first of the list alone, which begins as a copy of the key.
+  // read or written, and is left alone. Writing goes to the first of the list alone, which begins as a copy
+  // of the key. Where it replaces malformed characters there, the file is first copied to "<file>.bak".
   explicit CDesktopStore(std::vector<std::string> files,
                          std::chrono::milliseconds patience = std::chrono::seconds(3));
 

@@ -6,15 +6,12 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "platform/path_text.h"
+
 namespace orbisol {
 namespace {
 
 bool IsAbsolute(const std::string& path) { return !path.empty() && path[0] == '/'; }
-
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? "" : path.substr(0, slash);
-}
 
 std::string Variable(const char* name) {
   const char* const value = std::getenv(name);
@@ -46,7 +43,8 @@ Folders FindFolders(const std::function<std::string(const char* name)>& variable
     return IsAbsolute(value) ? value : user + fallBack;
   };
   const std::string data = base("XDG_DATA_HOME", "/.local/share");
-  const std::string shipped = FolderOf(FolderOf(executable)) + "/share/orbisol";
+  std::string shipped = IsAbsolute(executable) ? FolderOf(FolderOf(executable)) : "/";
+  shipped += shipped.ends_with('/') ? "share/orbisol" : "/share/orbisol";
 
   Folders folders;
   folders.calendars = data + "/Corvalen/orbisol";

@@ -53,4 +53,9 @@ std::string PathBytes(std::u16string_view path) {
   return bytes += ToUtf8(path.substr(begin));
 }
 
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
+}
+
 }  // namespace orbisol

@@ -14,4 +14,7 @@ namespace orbisol {
 std::u16string PathText(std::string_view bytes);
 std::string PathBytes(std::u16string_view path);
 
+// The folder in which a path ends: "." of a mere name, "/" of "/file" and of "/" itself.
+std::string FolderOf(const std::string& path);
+
 }  // namespace orbisol

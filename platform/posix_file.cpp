@@ -11,6 +11,8 @@
 #include <ctime>
 #include <thread>
 
+#include "platform/path_text.h"
+
 namespace orbisol {
 namespace {
 
@@ -76,24 +78,12 @@ std::uint64_t Hash(std::string_view bytes) {
   return hash;
 }
 
-FileStamp StampOf(const struct stat& status, std::string_view bytes) {
+FileStamp StampOf(std::string_view bytes) {
   FileStamp stamp;
   stamp.exists = true;
-  stamp.device = static_cast<std::uint64_t>(status.st_dev);
-  stamp.node = static_cast<std::uint64_t>(status.st_ino);
   stamp.size = bytes.size();
-  stamp.changed = static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec;
   stamp.hash = Hash(bytes);
   return stamp;
-}
-
-bool SameBytes(const FileStamp& a, const FileStamp& b) {
-  return a.exists == b.exists && a.size == b.size && a.hash == b.hash;
-}
-
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
 }
 
 // The path at the end of a chain of links; the last may point to nothing yet. Empty when there is no end.
@@ -142,8 +132,11 @@ bool CopyRights(int descriptor, const struct stat& old) {
         mode = (mode & ~static_cast<mode_t>(070)) | ((mode & 07) << 3 & mode);
       }
     }
+    // A change of owner takes some rights away.
+    if (Repeat([&] { return fstat(descriptor, &status); }) != 0) return false;
   }
-  return Repeat([&] { return fchmod(descriptor, mode); }) == 0;
+  // Some file systems have rights of their own for all files and refuse every change, even one to the same.
+  return (status.st_mode & 07777) == mode || Repeat([&] { return fchmod(descriptor, mode); }) == 0;
 }
 
 // The temporary file of one save; removed unless it took its place.
@@ -203,7 +196,7 @@ bool IsAsExpected(const std::string& target, const FileStamp& expected, const Fi
   struct stat status;
   if (Repeat([&] { return stat(target.c_str(), &status); }) != 0) return errno == ENOENT && !expected.exists;
   const std::optional<FileBytes> found = ReadWholeFile(target);
-  return found && (SameBytes(found->stamp, expected) || SameBytes(found->stamp, wanted));
+  return found && (found->stamp == expected || found->stamp == wanted);
 }
 
 }  // namespace
@@ -229,7 +222,7 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
     if (length > kMaxFileBytes) return {};
   }
   file.bytes.resize(length);
-  file.stamp = StampOf(status, file.bytes);
+  file.stamp = StampOf(file.bytes);
   return file;
 }
 
@@ -253,14 +246,12 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
     return WriteResult::kFailed;
 
   CTemporary temporary(folder, exists ? 0600 : 0666);
-  struct stat status;
   if (!temporary.IsOpen() || !WriteAll(temporary.Get(), bytes)) return WriteResult::kFailed;
   if (exists && !CopyRights(temporary.Get(), old)) return WriteResult::kFailed;
   // A full disk may show only here, or when the file is closed.
   if (Repeat([&] { return fsync(temporary.Get()); }) != 0) return WriteResult::kFailed;
-  if (Repeat([&] { return fstat(temporary.Get(), &status); }) != 0) return WriteResult::kFailed;
   if (!temporary.Close()) return WriteResult::kFailed;
-  const FileStamp wanted = StampOf(status, bytes);
+  const FileStamp wanted = StampOf(bytes);
 
   // Under the lock no second copy of the program can save between the look at the file and the rename. A lock
   // that some other program holds on the folder for long is not worth failing for.

@@ -16,8 +16,11 @@
 
 namespace orbisol {
 
+// Room for a quarter of a million events. Whatever else is taken for a calendar is held in memory several
+// times over while it is read, in UTF-8, in UTF-16 and in pieces.
+constexpr std::size_t kMaxFileBytes = std::size_t{1} << 26;
+
 // Nothing when the file is missing, is no ordinary file, has more than kMaxFileBytes or fails to be read.
-constexpr std::size_t kMaxFileBytes = std::size_t{1} << 28;
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
 
 // Whether anything stands there. A link counts for what it points to.

@@ -15,8 +15,9 @@ struct TrashTime {
 };
 
 // True when the file is in the trash and no more where it was. `trash` is the trash folder itself and is made
-// when missing. From another file system the file is copied, and removed only when the copy is on the disk. A
-// link goes as a link.
+// when missing. A
+// link goes as a link. From another file system the file, or the one that a link points to, is copied, and
+// removed only when the copy is on the disk.
 bool MoveToTrashFolder(const std::string& path, const std::string& trash, const TrashTime& when);
 
 // The moment, by the system's clock.

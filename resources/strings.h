@@ -1,6 +1,6 @@
 // The one table of the texts that the program shows, by number. Several entries are lists whose items are
-// separated by
-// "|"; some hold placeholders for FormatText (core/text.h). Menus and dialogs have tables of their own.
+// separated by "|"; some hold placeholders for FormatText (core/text.h). Menus and dialogs have tables of
+// their own.
 #pragma once
 
 #include <string_view>

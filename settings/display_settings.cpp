@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kTextColorCaptions = 297;  // one piece for each color, in the order of the table
 
+// On purpose: the last two columns differ. Who comes from an older release keeps its look.
 // The number of the row is left to the compiler, the caption to the table of texts.
 constexpr ColorInfo kColorRows[] = {
     {kHeaderTextColor, "HeaderTextColor", {}, kHighlightTextColor, kHighlightTextColor},

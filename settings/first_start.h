@@ -22,7 +22,7 @@ std::vector<std::u16string> FirstStartCalendars(const UserLocale& locale);
 // The content of the first of them that can be read; empty when none can.
 CalendarContent FirstStartContent(const CCalendarStore& calendars, const UserLocale& locale);
 
-// Whether the user has no calendar yet, such copies aside.
+// Whether the user has no calendar yet, the copies of public calendars aside that older releases made.
 bool IsFirstStart(const CCalendarStore& calendars);
 
 }  // namespace orbisol

@@ -1,6 +1,9 @@
 #include "settings/legacy_settings.h"
 
+#include <utility>
+
 #include "core/text.h"
+#include "files/calendar_params.h"
 
 namespace orbisol {
 namespace {
@@ -13,46 +16,61 @@ constexpr char kProlepticJulian[] = "ProlepticJulian";
 constexpr char kGregorianStart[] = "GregorianStart";
 constexpr char kFirstDayOfYear[] = "FirstDayOfYear";
 
-// Older releases wrote it, but the calendar's file or the locale decides.
+// On purpose: older releases wrote it and it is not taken over, the calendar's file or the locale decides.
 constexpr char kIso8601[] = "Iso8601";
 
 constexpr Color kColorMask = 0xFFFFFF;
 constexpr std::size_t kMaxTableUnits = 4096;  // far more than four dates
 
-// The dates in the form yyyymmdd, most recent first, each with a plus sign when it carries "J.+1", with a
-// semicolon between. A date of 0 ends the table.
-void ReadCivilYears(std::u16string_view text, CalendarRules& rules) {
-  int row = 0;
-  for (CivilYearStart& start : rules.firstDayOfYear) start = {};
-  for (const std::u16string_view piece : Split(text, u';')) {
-    if (piece.empty()) continue;
-    const bool plusOne = piece.starts_with(u'+') || piece.ends_with(u'+');
-    const PackedDate from = ParseDecimal(piece);
-    if (from == 0 || row == kCivilYearRows) return;
-    rules.firstDayOfYear[row++] = {from, plusOne};
+// The table in the form of calendar files. Older releases may have written the plus sign of "J.+1" behind the
+// date.
+std::u16string TableOfFiles(std::u16string_view table) {
+  std::u16string text;
+  for (std::u16string_view piece : Split(table, u';')) {
+    if (piece.ends_with(u'+')) {
+      piece.remove_suffix(1);
+      text += u'+';
+    }
+    text.append(piece).append(u";");
   }
+  return text;
 }
 
-void ReadLegacyValues(const StoredValues& values, CalendarFile& calendar) {
+// Takes every old value over where `calendar` still is as `before`.
+void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, CalendarFile& calendar) {
+  const auto take = [](auto& field, const auto& fieldBefore, const auto& old) {
+    if (field == fieldBefore) field = old;
+  };
   DisplaySettings& display = calendar.display;
-  if (const auto name = TextOf(values, kFontName, kMaxPathUnits)) display.fontName.Set(*name);
-  if (const auto weight = DwordOf(values, kBoldFont)) display.fontWeight = static_cast<int>(*weight);
+  const DisplaySettings& displayBefore = before.display;
+  using Text = decltype(display.fontName);
+  if (const auto name = TextOf(values, kFontName, kMaxPathUnits))
+    take(display.fontName, displayBefore.fontName, Text(*name));
+  if (const auto weight = DwordOf(values, kBoldFont))
+    take(display.fontWeight, displayBefore.fontWeight, static_cast<int>(*weight));
   for (const ColorInfo& row : ColorTable()) {
-    if (row.index == kColorWeekNumber) continue;
+    if (row.index == kColorWeekNumber) continue;  // On purpose: deleted with the others and not taken over.
+    const auto i = static_cast<std::size_t>(row.index);
     if (const auto color = DwordOf(values, row.name))
-      display.colors[static_cast<std::size_t>(row.index)] = *color & kColorMask;
+      take(display.colors[i], displayBefore.colors[i], *color & kColorMask);
   }
-  if (const auto shown = DwordOf(values, kBackgroundImage)) display.backgroundImage = *shown != 0;
-  if (const auto path = TextOf(values, kBgImagePath, kMaxPathUnits)) display.backgroundImagePath.Set(*path);
+  if (const auto shown = DwordOf(values, kBackgroundImage))
+    take(display.backgroundImage, displayBefore.backgroundImage, *shown != 0);
+  if (const auto path = TextOf(values, kBgImagePath, kMaxPathUnits))
+    take(display.backgroundImagePath, displayBefore.backgroundImagePath, Text(*path));
 
   CalendarRules& rules = calendar.rules;
-  if (const auto proleptic = DwordOf(values, kProlepticJulian)) rules.proleptic = *proleptic != 0;
-  const auto start = DwordOf(values, kGregorianStart);
-  rules.ApplyGregorianStart(start ? GregorianStartOrDefault(static_cast<int>(*start)) : rules.startGregorian);
-  if (const auto years = TextOf(values, kFirstDayOfYear, kMaxTableUnits)) ReadCivilYears(*years, rules);
+  if (const auto proleptic = DwordOf(values, kProlepticJulian))
+    take(rules.proleptic, before.rules.proleptic, *proleptic != 0);
+  PackedDate start = rules.startGregorian;
+  if (const auto old = DwordOf(values, kGregorianStart))
+    take(start, before.rules.startGregorian, GregorianStartOrDefault(static_cast<int>(*old)));
+  rules.ApplyGregorianStart(start);
+  const auto years = TextOf(values, kFirstDayOfYear, kMaxTableUnits);
+  if (years && rules.firstDayOfYear[0].from == 0) ReadCivilYears(TableOfFiles(*years), rules);
 }
 
-// What is deleted, in this order.
+// What is deleted.
 std::vector<StoreChange> Deletions() {
   std::vector<StoreChange> changes;
   for (const char* name : {kFontName, kBoldFont}) changes.push_back({name, {}});
@@ -67,16 +85,15 @@ std::vector<StoreChange> Deletions() {
 
 void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCalendarStore& calendars,
                            StoredSettings& stored) {
-  // Where the deletion cannot follow, the old values would undo at every start what the user has changed
-  // since.
-  if (stored.file == LoadResult::kLoaded && !store.Write({})) return;
-
   CalendarFile& calendar = stored.calendar;
   if (stored.file == LoadResult::kMissing)
     for (const ColorInfo& row : ColorTable())
       calendar.display.colors[static_cast<std::size_t>(row.index)] = row.migrated;
-  ReadLegacyValues(values, calendar);
+  const CalendarFile before = stored.file == LoadResult::kLoaded ? CalendarFile() : calendar;
+  ReadLegacyValues(values, before, calendar);
 
+  // No file is made of old values that could not be deleted afterwards.
+  if (!store.Write({})) return;
   const std::u16string_view name = calendar.display.calendarName.View();
   if (calendars.Save(name, calendar, IfChanged::kRefuse) != WriteResult::kWritten) return;
 

@@ -13,10 +13,13 @@ namespace orbisol {
 // deleted in one step with the writing of the new ones. Whatever fails or is interrupted, the next start does
 // the rest.
 //
-// Of a calendar that has no file yet, an old value that is absent takes the default of older releases. On
-// purpose, a calendar that has one keeps what its file says there: it may hold a reform and colors that the
-// user chose, while the key may have lost no more than its calendar name. Where the key cannot be written,
-// such a calendar is left alone.
+// Of a calendar that has no file yet, an old value that is absent takes the default of older releases.
+//
+// On purpose: of a calendar that has a file, an old value replaces only what is still as in a fresh calendar,
+// and one that is absent replaces nothing. The file may hold a reform and colors that the user chose since,
+// while the key may have lost no more than its calendar name, or could not be written for a while.
+//
+// Where the key cannot be written, the old values are shown in this session and nothing is written here.
 void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCalendarStore& calendars,
                            StoredSettings& stored);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "core/text.h"
 
@@ -46,16 +47,24 @@ std::optional<std::uint32_t> HexNumber(std::string_view text, std::size_t maxDig
   return number;
 }
 
-std::string Decoded(std::string_view bytes) {
+struct DecodedText {
+  std::string utf8;
+  bool isLossless;
+};
+
+DecodedText Decoded(std::string_view bytes) {
   // A mark behind a mark is dropped too: written again, it would stand at the beginning and count.
   while (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
-  if (!bytes.starts_with(kUtf16Mark)) return ToUtf8(FromUtf8(bytes));
-
-  std::u16string text;
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-    text += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
-                                  static_cast<unsigned char>(bytes[i + 1]) << 8);
-  return ToUtf8(std::u16string_view(text).substr(std::min(text.find_first_not_of(u'\uFEFF'), text.size())));
+  if (!bytes.starts_with(kUtf16Mark)) {
+    std::string utf8 = ToUtf8(FromUtf8(bytes));
+    const bool isLossless = utf8 == bytes;
+    return {std::move(utf8), isLossless};
+  }
+  std::u16string text = FromUtf16Le(bytes);
+  text.erase(0, text.find_first_not_of(u'\uFEFF'));
+  std::string utf8 = ToUtf8(text);
+  const bool isLossless = bytes.size() % 2 == 0 && FromUtf8(utf8) == text;
+  return {std::move(utf8), isLossless};
 }
 
 std::vector<std::string_view> Lines(std::string_view text) {
@@ -204,8 +213,9 @@ std::string ValueText(std::string_view name, const StoredValue& value) {
 }  // namespace
 
 CRegistryText::CRegistryText(std::string_view bytes) {
-  const std::string text = Decoded(bytes);
-  const std::vector<std::string_view> lines = Lines(text);
+  const DecodedText text = Decoded(bytes);
+  m_isLossless = text.isLossless;
+  const std::vector<std::string_view> lines = Lines(text.utf8);
   bool ours = false;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     Item item;

@@ -32,6 +32,10 @@ class CRegistryText {
  public:
   explicit CRegistryText(std::string_view bytes);
 
+  // Whether every character was well-formed. Otherwise Bytes() has U+FFFD where the file had something else:
+  // keep a copy of it before they take its place.
+  bool IsLossless() const { return m_isLossless; }
+
   // The values of our key; of two lines with one name the later counts. A line whose value is malformed, such
   // as dword:123456789, is no value.
   StoredValues Values() const;
@@ -56,6 +60,7 @@ class CRegistryText {
   };
 
   std::vector<Item> m_items;
+  bool m_isLossless;
 };
 
 }  // namespace orbisol

@@ -11,7 +11,6 @@ namespace {
 
 constexpr char kMainLayout[] = "WindowLayout";
 constexpr char kPrintLayout[] = "PrintWindowLayout";
-constexpr char kCalendarName[] = "CalendarName";
 
 constexpr Rect kMainRect{50, 50, 900, 450};
 constexpr Rect kPrintRect{50, 50, 800, 600};
@@ -77,7 +76,7 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, con
   if (values) {
     ReadLayout(*values, kMainLayout, kMainRect, screen, display.mainLayout);
     ReadLayout(*values, kPrintLayout, kPrintRect, screen, display.printLayout);
-    name = TextOf(*values, kCalendarName, kMaxPathUnits);
+    name = TextOf(*values, kCalendarNameValue, kMaxPathUnits);
     ReadNumbers(*values, display);
   }
   const bool migrates = values && !name;
@@ -101,7 +100,7 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
   const CalendarFile calendar{display, rules, content, u""};
   outcome.calendar = calendars.Save(
       name, calendar, whenChanged == WhenChanged::kOverwrite ? IfChanged::kOverwrite : IfChanged::kRefuse);
-  if (outcome.calendar == WriteResult::kChanged && whenChanged == WhenChanged::kKeepBoth)
+  if (outcome.calendar != WriteResult::kWritten && whenChanged == WhenChanged::kKeepBoth)
     outcome.calendar = calendars.SaveBeside(std::u16string(name), calendar, name);
   if (outcome.calendar == WriteResult::kChanged) return outcome;
 
@@ -136,7 +135,7 @@ bool SavePrintWindowLayout(SettingsStore& store, WindowLayout& layout, const Clo
 }
 
 std::vector<StoreChange> KeyChanges(const DisplaySettings& display) {
-  std::vector<StoreChange> changes{{kCalendarName, TextValue(display.calendarName.View())}};
+  std::vector<StoreChange> changes{{kCalendarNameValue, TextValue(display.calendarName.View())}};
   for (const NumberValue& row : kNumbers) {
     const auto* const flag = std::get_if<bool DisplaySettings::*>(&row.field);
     const int number =

@@ -1,9 +1,10 @@
 // Settings read at start and written when a change is confirmed.
 //
-//   StoredSettings stored = ReadSettings(store, calendars, screen, locale);  // touches nothing that is in
-//   force Display() = stored.calendar.display; Rules() = stored.calendar.rules; Content() =
-//   stored.calendar.content; … if (SaveSettings(store, calendars, Display(), Rules(), Content()).calendar ==
-//   WriteResult::kChanged) …  // ask
+//   StoredSettings stored = ReadSettings(store, calendars, screen, locale);
+//   Display() = stored.calendar.display;  // reading alone touches nothing that is in force
+//   …
+//   SaveOutcome outcome = SaveSettings(store, calendars, Display(), Rules(), Content());
+//   if (outcome.calendar == WriteResult::kChanged) …  // ask
 //
 // What belongs to a calendar lies in its file (files/calendar_store.h), all else under the key
 // (settings_store.h). Both functions must be given the same CCalendarStore: it remembers the file as it was
@@ -31,19 +32,20 @@ struct StoredSettings {
 
 // A value that is missing, of another type or malformed takes its default. Windows are moved onto `screen`,
 // the smallest rectangle around all screens. A calendar without a file is empty; where the user has none at
-// all it has the content of the first start. Where the key holds no valid calendar name, older settings are
-// taken over (legacy_settings.h), which writes; nothing else here does.
+// all it has the content of the first start. Where the key holds no calendar name that can be read, older
+// settings are taken over (legacy_settings.h), which writes; nothing else here does.
 StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, const Rect& screen,
                             const UserLocale& locale);
 
 enum class WhenChanged {
   kRefuse,     // leave a file alone that somebody else has changed, and say so: the program asks
   kOverwrite,  // the user said so
-  kKeepBoth,   // save under a free name, which becomes the calendar's
+  kKeepBoth,   // leave it alone and save under a free name, which becomes the calendar's
 };
 
 struct SaveOutcome {
   // kChanged, kFailed: the calendar's file is as it was, `changed` stays set and the name is not switched.
+  // After kFailed the file may already be new, where only the sync of its folder failed.
   WriteResult calendar = WriteResult::kFailed;
   bool key = false;  // whether the values of the key were stored too
 };
@@ -51,6 +53,9 @@ struct SaveOutcome {
 // Writes the calendar to its own file, then switches name and path when a new name is given, then writes the
 // key, and clears `changed`. The file of the new name is neither read nor written. A new name that is none
 // fails. After kFailed the values of the key are written all the same.
+//
+// kKeepBoth also helps where the file cannot be written, or cannot be read and is therefore not replaced:
+// without it such a calendar could be neither saved nor left for another one.
 SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
                          const CalendarRules& rules, const CalendarContent& content,
                          WhenChanged whenChanged = WhenChanged::kRefuse,

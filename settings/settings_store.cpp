@@ -12,7 +12,7 @@ const StoredValue* Find(const StoredValues& values, std::string_view name) {
   return found == values.end() ? nullptr : &found->second;
 }
 
-std::uint32_t Byte(const std::string& bytes, std::size_t i) { return static_cast<unsigned char>(bytes[i]); }
+std::uint32_t Byte(std::string_view bytes, std::size_t i) { return static_cast<unsigned char>(bytes[i]); }
 
 }  // namespace
 
@@ -42,6 +42,13 @@ StoredValue BinaryValue(std::span<const std::uint8_t> bytes) {
   return {kRegBinary, std::string(bytes.begin(), bytes.end())};
 }
 
+std::u16string FromUtf16Le(std::string_view bytes) {
+  std::u16string text;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
+    text += static_cast<char16_t>(Byte(bytes, i) | Byte(bytes, i + 1) << 8);
+  return text;
+}
+
 std::optional<std::uint32_t> DwordOf(const StoredValues& values, std::string_view name) {
   const StoredValue* const value = Find(values, name);
   if (value == nullptr || value->type != kRegDword || value->bytes.size() != 4) return {};
@@ -57,9 +64,7 @@ std::optional<std::u16string> TextOf(const StoredValues& values, std::string_vie
   const std::string& bytes = value->bytes;
   if (bytes.empty()) return u"";
   if (bytes.size() % 2 != 0 || bytes.size() / 2 - 1 > maxUnits) return {};
-  std::u16string text;
-  for (std::size_t i = 0; i < bytes.size(); i += 2)
-    text += static_cast<char16_t>(Byte(bytes, i) | Byte(bytes, i + 1) << 8);
+  const std::u16string text = FromUtf16Le(bytes);
   if (text.back() != u'\0') return {};
   return text.substr(0, text.find(u'\0'));
 }

@@ -22,6 +22,9 @@ constexpr ValueType kRegExpandSz = 2;  // the same; names of variables inside ar
 constexpr ValueType kRegBinary = 3;    // bytes
 constexpr ValueType kRegDword = 4;     // 32 bits, little-endian
 
+// Names the calendar in use. A key without it is one of an older release.
+constexpr char kCalendarNameValue[] = "CalendarName";
+
 struct StoredValue {
   ValueType type = kRegBinary;
   std::string bytes;  // as they are stored, whatever the type
@@ -40,6 +43,9 @@ struct NameLess {
 };
 using StoredValues = std::map<std::string, StoredValue, NameLess>;  // names in UTF-8
 
+// The text of UTF-16LE; half a unit at the end is left out.
+std::u16string FromUtf16Le(std::string_view bytes);
+
 // Nothing when there is no such value or it has another type.
 //
 // A number needs four bytes. A text of either kind needs an even number of bytes and a zero at its end, or no
@@ -57,12 +63,13 @@ struct StoreChange {
 struct SettingsStore {
   virtual ~SettingsStore() = default;
 
-  // Nothing when the key does not exist or cannot be read.
+  // Nothing when the key does not exist. One that exists and cannot be read holds the name of the default
+  // calendar alone: the program goes on with that calendar and takes nothing for an older release's.
   virtual std::optional<StoredValues> Read() const = 0;
 
   // Makes all changes, in their order, or none. False when nothing was stored: there is no key, it cannot be
-  // written, or another process keeps it locked. The key itself is never made here; the installation brings
-  // it.
+  // read or written, or another process keeps it locked. The key itself is never made here; the installation
+  // brings it. Without changes it only tells whether the key can be written.
   virtual bool Write(const std::vector<StoreChange>& changes) = 0;
 };
 

@@ -4,8 +4,9 @@
     tools/bench.py FOLDER [FILTER]
 
 FOLDER holds the bench programs (*_bench). Each is run for the median of five repetitions in random order, and the peers
-that are programs of their own are timed in the same minutes. Two tables are printed: every measurement beside the
-fastest of its peers, and one line a budget:
+that are programs of their own are timed in the same minutes. The start of the program (start_orbisol) is timed in turns
+with that of an empty window (start_empty), and then it is watched while nobody touches it. Two tables are printed:
+every measurement beside the fastest of its peers, and one line a budget:
 
     B1  1.49  <= 1.70  ok
 
@@ -15,23 +16,104 @@ noisy. Missed budgets do not make the run fail.
 
 import json
 import os
+import shutil
 import statistics
 import subprocess
 import sys
+import tempfile
 import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 REPETITIONS = 5
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+STARTS = 15  # of each program, after one that warms the caches
+SETTLING_SECONDS = 3  # the last timer of the start has run by then
+IDLE_SECONDS = 5
+SCREEN = """{"screens": [{"name": "one", "x": 0, "y": 0, "width": 3840, "height": 2160,
+  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}"""
 
 
-def run_program(path, pattern):
+def make_home(folder):
+    """A fresh machine in France: a home with the settings key and the public holidays, a screen; as an environment."""
+    def copy(source, *path):
+        target = os.path.join(folder, *path)
+        os.makedirs(os.path.dirname(target))
+        shutil.copy(os.path.join(ROOT, source), target)
+
+    copy("resources/Calendar.reg", "config", "Corvalen", "Calendar.reg")
+    copy("resources/legals/France.xml", "data", "Corvalen", "orbisol", "Legals", "France.xml")
+    screen = os.path.join(folder, "screen.json")
+    with open(screen, "w", encoding="ascii") as file:
+        file.write(SCREEN)
+    os.makedirs(os.path.join(folder, "run"), mode=0o700)
+    return {"PATH": os.environ["PATH"], "LC_ALL": "C", "HOME": folder, "XDG_CONFIG_HOME": f"{folder}/config",
+            "XDG_DATA_HOME": f"{folder}/data", "XDG_CACHE_HOME": f"{folder}/cache", "XDG_RUNTIME_DIR": f"{folder}/run",
+            "QT_QPA_PLATFORM": "offscreen:configfile=" + screen}
+
+
+def start(path, environment):
+    """The running program, seconds until its first paint, until it had nothing left to do, and its peak memory in kB."""
+    begin = time.perf_counter()
+    program = subprocess.Popen([path], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, env=environment, text=True)
+    report = {}
+    while "settled" not in report:
+        line = program.stdout.readline().split()
+        if not line:
+            sys.exit(f"{path} ended before its window was painted")
+        report[line[0]] = (time.perf_counter() - begin, line[1:])
+    return program, report["painted"][0], report["settled"][0], int(report["settled"][1][0])
+
+
+def stop(program):
+    program.kill()
+    program.wait()
+    program.stdout.close()
+
+
+def measure_starts(folder, environment):
+    """{name: nanoseconds or bytes}, the medians of both programs, started in turns."""
+    programs = {"Orbisol": "start_orbisol", "EmptyWindow": "start_empty"}
+    rows = {who: [] for who in programs}
+    for turn in range(STARTS + 1):
+        for who, name in programs.items():
+            program, painted, settled, kilobytes = start(os.path.join(folder, name), environment)
+            stop(program)
+            if turn > 0:
+                rows[who].append((painted * 1e9, settled * 1e9, kilobytes * 1024))
+    times = {}
+    for column, group in enumerate(["FirstPaint", "Settled", "PeakBytes"]):
+        for who in programs:
+            times[f"{group}_{who}"] = statistics.median(row[column] for row in rows[who])
+    return times
+
+
+def activity(pid):
+    """Nanoseconds of processor time and the number of times it was woken, over all threads of a process."""
+    nanoseconds = wakes = 0
+    for task in os.listdir(f"/proc/{pid}/task"):
+        with open(f"/proc/{pid}/task/{task}/schedstat", encoding="ascii") as file:
+            nanoseconds += int(file.read().split()[0])
+        with open(f"/proc/{pid}/task/{task}/status", encoding="ascii") as file:
+            wakes += sum(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
+    return nanoseconds, wakes
+
+
+def measure_idle(folder, environment):
+    program = start(os.path.join(folder, "start_orbisol"), environment)[0]
+    time.sleep(SETTLING_SECONDS)
+    before = activity(program.pid)
+    time.sleep(IDLE_SECONDS)
+    after = activity(program.pid)
+    stop(program)
+    return {"IdleTime": after[0] - before[0], "IdleWakeUps": after[1] - before[1]}
+
+
+def run_program(path, pattern, environment):
     """{name: nanoseconds an item}, the medians of one bench program."""
     command = [path, "--benchmark_format=json", f"--benchmark_repetitions={REPETITIONS}",
                "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.1"]
     if pattern:
         command.append(f"--benchmark_filter={pattern}")
-    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C")
     done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=environment, text=True)
     if done.returncode != 0:
         sys.exit(f"{path} failed:\n{done.stderr}")
@@ -98,6 +180,19 @@ BUDGETS = [
     ("B7", "a month of 10,000 rules and 1,000 periods", lambda t: scaled(t, "CrowdedMonth/10000", 1e-6), 16, "ms"),
     ("B7", "four times the rules, four times the time: by how much more",
      lambda t: ratio(t, ["CrowdedMonth/10000"], ["CrowdedMonth/2500"] * 4), 1.2, ""),
+    ("B8", "first paint, beside an empty main window",
+     lambda t: ratio(t, ["FirstPaint_Orbisol"], ["FirstPaint_EmptyWindow"]), 1.6, ""),
+    ("B8", "settled, likewise", lambda t: ratio(t, ["Settled_Orbisol"], ["Settled_EmptyWindow"]), 1.8, ""),
+    ("B8", "peak memory, likewise", lambda t: ratio(t, ["PeakBytes_Orbisol"], ["PeakBytes_EmptyWindow"]), 1.4, ""),
+    *[("B9", f"whole repaint at {size}, beside QCalendarWidget with digits as large",
+       lambda t, size=size: ratio(t, [f"Repaint{size}_Orbisol"], [f"Repaint{size}_QCalendarWidget"]), limit, "")
+      for size, limit in (("900x450", 0.5), ("1920x1080", 0.8), ("3840x2160", 1.15))],
+    ("B10", "next month, beside QCalendarWidget",
+     lambda t: ratio(t, ["NextMonth_Orbisol"], ["NextMonth_QCalendarWidget"]), 0.5, ""),
+    ("B11", "moving the selection, beside a whole repaint",
+     lambda t: ratio(t, ["Selection_Orbisol"], ["Selection_WholeRepaint"]), 0.2, ""),
+    ("B14", f"processor time in {IDLE_SECONDS} s without a user", lambda t: scaled(t, "IdleTime", 1e-6), 0, "ms"),
+    ("B14", "wake-ups, likewise", lambda t: scaled(t, "IdleWakeUps", 1), 0, ""),
 ]
 
 
@@ -108,9 +203,10 @@ def print_measurements(times):
         groups.setdefault(group, []).append((who or group, value))
     print(f"{'measured':<34}{'ns':>16}{'beside':>10}")
     for group, rows in groups.items():
+        rows.sort(key=lambda row: row[0] != "Orbisol")  # interleaved runs come in any order
         ours = rows[0][1]
         for who, value in rows:
-            beside = "" if who == rows[0][0] else f"{ours / value:10.3f}"
+            beside = "" if who == rows[0][0] or value == 0 else f"{ours / value:10.3f}"
             print(f"{group + ' ' + who:<34}{value:>16,.1f}{beside}")
 
 
@@ -128,9 +224,15 @@ def main():
     folder = sys.argv[1]
     pattern = sys.argv[2] if len(sys.argv) > 2 else ""
     times = {}
-    for program in sorted(os.listdir(folder)):
-        if program.endswith("_bench"):
-            times.update(run_program(os.path.join(folder, program), pattern))
+    with tempfile.TemporaryDirectory() as home:
+        environment = make_home(home)
+        for program in sorted(os.listdir(folder)):
+            if program.endswith("_bench"):
+                times.update(run_program(os.path.join(folder, program), pattern, environment))
+        if pattern in "FirstPaint Settled PeakBytes":
+            times.update(measure_starts(folder, environment))
+        if pattern in "IdleTime IdleWakeUps":
+            times.update(measure_idle(folder, environment))
     for name, (command, items) in PEERS.items():
         if not pattern or pattern in name:
             times[name] = run_command(command, items)

@@ -15,21 +15,23 @@ packages_of() {
   case $1 in
     build) echo "g++=g++ cmake=cmake ninja-build=ninja ccache=ccache
                  qt6-base-dev=pc:Qt6PrintSupport qt6-svg-dev=pc:Qt6Svg" ;;
-    run) echo "qt6-image-formats-plugins=- qt6-translations-l10n=- fonts-dejavu=-" ;;
-    test) echo "libgtest-dev=pc:gtest python3=python3 qt6-translations-l10n=- fonts-dejavu=-" ;;
+    run) echo "qt6-wayland=- qt6-image-formats-plugins=- qt6-translations-l10n=- fonts-dejavu=-" ;;
+    test) echo "libgtest-dev=pc:gtest python3=python3 qt6-translations-l10n=- fonts-dejavu=-
+                xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop
+                dbus-daemon=dbus-run-session at-spi2-core=- python3-pyatspi=-" ;;
     clang) echo "clang=clang++ $(clang_runtime)=-" ;;
     lint) echo "clang-tidy=clang-tidy clang-format=clang-format git=git" ;;
     coverage) echo "gcovr=gcovr" ;;
-    bench) echo "libbenchmark-dev=pc:benchmark libicu-dev=pc:icu-i18n ncal=ncal remind=remind gcal=gcal
+    bench) echo "libbenchmark-dev=pc:benchmark libicu-dev=pc:icu-i18n remind=remind gcal=gcal
                  python3=python3" ;;
-    display) echo "xvfb=Xvfb openbox=openbox xdotool=xdotool imagemagick=import x11-utils=xwininfo" ;;
+    display) echo "xvfb=Xvfb openbox=openbox xdotool=xdotool imagemagick=import x11-utils=xprop" ;;
     *) echo "install-packages: no group is called '$1'" >&2; return 1 ;;
   esac
 }
 
 # The sanitizers and libFuzzer stand in a package of the compiler's own version.
 clang_runtime() {
-  if command -v clang++ >/dev/null; then
+  if dpkg-query -S "$(command -v clang++)" >/dev/null 2>&1; then
     version=$(clang++ -dumpversion)
     echo "libclang-rt-${version%%.*}-dev"
   else

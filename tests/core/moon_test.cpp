@@ -57,20 +57,18 @@ TEST(MoonTest, ADayAskedAloneHasThePhaseItHasAmongOthers) {
   }
 }
 
-TEST(MoonTest, AnyTimeHasTheElongationOfTheJudgeButAtTheJumpOfADegree) {
+TEST(MoonTest, AnyTimeHasTheElongationOfTheJudge) {
   std::mt19937 random(1);
   std::uniform_real_distribution<double> days(kFirstDay - kDayNumber1999Dec31,
                                               kLastDay - kDayNumber1999Dec31);
-  int differing = 0;
   for (int i = 0; i < 20'000; ++i) {
     const double t = days(random);
     const int angle = MoonElongation(t);
-    differing += angle != plain::MoonElongation(t);
+    ASSERT_EQ(angle, plain::MoonElongation(t)) << t;
     const int before = plain::MoonElongation(t - 1), after = plain::MoonElongation(t + 1);
     for (const int phase : {0, 90, 180, 270})
       ASSERT_EQ(IsPhaseDay(t, angle, phase), plain::IsPhaseDay(before, angle, after, phase)) << t;
   }
-  EXPECT_LE(differing, 0);
 }
 
 // Greatest eclipses in universal time, the early ones in the proleptic Julian calendar. F. Espenak, J. Meeus,

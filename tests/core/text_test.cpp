@@ -154,14 +154,14 @@ TEST(TextTest, PatternsAreFilledInOrder) {
 }
 
 TEST(RectTest, EdgesBelongToTheLeftAndTheTop) {
-  constexpr Rect rect{10, 20, 30, 25};
-  EXPECT_EQ(rect.Width(), 20);
-  EXPECT_EQ(rect.Height(), 5);
-  EXPECT_TRUE(rect.Contains(10, 20) && rect.Contains(29, 24));
-  EXPECT_FALSE(rect.Contains(30, 24) || rect.Contains(29, 25) || rect.Contains(9, 20) ||
-               rect.Contains(10, 19));
-  EXPECT_EQ(rect.Shrunk(1), (Rect{11, 21, 29, 24}));
-  EXPECT_EQ(rect.Shrunk(2, -1), (Rect{12, 19, 28, 26}));
+  constexpr Rect kRect{10, 20, 30, 25};
+  EXPECT_EQ(kRect.Width(), 20);
+  EXPECT_EQ(kRect.Height(), 5);
+  EXPECT_TRUE(kRect.Contains(10, 20) && kRect.Contains(29, 24));
+  EXPECT_FALSE(kRect.Contains(30, 24) || kRect.Contains(29, 25) || kRect.Contains(9, 20) ||
+               kRect.Contains(10, 19));
+  EXPECT_EQ(kRect.Shrunk(1), (Rect{11, 21, 29, 24}));
+  EXPECT_EQ(kRect.Shrunk(2, -1), (Rect{12, 19, 28, 26}));
 }
 
 TEST(RectTest, MulDivRoundsHalvesAwayFromZeroAndSaturates) {

@@ -20,6 +20,8 @@ int PlainIsoWeek(int dayNumber, const plain::Reform& reform) {
 
 TEST(WeekNumberTest, KnownIsoWeeks) {
   const ScopedRules inForce(kRoman);
+  // The Gregorian rows as `date +%V` of GNU coreutils 9.1 has them; the others are worked out by hand from
+  // the definition of the Julian and early cycles.
   constexpr struct {
     const char* what;
     PackedDate date;

@@ -221,8 +221,9 @@ TEST_F(CalendarStoreTest, PublicCalendarsOfBothFoldersStandInOneList) {
 
   std::vector<std::u16string> paths;
   for (const PublicCalendar& listed : store.PublicCalendars()) paths.push_back(listed.path);
-  EXPECT_EQ(paths, (std::vector<std::u16string>{u"/share/Legals/Espagne.xml", u"/share/Legals/États-Unis.xml",
-                                                u"/user/Legals/France.xml", u"/share/Legals/Zambie.xml"}));
+  EXPECT_EQ(paths, (std::vector<std::u16string>{u"/user/Legals/de_public.xml", u"/share/Legals/Espagne.xml",
+                                                u"/share/Legals/États-Unis.xml", u"/user/Legals/France.xml",
+                                                u"/share/Legals/Zambie.xml"}));
   EXPECT_EQ(store.PublicPathOf(u"France"), u"/user/Legals/France.xml");
   EXPECT_EQ(store.PublicPathOf(u"fr_public"), u"/share/Legals/fr_public.xml");
   EXPECT_EQ(store.PublicPathOf(u"Suisse"), u"");

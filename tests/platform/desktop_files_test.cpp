@@ -4,6 +4,7 @@
 #include <sys/socket.h>
 
 #include <map>
+#include <set>
 
 #include "platform/desktop_store.h"
 #include "platform/path_text.h"
@@ -52,6 +53,12 @@ TEST(FoldersTest, FollowTheDesktopsVariables) {
   EXPECT_EQ(folders.stores,
             (std::vector<std::string>{"/account/.config/Corvalen/Calendar.reg", "/a/Corvalen/Calendar.reg",
                                       "/c/Corvalen/Calendar.reg", "/opt/o/share/orbisol/Calendar.reg"}));
+
+  const auto shipped = [](const std::string& executable) {
+    return FindFolders([](const char*) { return std::string(); }, "/account", executable).shippedLegals;
+  };
+  EXPECT_EQ(shipped("/bin/orbisol"), "/share/orbisol/Legals");
+  EXPECT_EQ(shipped(""), "/share/orbisol/Legals") << "never a folder of wherever the program was started";
 }
 
 class DesktopFilesTest : public testing::Test {
@@ -65,16 +72,17 @@ class DesktopFilesTest : public testing::Test {
   }
 };
 
-TEST_F(DesktopFilesTest, ListsOrdinaryFilesByTheAlphabet) {
+TEST_F(DesktopFilesTest, ListsOrdinaryFilesAlone) {
   EXPECT_TRUE(files.List(files.CalendarFolder(), u".xml").empty());
   for (const char* name : {"zoo.xml", "Été.xml", "avril.xml", "Avent.xml", "œuvre.xml", "a.XML", "b.xml.bak"})
     PutFile(folders.calendars + "/" + name, "");
   fs::create_directories(folders.calendars + "/Folder.xml");
   fs::create_symlink("zoo.xml", folders.calendars + "/link.xml");
   fs::create_symlink("nowhere", folders.calendars + "/broken.xml");
-  EXPECT_EQ(files.List(files.CalendarFolder(), u".xml"),
-            (std::vector<std::u16string>{u"Avent.xml", u"avril.xml", u"Été.xml", u"link.xml", u"œuvre.xml",
-                                         u"zoo.xml"}));
+  const std::vector<std::u16string> names = files.List(files.CalendarFolder(), u".xml");
+  EXPECT_EQ(std::set<std::u16string>(names.begin(), names.end()),
+            (std::set<std::u16string>{u"Avent.xml", u"avril.xml", u"Été.xml", u"link.xml", u"œuvre.xml",
+                                      u"zoo.xml"}));
 }
 
 TEST_F(DesktopFilesTest, WhatIsNoFileIsNotRead) {
@@ -215,11 +223,46 @@ TEST_F(DesktopStoreTest, TheFirstFileThatExistsIsTheWholeKey) {
 }
 
 TEST_F(DesktopStoreTest, AKeyThatCannotBeReadIsNotReplaced) {
-  PutFile(folders.stores[2], Key(""));
+  PutFile(folders.stores[2], Key("\"FontName\"=\"Georgia\"\n"));
   fs::create_directories(folders.stores[0]);
-  EXPECT_FALSE(store.Read());
+  const auto values = store.Read();
+  ASSERT_TRUE(values) << "and the program goes on without it";
+  EXPECT_EQ(values->size(), 1u);
+  EXPECT_EQ(TextOf(*values, "CalendarName", 260), u"Calendar") << "so that nothing is migrated";
   EXPECT_FALSE(store.Write({{"Grid", DwordValue(1)}}));
   EXPECT_TRUE(fs::is_directory(folders.stores[0]));
+  EXPECT_EQ(FileCount(root / "config/Corvalen"), 2u) << "the key and its lock";
+}
+
+TEST_F(DesktopStoreTest, BytesThatCannotBeWrittenAgainAreKeptBeside) {
+  const std::string own = folders.stores[0];
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : Key("\"A\"=dword:1\n")) utf16 += {c, '\0'};
+  const std::string latin = Key("\"A\"=\"\xE9t\xE9\"\n");
+  const std::string half = utf16 + std::string("\x3C\xD8", 2);
+  const std::string odd = utf16 + ";";
+  for (const std::string& bytes : {Key("\"A\"=\"été\"\r\n"), utf16}) {
+    PutFile(own, bytes);
+    EXPECT_TRUE(store.Write({{"Grid", DwordValue(1)}}));
+    EXPECT_FALSE(fs::exists(own + ".bak")) << "nothing of it is lost";
+  }
+  for (const std::string& bytes : {latin, latin, half, odd}) {
+    PutFile(own, bytes);
+    EXPECT_TRUE(store.Write({}));
+    EXPECT_EQ(BytesOf(own), bytes) << "a mere trial alters nothing";
+    EXPECT_TRUE(store.Write({{"Grid", DwordValue(1)}}));
+    EXPECT_EQ(DwordOf(*store.Read(), "Grid"), 1u);
+  }
+  EXPECT_EQ(BytesOf(own + ".bak"), odd);
+  EXPECT_EQ(BytesOf(own + ".bak.1"), latin);
+  EXPECT_EQ(BytesOf(own + ".bak.2"), half);
+  EXPECT_FALSE(fs::exists(own + ".bak.3"));
+
+  fs::remove(own + ".bak");
+  fs::create_directories(own + ".bak");
+  PutFile(own, latin);
+  EXPECT_FALSE(store.Write({{"Grid", DwordValue(1)}})) << "no copy can be made";
+  EXPECT_EQ(BytesOf(own), latin);
 }
 
 TEST_F(DesktopStoreTest, NothingIsWrittenPastALock) {

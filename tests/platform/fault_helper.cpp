@@ -3,9 +3,10 @@
 //   fault_helper save FILE BYTES        replaces FILE, expected to be as it is
 //   fault_helper store FILE             sets Grid to 7 and deletes BoldFont
 //   fault_helper trash FILE FOLDER      moves FILE to the trash FOLDER
-//   fault_helper start FOLDER           reads the settings as the program does at its start, in the folders
-//   below FOLDER fault_helper fill FILE NAME COUNT   sets NAME0, NAME1 … one after the other fault_helper
-//   append FILE WORD COUNT adds WORD to FILE as often, again where somebody else was faster
+//   fault_helper start FOLDER           reads the settings in the folders below FOLDER, as a start does
+//   fault_helper keep FOLDER            loads the calendar "Calendar" below FOLDER and saves it again
+//   fault_helper fill FILE NAME COUNT   sets NAME0, NAME1 … one after the other
+//   fault_helper append FILE WORD COUNT adds WORD so often, again where somebody else was faster
 //
 // Prints "ok", "failed" or "changed", the number of calls on files, and the name of the one that failed.
 
@@ -58,6 +59,13 @@ const char* Run(const std::vector<std::string>& arguments) {
     CDesktopFiles files(TestFolders(path));
     CCalendarStore calendars(files);
     return Word(ReadSettings(store, calendars, {0, 0, 1920, 1080}, {u"fr", u"FR"}).keyFound);
+  }
+  if (step == "keep") {
+    CDesktopFiles files(TestFolders(path));
+    CCalendarStore calendars(files);
+    CalendarFile calendar;
+    if (calendars.Load(kDefaultCalendarName, {}, calendar) != LoadResult::kLoaded) return "failed";
+    return Word(calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse));
   }
   if (step == "append") return Append(path, arguments[2], std::stoi(arguments[3]));
   if (step == "fill") {

@@ -17,8 +17,6 @@
 #include "settings/registry_text.h"
 #include "tests/platform/test_folders.h"
 
-extern char** environ;
-
 namespace orbisol {
 namespace {
 
@@ -41,7 +39,7 @@ class CHelper {
                                             "ORBISOL_FAULT=" + fault,
                                             "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0"};
     for (char** variable = environ; *variable != nullptr; ++variable)
-      if (!std::string_view(*variable).starts_with("ASAN_OPTIONS=")) environment.push_back(*variable);
+      if (!std::string_view(*variable).starts_with("ASAN_OPTIONS=")) environment.emplace_back(*variable);
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) return;
     posix_spawn_file_actions_t actions;
@@ -150,6 +148,19 @@ TEST(FaultTest, ASavedFileIsTheOldOneOrTheNewOne) {
   ForEachFault(kFaults, {"save", link, kNew}, prepare, check);
 }
 
+// Some file systems have rights of their own for all files and refuse every change.
+TEST(FaultTest, RightsThatAreRightAreNotSetAgain) {
+  const CTestFolder folder;
+  const std::string file = folder / "file.xml";
+  ForEachFault(
+      {"EPERM"}, {"save", file, kNew},
+      [&] {
+        PutFile(file, kOld);
+        chmod(file.c_str(), 0600);
+      },
+      [&](const Outcome& outcome) { EXPECT_NE(outcome.failed, "fchmod"); });
+}
+
 TEST(FaultTest, AFileThatIsNewIsWholeOrMissing) {
   const CTestFolder folder;
   const std::string file = folder / "a/b/file.xml";
@@ -206,17 +217,48 @@ TEST(FaultTest, AFileIsInItsPlaceOrInTheTrash) {
       });
 }
 
-TEST(FaultTest, AnInterruptedMigrationIsFinishedByTheNextStart) {
+TEST(FaultTest, WhatASaveDropsStandsInACopy) {
+  const CTestFolder folder;
+  const std::string path = TestFolders(folder.Path()).calendars + "/Calendar.xml";
+  CalendarFile own;
+  own.content.dayEvents = {{0, false, 3, 2, 0, 0, kAlwaysFrom, kAlwaysTo, {u"Anniversaire"}}};
+  const std::string clean = WriteCalendar(own, CalendarForm::kUser);
+  const std::string before = clean + "<unknown>kept</unknown>\n";
+  const auto prepare = [&] {
+    fs::remove_all(folder / "data");
+    PutFile(path, before);
+    PutFile(path + ".bak", "older copy");
+  };
+  const auto stands = [&](const std::string& bytes) {
+    for (const char* ending : {"", ".bak", ".bak.1"})
+      if (BytesOf(path + ending) == bytes) return true;
+    return false;
+  };
+  const auto check = [&](const Outcome& outcome) {
+    const std::string calendar = BytesOf(path);
+    EXPECT_TRUE(calendar == before || calendar == clean);
+    EXPECT_TRUE(stands(before)) << "what the reader dropped";
+    EXPECT_TRUE(stands("older copy"));
+    if (outcome.word == "ok") {
+      EXPECT_EQ(calendar, clean);
+    }
+    if (IsPartOfWriting(outcome.failed) && outcome.isError) {
+      EXPECT_EQ(outcome.word, "failed");
+    }
+  };
+  ForEachFault({"EIO", "ENOSPC", "short", "kill"}, {"keep", folder.Path()}, prepare, check);
+}
+
+// `own` is the calendar before, if there is one, `expected` the one after.
+void CheckMigration(const std::vector<std::string>& faults, const CalendarFile* own,
+                    const CalendarFile& expected) {
   const CTestFolder folder;
   const Folders folders = TestFolders(folder.Path());
   const std::string calendarPath = folders.calendars + "/Calendar.xml";
   const std::string copyPath = folders.calendars + "/fr_public.xml";
   const std::string trashed = folders.trash + "/files/fr_public.xml";
-  CalendarFile own;
-  own.content.dayEvents = {{0, false, 3, 2, 0, 0, kAlwaysFrom, kAlwaysTo, {u"Anniversaire"}}};
-  const std::string oldCalendar = WriteCalendar(own, CalendarForm::kUser);
-  own.display.fontName.Set(u"Georgia");
-  const std::string newCalendar = WriteCalendar(own, CalendarForm::kUser);
+  const std::string oldCalendar = own != nullptr ? WriteCalendar(*own, CalendarForm::kUser) : "(none)";
+  const std::string newCalendar = WriteCalendar(expected, CalendarForm::kUser);
 
   const auto prepare = [&] {
     fs::remove_all(folder / "data");
@@ -224,7 +266,7 @@ TEST(FaultTest, AnInterruptedMigrationIsFinishedByTheNextStart) {
     PutFile(
         folders.stores[0],
         "[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n\"FontName\"=\"Georgia\"\n\"Mine\"=hex(7):01\n");
-    PutFile(calendarPath, oldCalendar);
+    if (own != nullptr) PutFile(calendarPath, oldCalendar);
     PutFile(copyPath, "old copy");
   };
   const auto check = [&](const Outcome& outcome) {
@@ -247,7 +289,23 @@ TEST(FaultTest, AnInterruptedMigrationIsFinishedByTheNextStart) {
     EXPECT_EQ(CDesktopStore(folders.stores).Read()->count("FontName"), 0u);
     EXPECT_EQ(CDesktopStore(folders.stores).Read()->count("Mine"), 1u);
   };
-  ForEachFault({"EIO", "kill"}, {"start", folder.Path()}, prepare, check);
+  ForEachFault(faults, {"start", folder.Path()}, prepare, check);
+}
+
+TEST(FaultTest, AnInterruptedMigrationIsFinishedByTheNextStart) {
+  CalendarFile own;
+  own.content.dayEvents = {{0, false, 3, 2, 0, 0, kAlwaysFrom, kAlwaysTo, {u"Anniversaire"}}};
+  CalendarFile expected = own;
+  expected.display.fontName.Set(u"Georgia");
+  CheckMigration({"EIO", "EROFS", "kill"}, &own, expected);
+}
+
+TEST(FaultTest, SoIsOneThatMakesTheFirstCalendar) {
+  CalendarFile expected;
+  expected.display.fontName.Set(u"Georgia");
+  for (const ColorInfo& row : ColorTable())
+    expected.display.colors[static_cast<std::size_t>(row.index)] = row.migrated;
+  CheckMigration({"EROFS", "kill"}, nullptr, expected);
 }
 
 // Several processes that write at once, each with changes of its own.

@@ -241,6 +241,28 @@ TEST_F(SaveSettingsTest, AFileThatSomebodyElseChangedIsAskedAbout) {
   EXPECT_EQ(FirstRule(ReadCalendar(files.files[display.calendarPath].bytes).content), u"Mine");
 }
 
+TEST_F(SaveSettingsTest, ACalendarThatCannotBeReadIsNoTrap) {
+  store = CMemoryStore("\"CalendarName\"=\"Calendar\"\n");
+  files.unreadable.insert(kOwnPath);
+  StoredSettings stored = Read();
+  DisplaySettings& display = stored.calendar.display;
+  const CalendarContent mine = WithRule(u"Mine").content;
+  const auto save = [&](WhenChanged whenChanged, std::optional<std::u16string_view> newName = {}) {
+    return SaveSettings(store, calendars, display, {}, mine, whenChanged, newName).calendar;
+  };
+  EXPECT_EQ(save(WhenChanged::kRefuse, u"Famille"), WriteResult::kFailed);
+  EXPECT_EQ(save(WhenChanged::kOverwrite), WriteResult::kFailed) << "nobody has seen what would be lost";
+  EXPECT_EQ(save(WhenChanged::kKeepBoth, u"Famille"), WriteResult::kWritten);
+  EXPECT_EQ(display.calendarName.View(), u"Famille");
+  EXPECT_EQ(FirstRule(ReadCalendar(files.files[u"/user/Calendar (2).xml"].bytes).content), u"Mine");
+
+  display = stored.calendar.display = Read().calendar.display;
+  files.unreadable.insert(display.calendarPath);
+  EXPECT_EQ(save(WhenChanged::kKeepBoth), WriteResult::kWritten);
+  EXPECT_EQ(display.calendarName.View(), u"Famille (2)");
+  EXPECT_FALSE(files.files.count(kOwnPath) > 0) << "what cannot be read is left alone";
+}
+
 TEST_F(SaveSettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
   const WindowLayout before{{50, 50, 900, 450}, 0, 1, 9, 1, 0};
   const struct {
@@ -286,7 +308,8 @@ const char kOldValues[] =
     "\"FontName\"=\"Georgia\"\n\"BoldFont\"=dword:000002bc\n\"HeaderTextColor\"=dword:ff010203\n"
     "\"EventFgColor\"=\"red\"\n\"ColorWeekNumber\"=dword:00000001\n\"BackgroundImage\"=dword:0\n"
     "\"BgImagePath\"=hex(2):2f,00,61,00,00,00\n\"Iso8601\"=dword:00000000\n\"ProlepticJulian\"=dword:1\n"
-    "\"GregorianStart\"=dword:010b5912\n\"FirstDayOfYear\"=\"15640101;;+11550325;\"\n\"Grid\"=dword:0\n";
+    "\"GregorianStart\"=dword:010b5912\n\"FirstDayOfYear\"=\"15640101;;11550325+;+-440315;\"\n\"Grid\"=dword:"
+    "0\n";
 
 TEST_F(MigrationTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   store = CMemoryStore(kOldValues);
@@ -304,8 +327,8 @@ TEST_F(MigrationTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   EXPECT_EQ(calendar.display.backgroundImagePath.View(), u"/a");
   EXPECT_FALSE(calendar.display.grid);
   EXPECT_TRUE(calendar.rules.iso8601) << "the locale decides";
-  CalendarRules rules =
-      RulesWith(17520914, {.proleptic = true, .rows = {{15640101, false}, {11550325, true}}});
+  CalendarRules rules = RulesWith(
+      17520914, {.proleptic = true, .rows = {{15640101, false}, {11550325, true}, {-440315, true}}});
   EXPECT_EQ(calendar.rules, rules);
   EXPECT_EQ(FirstRule(calendar.content), u"France") << "never an empty list";
 
@@ -336,9 +359,9 @@ TEST_F(MigrationTest, ANameThatCannotBeReadStartsIt) {
 
 TEST_F(MigrationTest, WhatAnExistingFileHoldsIsKept) {
   CalendarFile own = WithRule(u"Anniversaire");
-  own.display.colors.fill(0x123456);
+  own.display.colors[kHolidayFontColor] = 0x123456;
   own.display.backgroundImagePath.Set(u"/mine.png");
-  own.rules = RulesWith(17520914);
+  own.rules = RulesWith(19180214);
   PutCalendar(kOwnPath, own);
   PutShipped(u"France");
 
@@ -348,11 +371,17 @@ TEST_F(MigrationTest, WhatAnExistingFileHoldsIsKept) {
   EXPECT_EQ(stored.calendar.display.colors, own.display.colors);
   EXPECT_EQ(stored.calendar.rules, own.rules);
 
-  store = CMemoryStore(kOldValues);  // an old export dropped in
+  store =
+      CMemoryStore(kOldValues + std::string("\"HolidayFontColor\"=dword:1\n"));  // an old export dropped in
   stored = Read();
   EXPECT_EQ(stored.calendar.content, own.content);
+  EXPECT_EQ(stored.calendar.display.fontName.View(), u"Georgia");
   EXPECT_EQ(stored.calendar.display.ColorAt(kHeaderTextColor), 0x010203u);
-  EXPECT_EQ(stored.calendar.display.ColorAt(kGrayTextColor), 0x123456u);
+  EXPECT_EQ(stored.calendar.display.ColorAt(kHolidayFontColor), 0x123456u) << "chosen in this calendar";
+  EXPECT_EQ(stored.calendar.display.ColorAt(kHolidayBgColor), own.display.ColorAt(kHolidayBgColor));
+  EXPECT_EQ(stored.calendar.display.backgroundImagePath.View(), u"/mine.png");
+  EXPECT_EQ(stored.calendar.rules.startGregorian, 19180214);
+  EXPECT_TRUE(stored.calendar.rules.proleptic);
   EXPECT_EQ(ReadCalendar(files.files[kOwnPath].bytes, stored.calendar.display), stored.calendar);
 }
 
@@ -393,14 +422,21 @@ TEST_F(MigrationTest, WhereTheKeyCannotBeWrittenLaterChangesStay) {
   files.trashFails = true;
   files.Put(u"/user/fr_public.xml", "old copy");
   StoredSettings stored = Read();
-  EXPECT_EQ(stored.calendar.display.fontName.View(), u"Georgia");
+  EXPECT_EQ(stored.calendar.display.fontName.View(), u"Georgia") << "this session has the old settings";
+  EXPECT_FALSE(files.Exists(kOwnPath)) << "and keeps them nowhere but where they were";
   stored.calendar.display.fontName.Set(u"Chosen since");
+  stored.calendar.display.colors[kHeaderTextColor] = 0x445566;
   EXPECT_EQ(
       SaveSettings(store, calendars, stored.calendar.display, stored.calendar.rules, stored.calendar.content)
           .calendar,
       WriteResult::kWritten);
-  EXPECT_EQ(Read().calendar.display.fontName.View(), u"Chosen since");
+  EXPECT_EQ(Read().calendar, stored.calendar);
   EXPECT_TRUE(files.Exists(u"/user/fr_public.xml"));
+
+  store.readOnly = false;
+  EXPECT_EQ(Read().calendar, stored.calendar) << "also once the key can be written again";
+  EXPECT_EQ(ReadCalendar(files.files[kOwnPath].bytes, stored.calendar.display), stored.calendar);
+  EXPECT_EQ(store.Read()->count("FontName"), 0u);
 }
 
 }  // namespace

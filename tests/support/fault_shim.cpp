@@ -66,6 +66,8 @@ Function Real(const char* name) {
   static const auto real = Real<type>(#name); \
   return Fails(#name) ? -1 : real(__VA_ARGS__)
 
+// The system's headers name the parameters of these calls otherwise.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 void FaultShimBegin() {
@@ -162,3 +164,4 @@ DIR* opendir(const char* path) {
 }
 
 }  // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)

@@ -29,16 +29,12 @@ class CMemoryFiles : public Files {
   std::set<std::u16string> failingWrites;  // they stay as they are
   std::function<void()> beforeReplace;     // somebody else, at the last moment; called once
   bool trashFails = false;
+  bool syncFails = false;  // the new bytes are in place when the failure is seen
 
   void Put(const std::u16string& path, std::string_view bytes) {
     File& file = files[path];
     file.bytes = bytes;
-    file.stamp = {true,
-                  1,
-                  ++m_clock,
-                  bytes.size(),
-                  static_cast<std::int64_t>(m_clock),
-                  std::hash<std::string_view>()(bytes)};
+    file.stamp = {true, bytes.size(), std::hash<std::string_view>()(bytes)};
   }
 
   std::u16string CalendarFolder() const override { return u"/user"; }
@@ -74,7 +70,7 @@ class CMemoryFiles : public Files {
       return WriteResult::kChanged;
     Put(key, bytes);
     if (stamp != nullptr) *stamp = files[key].stamp;
-    return WriteResult::kWritten;
+    return syncFails ? WriteResult::kFailed : WriteResult::kWritten;
   }
 
   bool MoveToTrash(std::u16string_view path) override {
@@ -84,9 +80,6 @@ class CMemoryFiles : public Files {
     files.erase(found);
     return true;
   }
-
- private:
-  std::uint64_t m_clock = 0;
 };
 
 }  // namespace orbisol

@@ -1,4 +1,5 @@
-// Pictures of the month view for people to look at: one PNG a case, at the scale of QT_SCALE_FACTOR.
+// Pictures of the main window, and of the month alone, for people to look at: one PNG a case, at the scale of
+// QT_SCALE_FACTOR.
 //
 //   QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 orbisol_screenshots build/screenshots
 
@@ -17,17 +18,19 @@
 #include "content/calendar_content.h"
 #include "content/selected_date.h"
 #include "files/calendar_file.h"
-#include "platform/desktop_locale.h"
 #include "settings/display_settings.h"
-#include "ui/month/month_window.h"
+#include "tests/support/fakes.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/memory_store.h"
+#include "ui/common/french_toolkit.h"
+#include "ui/shell/calendar_frame.h"
 
 namespace orbisol {
 namespace {
 
-CalendarContent HolidaysOfFrance() {
+std::string FileOfFrance() {
   std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  return ReadCalendar(bytes).content;
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void AddPeriod(PackedDate from, PackedDate to) {
@@ -69,6 +72,15 @@ QString DarkPicture(const QTemporaryDir& folder) {
   return path;
 }
 
+// As a dark desktop sets it for all programs.
+QPalette DarkTheme() {
+  QPalette dark(QColor(0x3A, 0x3A, 0x3A), QColor(0x2B, 0x2B, 0x2B));
+  dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+  dark.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xE4));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  return dark;
+}
+
 void DragFromSelected(CMonthWindow& window, PackedDate to) {
   const YearMonthDay end = Unpack(to);
   const auto middle = [&](int cell) {
@@ -83,20 +95,37 @@ void DragFromSelected(CMonthWindow& window, PackedDate to) {
   send(QEvent::MouseMove, middle(window.Month().CellOf(end.month, end.day)), Qt::NoButton);
 }
 
-struct Picture {
+// The program as it opens on a fresh machine in France, `prepare` done to it.
+struct WindowPicture {
+  const char* name;
+  PackedDate date;
+  void (*prepare)(CCalendarFrame& frame);
+};
+
+const WindowPicture kWindowPictures[] = {
+    {"window_may_2024", 20240515, [](CCalendarFrame&) {}},
+    {"window_october_1582", 15821004, [](CCalendarFrame&) {}},
+    {"window_before_the_era", -440315, [](CCalendarFrame&) {}},
+    {"window_pane_hidden", 20240515, [](CCalendarFrame& frame) { frame.RunCommand(kCmdTogglePane); }},
+    {"window_no_week_numbers", 20240515, [](CCalendarFrame&) { Display().showWeekNumber = false; }},
+    {"window_sunday_first", 20240515, [](CCalendarFrame&) { Rules().iso8601 = false; }},
+    {"window_range", 20240513,
+     [](CCalendarFrame& frame) { DragFromSelected(frame.Dialog().Month(), 20240524); }},
+    {"window_dark_theme", 20240515, [](CCalendarFrame&) { QApplication::setPalette(DarkTheme()); }},
+    {"window_smallest", 20240515, [](CCalendarFrame& frame) { frame.resize(0, 0); }},
+    {"window_large", 20240515, [](CCalendarFrame& frame) { frame.resize(1600, 900); }},
+};
+
+// The month alone, in what the settings can make of it.
+struct MonthPicture {
   const char* name;
   PackedDate date;
   QSize size;
   void (*prepare)();
 };
 
-const Picture kPictures[] = {
-    {"month_may_2024", 20240515, {700, 392}, [] {}},
-    {"month_october_1582", 15821004, {700, 392}, [] {}},
-    {"month_before_the_era", -440315, {700, 392}, [] {}},
+const MonthPicture kMonthPictures[] = {
     {"month_first", -39990101, {700, 392}, [] {}},
-    {"month_week_numbers", 20240515, {700, 392}, [] { Display().showWeekNumber = true; }},
-    {"month_sunday_first", 20240515, {700, 392}, [] { Rules().iso8601 = false; }},
     {"month_bands", 20240515, {700, 392}, ColorTheDays},
     {"month_cells",
      20240515,
@@ -126,7 +155,6 @@ const Picture kPictures[] = {
      }},
     {"month_narrow", 20240515, {210, 300}, [] { Display().showWeekNumber = true; }},
     {"month_small", 20240515, {140, 90}, [] {}},
-    {"month_large", 20240515, {1600, 900}, [] { Display().showWeekNumber = true; }},
 };
 
 bool Save(QWidget& window, const QString& folder, const QString& name) {
@@ -137,17 +165,36 @@ bool Save(QWidget& window, const QString& folder, const QString& name) {
   return false;
 }
 
-bool TakeAll(const QString& folder) {
-  const CalendarContent france = HolidaysOfFrance();
-  const QTemporaryDir scratch;
+bool SaveWindow(const WindowPicture& picture, const std::string& france, const QString& folder) {
+  ResetCalendarConfig();
+  Selected().SetPacked(picture.date);
+  CMemoryStore store("\"CalendarName\"=\"Calendar\"\n");
+  CMemoryFiles files;
+  files.Put(u"/share/Legals/France.xml", france);
+  CCalendarStore calendars(files);
+  const QPalette theme = QApplication::palette();
+  CCalendarFrame frame({store, calendars, {u"fr", u"FR"}});
+  frame.Open();
+  frame.activateWindow();
+  QApplication::processEvents();
+  picture.prepare(frame);
+  if (!frame.Dialog().Month().HasRange()) frame.Dialog().SettingsChanged();
+  QApplication::processEvents();
+  const bool saved = Save(frame, folder, QString::fromLatin1(picture.name));
+  QApplication::setPalette(theme);
+  return saved;
+}
+
+bool SaveMonths(const std::string& france, const QString& folder) {
+  const CalendarContent legal = ReadCalendar(france).content;
   const auto restore = [&](PackedDate date) {
     ResetCalendarConfig();
     Display() = DisplaySettings();
-    Content() = france;
+    Content() = legal;
     Selected().SetPacked(date);
   };
   bool saved = true;
-  for (const Picture& picture : kPictures) {
+  for (const MonthPicture& picture : kMonthPictures) {
     restore(picture.date);
     picture.prepare();
     CMonthWindow window(nullptr);
@@ -156,21 +203,21 @@ bool TakeAll(const QString& folder) {
   }
 
   restore(20240515);
+  const QTemporaryDir scratch;
   Display().backgroundImagePath.Set(DarkPicture(scratch).toStdU16String());
   Display().colors[kStandardTextColor] = Rgb(0xFF, 0xFF, 0xFF);
   Display().colors[kGrayTextColor] = Rgb(0xA0, 0xA8, 0xB0);
-  {
-    CMonthWindow window(nullptr);
-    window.resize(700, 392);
-    saved = Save(window, folder, QStringLiteral("month_dark_picture")) && saved;
-  }
-
-  restore(20240513);
   CMonthWindow window(nullptr);
   window.resize(700, 392);
-  window.show();
-  DragFromSelected(window, 20240524);
-  return Save(window, folder, QStringLiteral("month_range")) && saved;
+  return Save(window, folder, QStringLiteral("month_dark_picture")) && saved;
+}
+
+bool TakeAll(const QString& folder) {
+  const std::string france = FileOfFrance();
+  const ScopedPlatform pinned(FakeLocale(), FakeClock({2024, 5, 15}));
+  bool saved = true;
+  for (const WindowPicture& picture : kWindowPictures) saved = SaveWindow(picture, france, folder) && saved;
+  return SaveMonths(france, folder) && saved;
 }
 
 }  // namespace
@@ -182,7 +229,7 @@ int main(int argc, char** argv) {
     std::fputs("usage: orbisol_screenshots FOLDER\n", stderr);
     return 2;
   }
-  orbisol::InstallDesktopLocale();
+  orbisol::SpeakFrench(application);
   const QString folder = QString::fromLocal8Bit(argv[1]);
   return QDir().mkpath(folder) && orbisol::TakeAll(folder) ? 0 : 1;
 }

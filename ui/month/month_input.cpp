@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "ui/common/plain_text.h"
+#include "ui/month/month_accessible.h"
 #include "ui/month/month_window.h"
 #include "ui/month/tip_text.h"
 
@@ -176,9 +177,14 @@ void CMonthWindow::mousePressEvent(QMouseEvent* event) {
   m_isPressed = true;
   const int cell = CellAt(Cut(event->position()));
   m_isDragging = cell != kNoCell;
-  if (cell == kNoCell) return;
+  if (cell != kNoCell) SelectCell(cell, event->modifiers() & Qt::ControlModifier);
+}
+
+void CMonthWindow::SelectCell(int cell, bool byYear) {
+  CancelRange();
+  if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return;
   const Date before = Selected();
-  TakeCell(cell, event->modifiers() & Qt::ControlModifier);
+  TakeCell(cell, byYear);
   Moved(before, kPosted);
 }
 
@@ -263,7 +269,9 @@ bool CMonthWindow::BeginRange() {
 
 void CMonthWindow::CancelRange() {
   m_anchor = 0;
-  if (std::exchange(m_isRangeActive, false)) update();
+  if (!std::exchange(m_isRangeActive, false)) return;
+  update();
+  TellReader(*this, MonthNews::kSelection);
 }
 
 // To the middle of the selected cell, where the settings want the pointer to stay on it.

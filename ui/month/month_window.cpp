@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "core/platform.h"
+#include "ui/month/month_accessible.h"
 #include "ui/month/month_pictures.h"
 
 namespace orbisol {
@@ -25,6 +26,7 @@ PackedDate TodayPacked() {
 
 CMonthWindow::CMonthWindow(MonthHost* host, QWidget* parent)
     : QWidget(parent), m_host(host), m_shown(Selected()) {
+  InstallMonthAccessible();
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
   m_painter.SetBackground(LoadBackground(Display()));
@@ -37,6 +39,7 @@ void CMonthWindow::Refresh() {
   m_shown = Selected();
   m_builtFor = 0;
   update();
+  TellReader(*this, MonthNews::kTexts);
 }
 
 void CMonthWindow::SettingsChanged() {
@@ -75,6 +78,14 @@ int CMonthWindow::CellAt(QPoint position) {
   const int cell = Places().CellAt(position.x(), position.y());
   if (cell == kNoCell || Month().cells[static_cast<std::size_t>(cell)].day == 0) return kNoCell;
   return cell;
+}
+
+bool CMonthWindow::IsSelected(int cell) {
+  const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
+  if (!m_isRangeActive || day.day == 0) return day.day != 0 && cell == SelectedCell();
+  const MonthMarks marks = Marks();
+  const int dayNumber = Date(day.ymd).DayNumber();
+  return marks.firstDayNumber <= dayNumber && dayNumber <= marks.lastDayNumber;
 }
 
 bool CMonthWindow::event(QEvent* event) {
@@ -148,6 +159,13 @@ void CMonthWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
+void CMonthWindow::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  // The toolkit is going to name the whole window as what has the focus; the day must be named after it.
+  QMetaObject::invokeMethod(
+      this, [this] { TellReader(*this, MonthNews::kFocus); }, Qt::QueuedConnection);
+}
+
 void CMonthWindow::LayOut() {
   m_painter.SetUp(MonthLayout(width(), height(), Display().showWeekNumber, Rules().iso8601), Display(),
                   font(), CMonthPainter::kScreen);
@@ -168,6 +186,7 @@ void CMonthWindow::Moved(const Date& before, Report report) {
     UpdateCell(SelectedCell());
   }
   m_shown = selected;
+  TellReader(*this, MonthNews::kSelection);
   if (m_host == nullptr) return;
   if (report == kAtOnce) {
     m_host->OnMonthDateChanged();

@@ -47,6 +47,10 @@ class CMonthWindow : public QWidget {
   // A cell with a day, by a position in the window; kNoCell elsewhere.
   int CellAt(QPoint position);
   bool HasRange() const { return m_isRangeActive; }
+  // Whether a cell's day is the selected one, or lies in the range where there is one.
+  bool IsSelected(int cell);
+  // As a click on a cell; `byYear` turns a day of a neighbouring month into a step of a year.
+  void SelectCell(int cell, bool byYear = false);
 
   QSize sizeHint() const override { return {560, 392}; }
 
@@ -56,6 +60,7 @@ class CMonthWindow : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -28,6 +28,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kToolIconSize = 22;
+constexpr int kStatusIndent = 5;  // so that the description begins below the edge of the month
 
 // When the window manager's margins are looked for after the window was shown, in milliseconds. They come
 // some time after it, and on some desktops never.
@@ -87,6 +88,7 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
   m_toolBar->setMovable(false);
   m_toolBar->setIconSize({kToolIconSize, kToolIconSize});
   m_commands->FillToolBar(*m_toolBar, MainToolBar());
+  statusBar()->setContentsMargins(kStatusIndent, 0, 0, 0);
   statusBar()->addWidget(m_description, 1);
   statusBar()->setVisible(Display().mainLayout.statusBarShown != 0);
 

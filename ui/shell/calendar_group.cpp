@@ -24,7 +24,9 @@ void CCalendarGroup::paintEvent(QPaintEvent*) {
   initStyleOption(&option);
   const QRect label = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
   // The title begins where the content does.
-  const int left = layout() ? layout()->contentsRect().left() : kTitleIndent;
+  // Asked of the content itself: the style moves the layout's own rectangle in a group with boxes to check.
+  const bool hasContent = layout() != nullptr && layout()->count() > 0;
+  const int left = hasContent ? layout()->itemAt(0)->geometry().left() : kTitleIndent;
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(QRect(left, label.top(), width() - left, label.height()),

@@ -1,0 +1,340 @@
+#!/usr/bin/env python3
+"""Reads the main window as a screen reader does: through the accessibility bus, on a virtual display.
+
+    at_spi_test.py PROGRAM SOURCES
+
+Needs the packages of the `test` group (tools/install-packages.sh); with one missing it fails and names it.
+Everything runs in folders of its own, and all that was started ends with it.
+"""
+
+import ctypes
+import os
+import select
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+TOOLS = {
+    "Xvfb": "xvfb",
+    "openbox": "openbox",
+    "xdotool": "xdotool",
+    "xprop": "x11-utils",
+    "dbus-run-session": "dbus-daemon",
+    "/usr/libexec/at-spi-bus-launcher": "at-spi2-core",
+}
+WAIT = 90  # seconds for any one answer, on a machine that is busy with other things
+
+
+class Failure(Exception):
+    pass
+
+
+def wait_for(what, condition, step=lambda: time.sleep(0.05)):
+    """Returns what the condition returns as soon as that is true."""
+    end = time.monotonic() + WAIT
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Failure(f"{what}: not within {WAIT} s")
+        step()
+
+
+# --- Outside: the display, the session and their end -----------------------------------------------------
+
+
+def missing_packages():
+    missing = [package for tool, package in TOOLS.items() if not shutil.which(tool)]
+    try:
+        import pyatspi  # noqa: F401
+    except (ImportError, ValueError):
+        missing.append("python3-pyatspi")
+    return missing
+
+
+def children_of(pid):
+    try:
+        with open(f"/proc/{pid}/task/{pid}/children") as file:
+            return [int(child) for child in file.read().split()]
+    except OSError:
+        return []
+
+
+def end_all_children():
+    """Ends our children and theirs, which come to us when their parents end."""
+    for number in [signal.SIGTERM] * 20 + [signal.SIGKILL] * 100:
+        while True:
+            try:
+                if os.waitpid(-1, os.WNOHANG)[0] == 0:
+                    break
+            except ChildProcessError:
+                return
+        for child in children_of(os.getpid()):
+            os.kill(child, number)
+        time.sleep(0.05)
+
+
+def make_stage(root, program, sources):
+    """The program with what it ships, as it is installed; it looks for that beside its own file."""
+    share = os.path.join(root, "stage", "share", "orbisol")
+    os.makedirs(os.path.join(root, "stage", "bin"))
+    os.makedirs(share)
+    os.symlink(os.path.join(sources, "resources", "legals"), os.path.join(share, "Legals"))
+    os.symlink(os.path.join(sources, "resources", "Calendar.reg"), os.path.join(share, "Calendar.reg"))
+    return shutil.copy2(program, os.path.join(root, "stage", "bin", "orbisol"))
+
+
+def environment_in(root):
+    kept = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH") if name in os.environ}
+    folders = {
+        "HOME": "home",
+        "XDG_CONFIG_HOME": "home/.config",
+        "XDG_DATA_HOME": "home/.local/share",
+        "XDG_CACHE_HOME": "home/.cache",
+        "XDG_STATE_HOME": "home/.local/state",
+        "XDG_RUNTIME_DIR": "run",
+        "TMPDIR": "tmp",
+    }
+    for name, folder in folders.items():
+        kept[name] = os.path.join(root, folder)
+        os.makedirs(kept[name], mode=0o700, exist_ok=True)
+    kept.update(
+        LC_ALL="C.UTF-8",
+        TZ="UTC0",
+        QT_QPA_PLATFORM="xcb",
+        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+        GIO_USE_VFS="local",
+        GSETTINGS_BACKEND="memory",
+        ASAN_OPTIONS="detect_leaks=0",
+        PYTHONDONTWRITEBYTECODE="1",
+    )
+    return kept
+
+
+def start_display(root, environment, log):
+    read, write = os.pipe()
+    subprocess.Popen(
+        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
+        env=environment, stdout=log, stderr=log, pass_fds=[write])
+    os.close(write)
+    # The number and the end of its line come one after the other; who hangs up in between ends the server.
+    number = b""
+    while not number.endswith(b"\n"):
+        part = os.read(read, 20) if select.select([read], [], [], WAIT)[0] else b""
+        if not part:
+            raise Failure("no X server")
+        number += part
+    os.close(read)
+    environment["DISPLAY"] = ":" + number.decode().strip()
+    subprocess.Popen(["openbox"], env=environment, stdout=log, stderr=log)
+
+    def has_manager():
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=environment, text=True,
+                                capture_output=True, check=False)
+        return "window id" in answer.stdout
+
+    wait_for("the window manager", has_manager)
+
+
+def run_outside(program, sources):
+    missing = missing_packages()
+    if missing:
+        print("Cannot listen to the accessibility bus: missing here " + ", ".join(missing)
+              + " (tools/install-packages.sh test installs them for /usr/bin/python3).")
+        return 1
+    become_parent_of_orphans = 36  # PR_SET_CHILD_SUBREAPER
+    ctypes.CDLL(None).prctl(become_parent_of_orphans, 1, 0, 0, 0)
+    for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        signal.signal(number, lambda *_: sys.exit(1))
+    root = tempfile.mkdtemp(prefix="orbisol-reader-")
+    log_path = os.path.join(root, "log")
+    result = 1
+    try:
+        with open(log_path, "w") as log:
+            environment = environment_in(root)
+            staged = make_stage(root, program, sources)
+            start_display(root, environment, log)
+            inside = subprocess.Popen(
+                ["dbus-run-session", "--", sys.executable, os.path.abspath(__file__), "--inside", staged, log_path],
+                env=environment, stderr=log)
+            result = inside.wait()
+    except Failure as failure:
+        print(failure)
+    finally:
+        end_all_children()
+        if result != 0:
+            with open(log_path, errors="replace") as log:
+                print("--- what the programs said:", log.read(), sep="\n")
+        shutil.rmtree(root, ignore_errors=True)
+    return result
+
+
+# --- Inside: the reader ----------------------------------------------------------------------------------
+
+
+class Reader:
+    def __init__(self, program, log_path):
+        import pyatspi
+        from gi.repository import Atspi, GLib
+
+        self.atspi = pyatspi
+        Atspi.set_timeout(WAIT * 1000, WAIT * 1000)
+        self.context = GLib.MainContext.default()
+        self.focused = []  # names, in the order of the events
+        self.renamed = []
+        self.log = open(log_path, "a")
+        pyatspi.Registry.registerEventListener(self.on_focus, "object:state-changed:focused")
+        pyatspi.Registry.registerEventListener(self.on_name, "object:property-change:accessible-name")
+        self.program = subprocess.Popen([program], stdout=self.log, stderr=self.log)
+
+    def on_focus(self, event):
+        if event.detail1:
+            self.focused.append(self.name_of(event.source))
+
+    def on_name(self, event):
+        self.renamed.append(self.name_of(event.source))
+
+    def name_of(self, item):
+        try:
+            item.clear_cache()
+            return item.name
+        except Exception:  # what the event was about is gone
+            return None
+
+    def wait_for(self, what, condition):
+        def step():
+            if self.program.poll() is not None:
+                raise Failure(f"{what}: the program ended with {self.program.returncode}")
+            while self.context.iteration(False):
+                pass
+            time.sleep(0.02)
+
+        try:
+            return wait_for(what, condition, step)
+        except Failure as failure:
+            raise Failure(f"{failure}; focused so far: {self.focused[-5:]}") from None
+
+    def states_of(self, item):
+        item.clear_cache()
+        return item.getState()
+
+    def find(self, matches, item=None):
+        """The first match below the program's window, depth first; None while there is none."""
+        if item is None:
+            desktop = self.atspi.Registry.getDesktop(0)
+            items = [app for app in desktop if app is not None and app.name == "orbisol"]
+        else:
+            items = list(item)
+        for child in items:
+            if child is None:
+                continue
+            if matches(child):
+                return child
+            if child.getRole() != self.atspi.ROLE_TABLE:
+                found = self.find(matches, child)
+                if found is not None:
+                    return found
+        return None
+
+    def find_named(self, name):
+        return self.wait_for(f"'{name}' in the window", lambda: self.find(lambda item: item.name == name))
+
+    def key(self, keys):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", keys], check=True, timeout=WAIT)
+
+    def key_moves_focus(self, keys, name):
+        self.focused.clear()
+        self.key(keys)
+        self.wait_for(f"'{name}' focused after {keys}", lambda: name in self.focused)
+
+
+def same(what, found, expected):
+    if found != expected:
+        raise Failure(f"{what}: {found!r}, not {expected!r}")
+
+
+def check_month(reader):
+    atspi = reader.atspi
+    month = reader.wait_for(
+        "a table", lambda: reader.find(lambda item: item.getRole() == atspi.ROLE_TABLE))
+    reader.wait_for("the keyboard in the month", lambda: reader.states_of(month).contains(atspi.STATE_FOCUSED))
+    table = month.queryTable()
+    same("columns", table.nColumns, 7)
+    same("rows", table.nRows, 6)
+    same("headers", sorted(table.getColumnHeader(column).name for column in range(7)),
+         ["Dimanche", "Jeudi", "Lundi", "Mardi", "Mercredi", "Samedi", "Vendredi"])
+
+    # The beginning of the Republican calendar, whatever today is.
+    reader.renamed.clear()
+    reader.key_moves_focus("r", "Samedi 22 septembre 1792")
+    reader.wait_for("the month's name", lambda: "Septembre 1792" in reader.renamed)
+    reader.key_moves_focus("Right", "Dimanche 23 septembre 1792, (Premier quartier de lune)")
+
+    def cell_named(start):
+        for row in range(6):
+            for column in range(7):
+                cell = table.getAccessibleAt(row, column)
+                if reader.name_of(cell).startswith(start):
+                    return cell, row, column
+        raise Failure(f"no day is called {start}")
+
+    sunday, row, column = cell_named("Dimanche 23 ")
+    same("header above it", table.getColumnHeader(column).name, "Dimanche")
+    same("week beside it", table.getRowHeader(row).name, "38")
+    for state in (atspi.STATE_SELECTED, atspi.STATE_FOCUSED):
+        same(f"state {state}", reader.states_of(sunday).contains(state), True)
+    saturday = cell_named("Samedi 22 ")[0]
+    same("the day before is selected", reader.states_of(saturday).contains(atspi.STATE_SELECTED), False)
+    same("it can be selected", reader.states_of(saturday).contains(atspi.STATE_SELECTABLE), True)
+
+    place = saturday.queryComponent().getExtents(atspi.DESKTOP_COORDS)
+    hit = month.queryComponent().getAccessibleAtPoint(
+        place.x + place.width // 2, place.y + place.height // 2, atspi.DESKTOP_COORDS)
+    same("what lies there", reader.name_of(hit), reader.name_of(saturday))
+
+    reader.focused.clear()
+    same("pressing a day", cell_named("Lundi 10 ")[0].queryAction().doAction(0), True)
+    reader.wait_for("the day pressed", lambda: "Lundi 10 septembre 1792" in reader.focused)
+    return month
+
+
+def check_header(reader, month):
+    atspi = reader.atspi
+    for name in ("Mois précédent", "Mois : Septembre", "Année : 1792", "Mois suivant"):
+        part = reader.find_named(name)
+        same(f"{name}: role", part.getRole(), atspi.ROLE_PUSH_BUTTON)
+        same(f"{name}: reached with the keyboard", part.getState().contains(atspi.STATE_FOCUSABLE), True)
+        same(f"{name}: pressed", part.queryAction().nActions > 0, True)
+
+    reader.find_named("Mois précédent").queryAction().doAction(0)
+    reader.wait_for("August", lambda: reader.name_of(month) == "Août 1792")
+
+    # With the keyboard from the month to the arrow before it, and back to September.
+    month.queryComponent().grabFocus()
+    reader.wait_for("the keyboard in the month", lambda: reader.states_of(month).contains(atspi.STATE_FOCUSED))
+    reader.key_moves_focus("shift+Tab", "Mois suivant")
+    reader.key("Return")
+    reader.wait_for("September", lambda: reader.name_of(month) == "Septembre 1792")
+
+
+def run_inside(program, log_path):
+    reader = Reader(program, log_path)
+    try:
+        check_header(reader, check_month(reader))
+    except Failure as failure:
+        print(failure)
+        return 1
+    finally:
+        reader.program.kill()
+        reader.program.wait()
+    return 0
+
+
+if __name__ == "__main__":
+    if sys.argv[1] == "--inside":
+        sys.exit(run_inside(*sys.argv[2:4]))
+    sys.exit(run_outside(*sys.argv[1:3]))

@@ -1,0 +1,245 @@
+// What no list of cases would find: any hand on any control of the whole window, in any order, at any size.
+//
+// ORBISOL_RANDOM_EVENTS sets how many events are sent. A long run says what memory the process holds after
+// the first 100,000 and at the end.
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include "files/calendar_file.h"
+#include "tests/ui/shell/frame_fixture.h"
+
+namespace orbisol {
+namespace {
+
+constexpr unsigned kSeed = 1792;
+constexpr int kEvents = 20000;
+constexpr int kFirstMeasure = 100000;
+
+// Warnings of the toolkit, but for what the platform without a display says of itself.
+class CWarnings {
+ public:
+  CWarnings() : m_before(qInstallMessageHandler(Take)) { Texts().clear(); }
+  ~CWarnings() { qInstallMessageHandler(m_before); }
+
+  static std::vector<std::string>& Texts() {
+    static std::vector<std::string> texts;
+    return texts;
+  }
+
+ private:
+  static void Take(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtDebugMsg || type == QtInfoMsg) return;
+    for (const char* const known : {"propagateSizeHints", "raise()", "does not support grabbing"})
+      if (text.contains(QLatin1String(known))) return;
+    Texts().push_back(text.toStdString());
+  }
+
+  QtMessageHandler m_before;
+};
+
+int EventsToSend() {
+  const char* const asked = std::getenv("ORBISOL_RANDOM_EVENTS");
+  return asked == nullptr ? kEvents : std::atoi(asked);
+}
+
+// "VmRSS:    43210 kB"; empty where there is no such file.
+std::string ResidentMemory() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);)
+    if (line.rfind("VmRSS", 0) == 0) return line;
+  return {};
+}
+
+class RandomEventsTest : public FrameTest {
+ protected:
+  RandomEventsTest() : m_random(kSeed) {
+    std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+    const std::string france{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    files.Put(u"/share/Legals/France.xml", france);
+  }
+
+  int UpTo(int last) { return static_cast<int>(m_random() % (static_cast<unsigned>(last) + 1)); }
+  bool OneIn(int many) { return UpTo(many - 1) == 0; }
+
+  Qt::KeyboardModifiers Modifiers() {
+    Qt::KeyboardModifiers some;
+    if (OneIn(4)) some |= Qt::ControlModifier;
+    if (OneIn(4)) some |= Qt::ShiftModifier;
+    if (OneIn(10)) some |= Qt::AltModifier;
+    return some;
+  }
+
+  // Where a real hand would come through: the open menu first, else the window; sometimes just beside it.
+  QWidget& Target() {
+    QWidget* const popup = QApplication::activePopupWidget();
+    return popup != nullptr ? *popup : *frame;
+  }
+  QPoint Somewhere(const QWidget& target) {
+    return {UpTo(target.width() + 20) - 10, UpTo(target.height() + 20) - 10};
+  }
+
+  void SendKey() {
+    constexpr int kKeys[] = {Qt::Key_Left,      Qt::Key_Right,  Qt::Key_Up,    Qt::Key_Down,   Qt::Key_PageUp,
+                             Qt::Key_PageDown,  Qt::Key_Home,   Qt::Key_End,   Qt::Key_Return, Qt::Key_Enter,
+                             Qt::Key_Space,     Qt::Key_Tab,    Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Escape,
+                             Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Menu,  Qt::Key_E,      Qt::Key_G,
+                             Qt::Key_J,         Qt::Key_R,      Qt::Key_C,     Qt::Key_F10,    Qt::Key_1,
+                             Qt::Key_7,         Qt::Key_9,      Qt::Key_Minus, Qt::Key_F8,     Qt::Key_X};
+    const auto key = static_cast<Qt::Key>(kKeys[UpTo(static_cast<int>(std::size(kKeys)) - 1)]);
+    const Qt::KeyboardModifiers modifiers = Modifiers();
+    QWidget* target = QApplication::activePopupWidget();
+    if (target == nullptr) target = QApplication::focusWidget();
+    if (target == nullptr) target = frame.get();
+    QTest::keyClick(target, key, modifiers);
+  }
+
+  void SendMove() {
+    QWidget& target = Target();
+    const QPoint at = Somewhere(target);
+    QWidget* child = target.childAt(at);
+    if (child == nullptr) child = &target;
+    QMouseEvent event(QEvent::MouseMove, QPointF(child->mapFrom(&target, at)),
+                      QPointF(target.mapToGlobal(at)), Qt::NoButton, Qt::NoButton, Modifiers());
+    QApplication::sendEvent(child, &event);
+  }
+
+  // Pressed and let go in one widget, as the toolkit guarantees to it.
+  void SendGesture() {
+    QWidget& target = Target();
+    const Qt::MouseButton button = OneIn(8) ? Qt::RightButton : Qt::LeftButton;
+    const QPoint at = Somewhere(target);
+    QPointer<QWidget> child = target.childAt(at);
+    if (child == nullptr) child = &target;
+    const auto send = [&](QEvent::Type type, QPoint where) {
+      if (child == nullptr) return;
+      const QPoint global = child->mapToGlobal(where);
+      const bool isUp = type == QEvent::MouseButtonRelease;
+      QMouseEvent event(type, QPointF(where), QPointF(global),
+                        type == QEvent::MouseMove ? Qt::NoButton : button,
+                        isUp ? Qt::NoButton : Qt::MouseButtons(button), Modifiers());
+      QApplication::sendEvent(child, &event);
+    };
+    const QPoint inside = child->mapFrom(&target, at);
+    send(OneIn(6) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, inside);
+    QPoint last = inside;
+    for (int moves = OneIn(3) ? UpTo(4) : 0; moves > 0; --moves) {
+      last = {UpTo(700) - 60, UpTo(500) - 60};
+      send(QEvent::MouseMove, last);
+    }
+    send(QEvent::MouseButtonRelease, last);
+  }
+
+  void SendWheel() {
+    QWidget& target = Target();
+    const QPoint at = Somewhere(target);
+    QWidget* child = target.childAt(at);
+    if (child == nullptr) child = &target;
+    QWheelEvent event(QPointF(child->mapFrom(&target, at)), QPointF(target.mapToGlobal(at)), QPoint(),
+                      QPoint(OneIn(10) ? UpTo(240) - 120 : 0, UpTo(500) - 250), Qt::NoButton, Modifiers(),
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(child, &event);
+  }
+
+  void SendTip() {
+    const QPoint at = Somewhere(*frame);
+    QWidget* child = frame->childAt(at);
+    if (child == nullptr) child = frame.get();
+    QHelpEvent event(QEvent::ToolTip, child->mapFrom(frame.get(), at), frame->mapToGlobal(at));
+    QApplication::sendEvent(child, &event);
+  }
+
+  void SendResize() {
+    switch (UpTo(7)) {
+      case 0:
+        frame->showMaximized();
+        break;
+      case 1:
+        frame->showNormal();
+        break;
+      default:
+        frame->resize(UpTo(1600), UpTo(1000));
+        break;
+    }
+  }
+
+  void SendSomething() {
+    switch (UpTo(11)) {
+      case 0:
+      case 1:
+      case 2:
+      case 3:
+        SendKey();
+        break;
+      case 4:
+      case 5:
+      case 6:
+        SendGesture();
+        break;
+      case 7:
+        SendMove();
+        break;
+      case 8:
+      case 9:
+        SendWheel();
+        break;
+      case 10:
+        if (OneIn(4)) SendResize();
+        break;
+      default:
+        SendTip();
+        break;
+    }
+  }
+
+  std::mt19937 m_random;
+};
+
+TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
+  const int events = EventsToSend();
+  const CWarnings warnings;
+  Open();
+  // A menu that runs an event loop of its own would wait for its user for ever.
+  QTimer closesMenus;
+  closesMenus.callOnTimeout([] {
+    if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+  });
+  closesMenus.start(20);
+
+  int closed = 0;
+  int months = 0;
+  PackedDate before = 0;
+  for (int i = 1; i <= events; ++i) {
+    SendSomething();
+    if (OneIn(4)) Settle();
+    if (!frame->isVisible()) {  // the menu or the keyboard closed it, as they may
+      ++closed;
+      Open();
+    }
+    if (Now() / 100 != before / 100) ++months;
+    before = Now();
+    ASSERT_TRUE(IsWithinBounds(Selected())) << Now() << " after event " << i;
+    ASSERT_TRUE(warnings.Texts().empty()) << "after event " << i << ": " << warnings.Texts().front();
+    if (events > kFirstMeasure && (i == kFirstMeasure || i == events))
+      std::printf("seed %u, after %d events: %s\n", kSeed, i, ResidentMemory().c_str());
+  }
+  EXPECT_GT(months, events / 50);  // the hands do reach something
+  if (events > kFirstMeasure) std::printf("closed and opened again %d times\n", closed);
+}
+
+}  // namespace
+}  // namespace orbisol
