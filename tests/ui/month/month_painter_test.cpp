@@ -188,9 +188,9 @@ TEST(MonthPainterTest, FillsAreAsOpaqueAsTheSettingsSay) {
 
     page.settings.backgroundAlpha = 128;
     const QRgb half = page.Paint().pixel(cell.left + 2, cell.top + 2);
-    EXPECT_NEAR(qRed(half), (0x20 + 0xFF) / 2, 1);
-    EXPECT_NEAR(qGreen(half), (0x60 + 0xFF) / 2, 1);
-    EXPECT_NEAR(qBlue(half), (0xE0 + 0xFF) / 2, 1);
+    EXPECT_NEAR(qRed(half), (0x20 + 0xFF) / 2.0, 1);
+    EXPECT_NEAR(qGreen(half), (0x60 + 0xFF) / 2.0, 1);
+    EXPECT_NEAR(qBlue(half), (0xE0 + 0xFF) / 2.0, 1);
   }
 }
 

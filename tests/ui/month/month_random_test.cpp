@@ -66,7 +66,7 @@ TEST_F(MonthWindowTest, RandomEventsLeaveTheDateInBoundsAndTheToolkitSilent) {
     }
     if (upTo(9) == 0) Settle();
     ASSERT_TRUE(IsWithinBounds(Selected())) << "after event " << i;
-    ASSERT_TRUE(warnings.Texts().empty()) << "after event " << i << ": " << warnings.Texts().front();
+    ASSERT_TRUE(CWarnings::Texts().empty()) << "after event " << i << ": " << CWarnings::Texts().front();
   }
   EXPECT_GT(host.changes, kEvents / 20);
   EXPECT_GT(host.opened.size(), 100u);

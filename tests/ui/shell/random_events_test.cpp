@@ -233,7 +233,7 @@ TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
     if (Now() / 100 != before / 100) ++months;
     before = Now();
     ASSERT_TRUE(IsWithinBounds(Selected())) << Now() << " after event " << i;
-    ASSERT_TRUE(warnings.Texts().empty()) << "after event " << i << ": " << warnings.Texts().front();
+    ASSERT_TRUE(CWarnings::Texts().empty()) << "after event " << i << ": " << CWarnings::Texts().front();
     if (events > kFirstMeasure && (i == kFirstMeasure || i == events))
       std::printf("seed %u, after %d events: %s\n", kSeed, i, ResidentMemory().c_str());
   }
