@@ -85,7 +85,7 @@ void DragFromSelected(CMonthWindow& window, PackedDate to) {
   const YearMonthDay end = Unpack(to);
   const auto middle = [&](int cell) {
     const Rect rect = window.Places().CellRect(cell);
-    return QPointF((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+    return QPointF((rect.left + rect.right) / 2.0, (rect.top + rect.bottom) / 2.0);
   };
   const auto send = [&](QEvent::Type type, const QPointF& at, Qt::MouseButton button) {
     QMouseEvent event(type, at, window.mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);

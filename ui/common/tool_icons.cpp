@@ -81,8 +81,9 @@ class CDrawnIcon : public QIconEngine {
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setOpacity(ink.alphaF());
-    QSvgRenderer(drawing).render(&painter,
-                                 QRectF((size.width() - side) / 2, (size.height() - side) / 2, side, side));
+    const int left = (size.width() - side) / 2;  // whole pixels, so that lines stay sharp
+    const int top = (size.height() - side) / 2;
+    QSvgRenderer(drawing).render(&painter, QRectF(left, top, side, side));
     return pixmap;
   }
 

@@ -104,7 +104,7 @@ int CMonthAccessible::IndexOfCell(int cell) const {
 
 CMonthItem* CMonthAccessible::Item(int row, int column) const {
   if (row < 0 || row >= kAllRows || column < 0 || column >= ShownColumns()) return nullptr;
-  QAccessible::Id& id = m_ids[static_cast<std::size_t>(row * kAllColumns + column)];
+  QAccessible::Id& id = m_ids[static_cast<std::size_t>(row) * kAllColumns + static_cast<std::size_t>(column)];
   if (id == 0) id = QAccessible::registerAccessibleInterface(new CMonthItem(this, row, column));
   return static_cast<CMonthItem*>(QAccessible::accessibleInterface(id));
 }
@@ -196,7 +196,7 @@ void CMonthAccessible::Tell(MonthNews news) {
     Send(QAccessible::NameChanged, kTable);
     for (int row = 0; row < kAllRows; ++row)
       for (int column = 0; column < columns; ++column)
-        if (m_ids[static_cast<std::size_t>(row * kAllColumns + column)] != 0)
+        if (m_ids[static_cast<std::size_t>(row) * kAllColumns + static_cast<std::size_t>(column)] != 0)
           Send(QAccessible::NameChanged, IndexOf(row, column));
   }
 

@@ -30,7 +30,7 @@ struct MonthLayout {
   int firstCell = 1;  // 1 with Monday-first weeks, else 0
 
   MonthLayout() = default;
-  MonthLayout(int width, int height, bool showWeekNumber, bool mondayFirst, int lineScale = 1);
+  MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale = 1);
 
   // Column 0..6 and row 1..6 of a cell from firstCell on.
   int ColumnOf(int cell) const { return (cell - firstCell) % kColumns; }
