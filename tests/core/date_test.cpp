@@ -273,5 +273,14 @@ TEST(DateTest, TheClockOfTheComputerGivesADate) {
   EXPECT_LE(std::chrono::abs(now - local).count(), 1);  // time zones, and midnight between the two readings
 }
 
+TEST(DateTest, TheSameDayIsThatOfTheFieldsWhateverTheOrderOfTexts) {
+  Date date(20240229);
+  Date other = date;
+  other.dateOrder = 2 - date.dateOrder;
+  EXPECT_TRUE(date.SameDay(other));
+  for (const PackedDate different : {20230229, 20240329, 20240228})
+    EXPECT_FALSE(date.SameDay(Date(different)));
+}
+
 }  // namespace
 }  // namespace orbisol
