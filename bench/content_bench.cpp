@@ -75,7 +75,8 @@ CalendarContent CrowdedCalendar(int rules, int periods) {
   }
   for (int i = 0; i < periods; ++i) {
     const int year = any(1950, 2050);
-    content.holidays.push_back({Pack(year, any(1, 6), 1), Pack(year, any(7, 12), 28), u"Vacances"});
+    content.holidays.push_back(
+        {Pack(year, any(1, 6), 1), Pack(year, any(7, 12), 28), std::u16string_view(u"Vacances")});
   }
   return content;
 }
