@@ -1,6 +1,9 @@
 #include "ui/common/plain_text.h"
 
+#include <QStringList>
 #include <QTextDocument>
+
+#include <algorithm>
 
 #include "resources/strings.h"
 
@@ -27,7 +30,13 @@ QString MenuText(std::u16string_view plain) {
 }
 
 QString TipMarkup(const QString& plain) {
-  return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain, Qt::WhiteSpaceNormal);
+  if (plain.isEmpty()) return {};
+  // The toolkit breaks lines of markup at a width of its own, and far too early.
+  constexpr qsizetype kLongestLine = 80;
+  const QStringList lines = plain.split(QLatin1Char('\n'));
+  const bool isShort = std::all_of(lines.begin(), lines.end(),
+                                   [](const QString& line) { return line.size() <= kLongestLine; });
+  return Qt::convertFromPlainText(plain, isShort ? Qt::WhiteSpacePre : Qt::WhiteSpaceNormal);
 }
 
 QString GroupedNumber(long long number) {

@@ -2,22 +2,17 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QFocusEvent>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyleOptionSpinBox>
 #include <QToolTip>
 
 #include <algorithm>
-#include <utility>
 
 #include "content/selected_date.h"
 #include "core/civil_year.h"
@@ -26,9 +21,13 @@
 #include "resources/command_ids.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/common/geometry.h"
+#include "ui/common/keys.h"
 #include "ui/common/plain_text.h"
+#include "ui/month/header_part.h"
 #include "ui/month/month_fonts.h"
 #include "ui/month/month_painter.h"
+#include "ui/month/year_edit.h"
 
 namespace orbisol {
 namespace {
@@ -41,118 +40,11 @@ constexpr int kTextWeek = 295;
 // Pieces of kTextHeaderNames.
 enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
 
-constexpr int kLastYear = 3999;
 constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 QString MonthTitle(int month) { return ToQString(UpperFirst(MonthName(month))); }
 
-bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
-
 }  // namespace
-
-CHeaderPart::CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::KeyboardModifiers)> press,
-                         QWidget* parent)
-    : QAbstractButton(parent), m_part(part), m_press(std::move(press)) {
-  setFocusPolicy(Qt::TabFocus);
-  setAttribute(Qt::WA_TransparentForMouseEvents);
-  // Space, and whatever presses a button from outside; the keys held count for arrows alone.
-  connect(this, &QAbstractButton::clicked, this,
-          [this] { m_press(m_part, QGuiApplication::keyboardModifiers()); });
-}
-
-void CHeaderPart::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(event->key())) {
-    m_press(m_part, event->modifiers());
-  } else if (event->key() == Qt::Key_Left) {
-    focusPreviousChild();
-  } else if (event->key() == Qt::Key_Right) {
-    focusNextChild();
-  } else {
-    QAbstractButton::keyPressEvent(event);
-  }
-}
-
-void CHeaderPart::focusInEvent(QFocusEvent* event) {
-  QAbstractButton::focusInEvent(event);
-  update();
-}
-
-void CHeaderPart::paintEvent(QPaintEvent*) {
-  if (!hasFocus()) return;
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(ToQColor(Display().ColorAt(kColorCalHeader)), 1));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-}
-
-CYearEdit::CYearEdit(QWidget* parent) : QAbstractSpinBox(parent) {
-  setAccelerated(true);
-  setKeyboardTracking(true);
-  lineEdit()->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& entered) {
-    const bool hasDigit =
-        std::any_of(entered.begin(), entered.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (!hasDigit) return;
-    emit YearEntered(std::clamp(ParseDecimal(Units(entered)), -kLastYear, kLastYear));
-  });
-}
-
-void CYearEdit::Open(int year) {
-  m_position = year;
-  lineEdit()->setText(QString::number(year));
-  show();
-  raise();
-  setFocus(Qt::OtherFocusReason);
-  selectAll();
-}
-
-void CYearEdit::stepBy(int steps) {
-  emit YearEntered(std::clamp(m_position + std::clamp(steps, -kLastYear, kLastYear), -kLastYear, kLastYear));
-  // The host has set the position to the year that it shows now.
-  lineEdit()->setText(QString::number(m_position));
-  selectAll();
-}
-
-QAbstractSpinBox::StepEnabled CYearEdit::stepEnabled() const {
-  StepEnabled enabled = StepNone;
-  if (m_position > -kLastYear) enabled |= StepDownEnabled;
-  if (m_position < kLastYear) enabled |= StepUpEnabled;
-  return enabled;
-}
-
-QValidator::State CYearEdit::validate(QString& input, int&) const {
-  for (qsizetype i = 0; i < input.size(); ++i) {
-    const bool isSign = i == 0 && (input[i] == u'-' || input[i] == u'+');
-    if (!isSign && (input[i] < u'0' || input[i] > u'9')) return QValidator::Invalid;
-  }
-  return QValidator::Acceptable;
-}
-
-int CYearEdit::ButtonsWidth() const {
-  QStyleOptionSpinBox option;
-  initStyleOption(&option);
-  option.rect = QRect(0, 0, 200, option.fontMetrics.height() + 8);
-  const QRect field = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
-  constexpr int kTextMargins = 6;  // of the line edit inside, left and right of its text, with the cursor
-  return option.rect.width() - field.width() + kTextMargins;
-}
-
-void CYearEdit::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(event->key()) || event->key() == Qt::Key_Escape) {
-    event->accept();
-    emit Closed(IsEnter(event->key()));
-    return;
-  }
-  QAbstractSpinBox::keyPressEvent(event);
-}
-
-void CYearEdit::focusOutEvent(QFocusEvent* event) {
-  QAbstractSpinBox::focusOutEvent(event);
-  // Its own menu takes the focus for a moment.
-  if (event->reason() != Qt::PopupFocusReason) emit Closed(false);
-}
 
 CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent)
     : QWidget(parent), m_host(host), m_parts{}, m_year(new CYearEdit(this)) {
@@ -176,6 +68,8 @@ CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent)
 
   LayOut();
 }
+
+bool CHeaderWnd::IsEditingYear() const { return m_year->isVisible(); }
 
 QString CHeaderWnd::TitleText() const {
   return m_monthName + QLatin1Char(' ') + QString::number(m_shownYear);

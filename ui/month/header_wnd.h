@@ -10,76 +10,24 @@
 // With the keyboard, Tab and the left and right arrows reach the four, Enter and Space press them.
 #pragma once
 
-#include <QAbstractButton>
-#include <QAbstractSpinBox>
 #include <QFont>
 #include <QPointer>
+#include <QWidget>
 
 #include <array>
-#include <functional>
 
 #include "ui/month/header_layout.h"
 
-class QMenu;
-
 namespace orbisol {
+
+class CHeaderPart;
+class CYearEdit;
 
 struct HeaderHost {
   virtual ~HeaderHost() = default;
 
   // The selected date was changed by the user's hand, in the header.
   virtual void OnHeaderDateChanged() = 0;
-};
-
-// A part of the header as the keyboard and a screen reader know it. It shows nothing but its focus; the mouse
-// belongs to the header.
-class CHeaderPart : public QAbstractButton {
-  Q_OBJECT
-
- public:
-  CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::KeyboardModifiers)> press, QWidget* parent);
-
-  QSize sizeHint() const override { return size(); }
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
-
- private:
-  HeaderPart m_part;
-  std::function<void(HeaderPart, Qt::KeyboardModifiers)> m_press;
-};
-
-// The editor of the year. It takes a sign and digits, and is never rewritten while the user types.
-class CYearEdit : public QAbstractSpinBox {
-  Q_OBJECT
-
- public:
-  explicit CYearEdit(QWidget* parent);
-
-  void Open(int year);
-  // What the spin control steps from.
-  void SetPosition(int year) { m_position = year; }
-  QString Text() const { return text(); }
-
-  void stepBy(int steps) override;
-  QValidator::State validate(QString& input, int& position) const override;
-
-  // Width of what stands beside the text: the buttons and the frame.
-  int ButtonsWidth() const;
-
- signals:
-  void YearEntered(int year);  // -3999..3999, clamped
-  void Closed(bool byEnter);
-
- protected:
-  StepEnabled stepEnabled() const override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
-
- private:
-  int m_position = 0;
 };
 
 class CHeaderWnd : public QWidget {
@@ -93,7 +41,7 @@ class CHeaderWnd : public QWidget {
   // being typed its box is left alone.
   void Refresh();
 
-  bool IsEditingYear() const { return m_year->isVisible(); }
+  bool IsEditingYear() const;
   void CloseYearEditor();
 
   const HeaderLayout& Places() const { return m_layout; }

@@ -7,6 +7,7 @@
 #include "core/date_text.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_fonts.h"
 #include "ui/month/tip_text.h"
@@ -20,18 +21,8 @@ constexpr int kTextWeek = 295;  // "s."
 constexpr int kNamePrevious = 1;
 constexpr int kNameNext = 2;
 
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
-
 const DayCell& CellIn(const MonthModel& month, int cell) {
   return month.cells[static_cast<std::size_t>(cell)];
-}
-
-// As it is painted at the end of a row, 1..6; 0 for none.
-int WeekOfRow(const MonthModel& month, const MonthLayout& places, int row) {
-  const int end = places.firstCell + row * kColumns - 1;
-  if (CellIn(month, end).day != 0) return CellIn(month, end - 1).week;
-  const int last = month.LastCell();
-  return last != kNoCell && places.RowOf(last) == row ? CellIn(month, last).week : 0;
 }
 
 void (*g_listener)(QAccessibleEvent*) = nullptr;
@@ -154,7 +145,7 @@ QString CMonthAccessible::columnDescription(int column) const {
 QString CMonthAccessible::rowDescription(int row) const {
   const MonthLayout& places = Window().Places();
   if (row < 0 || row >= kWeekRows || !places.showWeekNumber) return {};
-  const int week = WeekOfRow(Window().Month(), places, row + 1);
+  const int week = places.WeekOfRow(Window().Month(), row + 1);
   return week == 0 ? QString() : QString::number(week);
 }
 

@@ -19,6 +19,15 @@ MonthLayout::MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool
       showWeekNumber(weekNumbers),
       firstCell(mondayFirst ? 1 : 0) {}
 
+int MonthLayout::WeekOfRow(const MonthModel& month, int row) const {
+  const auto cell = [&](int index) -> const DayCell& { return month.cells[static_cast<std::size_t>(index)]; };
+  const int end = firstCell + row * kColumns - 1;
+  // On purpose: 0 where the last cell but one is empty, in the first row shown, where the range begins.
+  if (cell(end).day != 0) return cell(end - 1).week;
+  const int last = month.LastCell();
+  return last != kNoCell && RowOf(last) == row ? cell(last).week : 0;
+}
+
 Rect MonthLayout::CellRect(int cell) const {
   const int left = ColumnOf(cell) * columnWidth;
   const int top = RowOf(cell) * rowHeight;

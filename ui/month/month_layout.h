@@ -37,6 +37,10 @@ struct MonthLayout {
   int RowOf(int cell) const { return (cell - firstCell) / kColumns + 1; }
   bool IsInFirstRow(int cell) const { return RowOf(cell) == 1; }
 
+  // The week number at the end of row 1..6: that of the row's last cell but one, and in the row in which the
+  // month's cells end that of the last of them. 0: the row shows none.
+  int WeekOfRow(const MonthModel& month, int row) const;
+
   Rect CellRect(int cell) const;
   // kNoCell in the header row, in and right of the week numbers, in the rest that the divisions leave at the
   // right and below, and outside.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_pictures.h"
 
@@ -14,8 +15,6 @@ namespace orbisol {
 namespace {
 
 constexpr int kTextWeek = 295;  // "s."
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 // On one line in the middle of a rectangle; what is too wide is cut at both sides. Returns the rectangle of
 // the text.
@@ -43,6 +42,12 @@ double DeviceRatio(const QPainter& painter) { return painter.device()->devicePix
 QColor ToQColor(Color color) {
   return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
           static_cast<int>(color >> 16 & 0xFF)};
+}
+
+bool MonthMarks::IsInRange(const DayCell& cell) const {
+  if (!hasRange || cell.day == 0) return false;
+  const int dayNumber = Date(cell.ymd).DayNumber();
+  return firstDayNumber <= dayNumber && dayNumber <= lastDayNumber;
 }
 
 void CMonthPainter::SetUp(const MonthLayout& layout, const DisplaySettings& settings, const QFont& dialogFont,
@@ -83,12 +88,10 @@ void CMonthPainter::Paint(QPainter& painter, const MonthModel& month, const Mont
     if (day.day == 0 && last == kNoCell) continue;
     if (day.day == 0 || m_layout.RowOf(cell) > kWeekRows) break;
     last = cell;
-    if (m_settings.showWeekNumber && m_layout.ColumnOf(cell) == kColumns - 1)
-      PaintWeekNumber(painter, m_layout.RowOf(cell), month.cells[static_cast<std::size_t>(cell) - 1].week);
     if (isAsked(m_layout.DirtyRect(cell))) PaintCell(painter, month, cell, marks);
   }
-  if (last != kNoCell && m_settings.showWeekNumber && m_layout.ColumnOf(last) < kColumns - 1)
-    PaintWeekNumber(painter, m_layout.RowOf(last), month.cells[static_cast<std::size_t>(last)].week);
+  for (int row = 1; m_settings.showWeekNumber && row <= kWeekRows; ++row)
+    if (isAsked(m_layout.WeekNumberRect(row))) PaintWeekNumber(painter, row, m_layout.WeekOfRow(month, row));
 
   if (marks.hasRange) {
     PaintRange(painter, month, marks);
@@ -214,7 +217,7 @@ void CMonthPainter::PaintMoon(QPainter& painter, int cell, MoonPhase phase) cons
 }
 
 void CMonthPainter::PaintWeekNumber(QPainter& painter, int row, int week) const {
-  if (week == 0) return;  // The cell named is empty: the first row shown, where the range begins.
+  if (week == 0) return;
   painter.setFont(m_fonts.small);
   painter.setPen(ToQColor(m_settings.ColorAt(kColorWeekNumber)));
   DrawCentred(painter, ToQRect(m_layout.WeekNumberRect(row)), QString::number(week));
@@ -227,10 +230,7 @@ void CMonthPainter::PaintRange(QPainter& painter, const MonthModel& month, const
   painter.setCompositionMode(QPainter::CompositionMode_Difference);
   for (int cell = m_layout.firstCell; cell < kCellCount; ++cell) {
     const DayCell& day = month.cells[static_cast<std::size_t>(cell)];
-    if (day.day == 0) continue;
-    const int dayNumber = Date(day.ymd).DayNumber();
-    if (marks.firstDayNumber <= dayNumber && dayNumber <= marks.lastDayNumber)
-      painter.fillRect(ToQRect(m_layout.CellRect(cell)), Qt::white);
+    if (marks.IsInRange(day)) painter.fillRect(ToQRect(m_layout.CellRect(cell)), Qt::white);
   }
   painter.restore();
 }

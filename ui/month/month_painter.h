@@ -36,6 +36,7 @@ struct MonthMarks {
   bool hasRange = false;
   int firstDayNumber = 0;
   int lastDayNumber = 0;
+  bool IsInRange(const DayCell& cell) const;  // false for an empty cell, and where there is no range
 
   PackedDate today = 0;  // its number is underlined; not on paper. 0: none
 };

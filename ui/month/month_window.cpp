@@ -8,13 +8,12 @@
 #include <algorithm>
 
 #include "core/platform.h"
+#include "ui/common/geometry.h"
 #include "ui/month/month_accessible.h"
 #include "ui/month/month_pictures.h"
 
 namespace orbisol {
 namespace {
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 // 0 for a clock that stands outside of the years shown.
 PackedDate TodayPacked() {
@@ -82,10 +81,8 @@ int CMonthWindow::CellAt(QPoint position) {
 
 bool CMonthWindow::IsSelected(int cell) {
   const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
-  if (!m_isRangeActive || day.day == 0) return day.day != 0 && cell == SelectedCell();
-  const MonthMarks marks = Marks();
-  const int dayNumber = Date(day.ymd).DayNumber();
-  return marks.firstDayNumber <= dayNumber && dayNumber <= marks.lastDayNumber;
+  if (m_isRangeActive) return Marks().IsInRange(day);
+  return day.day != 0 && cell == SelectedCell();
 }
 
 bool CMonthWindow::event(QEvent* event) {

@@ -9,6 +9,7 @@
 
 #include "content/selected_date.h"
 #include "resources/strings.h"
+#include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_painter.h"
 #include "ui/month/tip_text.h"
@@ -20,8 +21,6 @@ namespace {
 // As the dialog was designed; no smaller, so that the month is never cut.
 constexpr int kLeastGridWidth = 56 * kDayColumns;
 constexpr int kLeastHeight = 300;
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 }  // namespace
 

@@ -17,6 +17,8 @@
 #include "settings/display_settings.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
+#include "ui/month/header_part.h"
+#include "ui/month/year_edit.h"
 
 namespace orbisol {
 namespace {

@@ -10,6 +10,7 @@
 #include "core/calendar_config.h"
 #include "resources/pictures/pictures.h"
 #include "tests/support/rules.h"
+#include "ui/common/geometry.h"
 #include "ui/month/month_pictures.h"
 
 namespace orbisol {
@@ -17,8 +18,6 @@ namespace {
 
 constexpr Color kBlue = Rgb(0x20, 0x60, 0xE0);
 constexpr Color kYellow = Rgb(0xFF, 0xF0, 0x80);
-
-QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 // A month in May 2024 unless said otherwise, painted as a window does. Plain and without a grid, so that a
 // pixel has one reason for its color.

@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include "tests/ui/shell/frame_fixture.h"
+#include "ui/month/year_edit.h"
 
 namespace orbisol {
 namespace {
