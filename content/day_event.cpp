@@ -1,15 +1,9 @@
 #include "content/day_event.h"
 
+#include "content/selected_date.h"
+
 namespace orbisol {
 namespace {
-
-constexpr int kFirstYear = -3999;
-constexpr int kLastYear = 3999;
-
-bool IsYearShown(PackedDate packed) {
-  const int year = Unpack(packed).year;
-  return year >= kFirstYear && year <= kLastYear;
-}
 
 // The longest that a month can be. On purpose: month 0 takes nearly any day; it falls on none.
 int LongestMonth(int month) {
@@ -24,7 +18,8 @@ bool IsBetween(int value, int low, int high) { return low <= value && value <= h
 
 bool AcceptDayEvent(const DayEvent& event) {
   if (event.month > 12 || event.name.IsEmpty()) return false;
-  if (!IsYearShown(event.ymdFrom) || !IsYearShown(event.ymdTo) || event.ymdFrom > event.ymdTo) return false;
+  if (!IsYearShown(Unpack(event.ymdFrom).year) || !IsYearShown(Unpack(event.ymdTo).year)) return false;
+  if (event.ymdFrom > event.ymdTo) return false;
 
   const int longest = LongestMonth(event.month);
   switch (static_cast<DayEventType>(event.type)) {

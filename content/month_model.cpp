@@ -27,7 +27,7 @@ int LastDayOfPage(const Date& date) {
 }
 
 // The days of all pages one after the other: month lengths, dropped dates left out. On purpose: this is not
-// Date::AddDays; where a page shows 29 February in a year that has none, the days of the neighbouring pages
+// Date::AddDays; where a page shows 29 February in a year that has none, the days of the neighboring pages
 // agree with it.
 void StepOn(Date& date) {
   do {
@@ -62,9 +62,11 @@ void SetDate(DayCell& cell, const Date& date, const RuleDay& asked) {
 
 void SetDate(DayCell& cell, const Date& date) { SetDate(cell, date, RuleDayOf(date)); }
 
-// The first period in the list that holds a day marks it. `titled` are the cells that show its title too.
-void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cells,
-                 std::span<const DayCell> titled) {
+enum class Titles { kShown, kHidden };
+
+// The first period in the list that holds a day marks it.
+void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cells, Titles titles) {
+  if (cells.empty()) return;
   PackedDate lowest = cells[0].ymd;
   PackedDate highest = cells[0].ymd;
   for (const DayCell& cell : cells) {
@@ -76,8 +78,7 @@ void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cell
     for (DayCell& cell : cells) {
       if ((cell.marks & kVacationCell) != 0 || !period.Holds(cell.ymd)) continue;
       cell.marks |= kVacationCell;
-      const bool hasTitle = &cell >= titled.data() && &cell < titled.data() + titled.size();
-      if (hasTitle) cell.vacationTitle = period.title.View();
+      if (titles == Titles::kShown) cell.vacationTitle = period.title.View();
     }
   }
 }
@@ -128,7 +129,7 @@ void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& c
   }
 }
 
-void ColorNeighbours(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
+void ColorNeighbors(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     cell.textColor = At(colors, kGrayTextColor);
     cell.backColor = At(colors, (cell.marks & kVacationCell) != 0 ? kHolidaysBgColor : kStandardBgColor);
@@ -189,12 +190,14 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
   };
   const std::span<DayCell> ofMonth = between(day1, afterMonth);
   const std::span<const RuleDay> asked(days.data(), dayCount);
-  MarkPeriods(content.holidays, between(start, end), ofMonth);
+  MarkPeriods(content.holidays, ofMonth, Titles::kShown);
   MarkRules(content.dayEvents, asked, ofMonth);
   if (moon == kWithMoon) MarkMoon(asked, ofMonth);
   ColorDays(ofMonth, colors);
-  ColorNeighbours(between(start, day1), colors);
-  ColorNeighbours(between(afterMonth, end), colors);
+  for (const std::span<DayCell> neighbors : {between(start, day1), between(afterMonth, end)}) {
+    MarkPeriods(content.holidays, neighbors, Titles::kHidden);
+    ColorNeighbors(neighbors, colors);
+  }
 }
 
 int MonthModel::CellOf(int ofMonth, int ofDay) const {

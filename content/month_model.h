@@ -8,7 +8,7 @@
 //
 // A row holds seven consecutive cells. Monday-first weeks (iso8601) begin at index 1 and leave index 0 empty,
 // Sunday-first weeks begin at index 0. Cells before day 1 and after the last day complete their rows with
-// days of the neighbouring months; at the two ends of the range shown they stay empty.
+// days of the neighboring months; at the two ends of the range shown they stay empty.
 #pragma once
 
 #include <array>
@@ -30,7 +30,7 @@ struct DayCell {
   int day = 0;      // of the month; 0 in an empty cell
   int weekday = 0;  // 0 Sunday .. 6
   int week = 0;     // 1..53
-  int month = 0;    // of the cell's own date, also in cells of the neighbouring months
+  int month = 0;    // of the cell's own date, also in cells of the neighboring months
   PackedDate ymd = 0;
   int moonPhase = 0;  // MoonPhase
   unsigned marks = 0;
@@ -39,6 +39,8 @@ struct DayCell {
   std::u16string vacationTitle;
   std::u16string holidayText;  // public holidays, joined by " + "
   std::u16string eventText;    // other rules, likewise
+
+  bool operator==(const DayCell&) const = default;
 };
 
 struct MonthModel {
@@ -53,7 +55,7 @@ struct MonthModel {
   // date becomes the first day that exists from there on, and stays so; of a month that it removed whole that
   // is a day of the next one. On purpose: a public holiday hides the personal events of
   // its day; a day's text color is that of holiday or event before vacation, its background that of vacation
-  // before holiday before event; days of the neighbouring months have no moon and no marks but that of a
+  // before holiday before event; days of the neighboring months have no moon and no marks but that of a
   // vacation period.
   void Build(const CalendarContent& content, const std::array<Color, kColorCount>& colors, Moon moon);
 

@@ -14,6 +14,10 @@ namespace orbisol {
 constexpr PackedDate kFirstDateShown = -39990101;
 constexpr PackedDate kLastDateShown = 39991231;
 
+constexpr bool IsYearShown(int year) {
+  return year >= Unpack(kFirstDateShown).year && year <= Unpack(kLastDateShown).year;
+}
+
 // The selected date. Today until something else is selected; the first call asks the clock.
 Date& Selected();
 

@@ -7,8 +7,7 @@ namespace {
 
 bool MayBound(PackedDate packed) {
   const Date date(packed);
-  const bool isShown = date.year >= Unpack(kFirstDateShown).year && date.year <= Unpack(kLastDateShown).year;
-  return isShown && date.month >= 1 && date.month <= 12 && date.day <= date.DaysInMonth();
+  return IsYearShown(date.year) && date.month >= 1 && date.month <= 12 && date.day <= date.DaysInMonth();
 }
 
 }  // namespace

@@ -82,6 +82,7 @@ void ResetCalendarConfig();
 constexpr bool Iso8601ByLocale(int firstDayOfWeek, int firstWeekOfYear) {
   return !(firstDayOfWeek == 6 && firstWeekOfYear == 1);
 }
+static_assert(!Iso8601ByLocale(6, 1) && Iso8601ByLocale(6, 0) && Iso8601ByLocale(0, 1));
 
 // A start that is 0 or names no day becomes the Roman reform; any other is returned as it is.
 PackedDate GregorianStartOrDefault(PackedDate start);

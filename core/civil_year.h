@@ -41,5 +41,6 @@ int SetCivilYear(Date& date, int target);
 constexpr int kFoundingOfRome = 753;  // years from the founding of the city to year 0
 constexpr std::int64_t YearBeforeEra(int year) { return 1 - std::int64_t{year}; }
 constexpr std::int64_t YearOfRome(int year) { return std::int64_t{year} + kFoundingOfRome; }
+static_assert(YearBeforeEra(-43) == 44 && YearOfRome(-43) == 710);
 
 }  // namespace orbisol

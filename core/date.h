@@ -72,6 +72,7 @@ constexpr int WeekdayOfDayNumber(int dayNumber) {
   const int remainder = static_cast<int>((std::int64_t{dayNumber} + 1) % 7);
   return remainder < 0 ? remainder + 7 : remainder;
 }
+static_assert(WeekdayOfDayNumber(0) == 1 && WeekdayOfDayNumber(-1) == 0 && WeekdayOfDayNumber(-2) == 6);
 
 // The day number of a date under another reform than the one in force.
 int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic);

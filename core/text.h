@@ -1,5 +1,10 @@
 // Texts are UTF-16 inside the program and UTF-8 in its files. Nothing here fails: what is malformed is
 // replaced, what is too long is cut, what is missing is empty.
+//
+//   FixedText<5> title(u"Vacances");                  // "Vaca"
+//   ToUtf8(u"Été");                                   // "\xC3\x89t\xC3\xA9"
+//   Piece(u"janvier|février", u'|', 1);               // "février"
+//   FormatText(u"%d %s %d", {14, u"juillet", 1789});  // "14 juillet 1789"
 #pragma once
 
 #include <algorithm>
@@ -23,8 +28,7 @@ template <std::size_t N>
 struct FixedText {
   char16_t units[N] = {};
 
-  FixedText() = default;
-  FixedText(std::u16string_view text) { Set(text); }  // NOLINT: meant to be implicit
+  FixedText(std::u16string_view text = {}) { Set(text); }  // NOLINT: meant to be implicit
 
   void Set(std::u16string_view text, std::size_t maxUnits = N - 1) {
     const std::u16string_view kept = CutText(text, std::min(maxUnits, N - 1));
@@ -55,6 +59,14 @@ std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what, st
 std::u16string UpperFirst(std::u16string_view text);
 
 std::u16string DecimalText(long long number);
+
+// The value of a hexadecimal digit in either case, given as a unit or a byte; -1 for another character.
+constexpr int HexDigit(int character) {
+  if (character >= '0' && character <= '9') return character - '0';
+  if (character >= 'a' && character <= 'f') return character - 'a' + 10;
+  if (character >= 'A' && character <= 'F') return character - 'A' + 10;
+  return -1;
+}
 
 // Leading blanks, a sign, digits up to the first other character; 0 for a text that begins otherwise. A
 // number that no int holds is saturated.

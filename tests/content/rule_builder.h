@@ -1,14 +1,14 @@
 // Rules and periods in one line, for tests.
 //
-//   Rule(DayEventType::kFixedDate, {.month = 7, .day = 14, .name = u"Fête nationale"});
+//   Rule(kFixedDate, {.month = 7, .day = 14, .name = u"Fête nationale"});
 #pragma once
-
-#include <string_view>
 
 #include "content/day_event.h"
 #include "content/vacation.h"
 
 namespace orbisol {
+
+using enum DayEventType;
 
 struct RuleFields {
   bool isPublic = true;
@@ -21,7 +21,13 @@ struct RuleFields {
   std::u16string_view name = u"x";
 };
 
-DayEvent Rule(DayEventType type, const RuleFields& fields);
-HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title = u"");
+inline DayEvent Rule(DayEventType type, const RuleFields& fields) {
+  const auto& [isPublic, month, day, weekday, weeknum, from, to, name] = fields;
+  return {static_cast<int>(type), isPublic, month, day, weekday, weeknum, from, to, name};
+}
+
+inline HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title = u"") {
+  return {from, to, title};
+}
 
 }  // namespace orbisol

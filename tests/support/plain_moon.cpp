@@ -25,6 +25,24 @@ int CodeNear(int angle) {
   return 0;
 }
 
+// Whether `phase` (0, 90, 180 or 270) belongs to the day whose noon has `angle`, between the noons of its
+// neighbors.
+bool IsPhaseDay(int before, int angle, int after, int phase) {
+  int center = phase;
+  if (phase == 0) {  // away from the jump from 359 to 0
+    before = (before + 180) % 360;
+    angle = (angle + 180) % 360;
+    after = (after + 180) % 360;
+    center = 180;
+  }
+  const int u = before - center;
+  const int w = after - center;
+  const int s = angle - center;
+  if (u * w > 0) return false;
+  if (s * u >= 0) return std::abs(s) <= std::abs(w);
+  return std::abs(s) < std::abs(u);
+}
+
 }  // namespace
 
 int MoonElongation(double t) {
@@ -65,31 +83,12 @@ int MoonElongation(double t) {
   return static_cast<int>(Reduce(sun - Reduce(moon)));
 }
 
-bool IsPhaseDay(int before, int angle, int after, int phase) {
-  int center = phase;
-  if (phase == 0) {  // away from the jump from 359 to 0
-    before = (before + 180) % 360;
-    angle = (angle + 180) % 360;
-    after = (after + 180) % 360;
-    center = 180;
-  }
-  const int u = before - center;
-  const int w = after - center;
-  const int s = angle - center;
-  if (u * w > 0) return false;
-  if (s * u >= 0) return std::abs(s) <= std::abs(w);
-  return std::abs(s) < std::abs(u);
-}
-
-int MoonPhase(int before, int angle, int after) {
-  const int code = CodeNear(angle);
-  return code != 0 && IsPhaseDay(before, angle, after, kPhaseOfCode[code]) ? code : 0;
-}
-
 int MoonPhaseOfDayNumber(int dayNumber) {
   const double t = (dayNumber - 2451544) + 0.5;
   const int angle = MoonElongation(t);
-  return CodeNear(angle) == 0 ? 0 : MoonPhase(MoonElongation(t - 1), angle, MoonElongation(t + 1));
+  const int code = CodeNear(angle);
+  if (code == 0) return 0;
+  return IsPhaseDay(MoonElongation(t - 1), angle, MoonElongation(t + 1), kPhaseOfCode[code]) ? code : 0;
 }
 
 }  // namespace orbisol::plain

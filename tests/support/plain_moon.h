@@ -11,14 +11,7 @@ namespace orbisol::plain {
 // `t` in days from 0 h of 31 December 1999.
 int MoonElongation(double t);
 
-// Whether `phase` (0, 90, 180 or 270) belongs to the day whose noon has `angle`, between the noons of its
-// neighbors.
-bool IsPhaseDay(int before, int angle, int after, int phase);
-
-// The phase code of a day, from the elongations at three noons.
-int MoonPhase(int before, int angle, int after);
-
-// The same, from the day number: the neighbors are evaluated only where the angle is near a phase.
+// The neighbors of a day are evaluated only where its angle is near a phase.
 int MoonPhaseOfDayNumber(int dayNumber);
 
 }  // namespace orbisol::plain
