@@ -94,6 +94,17 @@ void CrowdedMonth(benchmark::State& state) {
 }
 BENCHMARK(CrowdedMonth)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
+// A calendar's file of some ten and twenty million bytes.
+void ReadLargeFile(benchmark::State& state) {
+  CalendarFile calendar;
+  calendar.content = CrowdedCalendar(static_cast<int>(state.range(0)), 0);
+  const std::string bytes = WriteCalendar(calendar, CalendarForm::kUser);
+  for ([[maybe_unused]] auto _ : state)
+    benchmark::DoNotOptimize(ReadCalendar(bytes).content.dayEvents.size());
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+BENCHMARK(ReadLargeFile)->Arg(45000)->Arg(90000)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace orbisol
 

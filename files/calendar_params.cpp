@@ -8,19 +8,11 @@ namespace orbisol {
 
 namespace {
 
-constexpr Color kColorMask = 0xFFFFFF;
-constexpr std::size_t kHexDigits = 6;
+constexpr std::size_t kHexDigits = 6;  // of a color
 
 std::u16string Value(std::u16string_view block, std::u16string_view tag, std::u16string_view ifMissing = {}) {
   std::ptrdiff_t position = 0;
   return GetElement(block, tag, position, ifMissing);
-}
-
-int HexDigit(char16_t unit) {
-  if (unit >= u'0' && unit <= u'9') return unit - u'0';
-  if (unit >= u'a' && unit <= u'f') return unit - u'a' + 10;
-  if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
-  return -1;
 }
 
 // Reads like a decimal number: digits up to the first other character, "00zz11" is 0.
@@ -31,7 +23,7 @@ Color HexNumber(std::u16string_view text) {
     if (digit < 0) break;
     number = number << 4 | static_cast<Color>(digit);
   }
-  return number & kColorMask;
+  return number;
 }
 
 // Cuts the next piece off a list whose pieces end in ";", the last one possibly without. Empty pieces are

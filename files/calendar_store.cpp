@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "files/elements.h"
+#include "core/text.h"
+#include "files/kept_copy.h"
 
 namespace orbisol {
 
 namespace {
 
 constexpr std::u16string_view kEnding = u".xml";
-constexpr std::u16string_view kCopyEnding = u".bak";
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
 std::u16string Joined(std::u16string_view folder, std::u16string_view name) {
@@ -145,7 +145,8 @@ WriteResult CCalendarStore::Save(std::u16string_view name, const CalendarFile& c
   const bool isOthers = disk && disk->stamp != m_stamps[path];
   if (isOthers && ifChanged == IfChanged::kRefuse) return WriteResult::kChanged;
 
-  if (disk && (isOthers || HoldsMore(disk->bytes, CalendarForm::kUser)) && !KeepCopy(path, disk->bytes))
+  if (disk && (isOthers || HoldsMore(disk->bytes, CalendarForm::kUser)) &&
+      !KeepCopy(m_files, path, disk->bytes))
     return WriteResult::kFailed;
   std::string bytes;
   if (disk && calendar.info.empty()) {
@@ -181,24 +182,6 @@ bool CCalendarStore::Delete(std::u16string_view name) {
   if (path.empty() || !m_files.Exists(path) || !m_files.MoveToTrash(path)) return false;
   m_stamps.erase(path);
   return true;
-}
-
-// The copy is "<name>.xml.bak". An older copy with other bytes is not lost for it: it moves on to
-// "<name>.xml.bak.1", or the next number that is free.
-bool CCalendarStore::KeepCopy(const std::u16string& path, std::string_view bytes) {
-  const std::u16string copy = path + std::u16string(kCopyEnding);
-  const std::optional<FileBytes> older = m_files.Read(copy);
-  if (!older && m_files.Exists(copy)) return false;
-  if (older && older->bytes == bytes) return true;
-  const FileStamp missing;
-  FileStamp stamp;
-  if (older) {
-    long long number = 1;
-    const auto numbered = [&] { return copy + u"." + DecimalText(number); };
-    while (m_files.Exists(numbered())) ++number;
-    if (m_files.Replace(numbered(), older->bytes, &missing, &stamp) != WriteResult::kWritten) return false;
-  }
-  return m_files.Replace(copy, bytes, older ? &older->stamp : &missing, &stamp) == WriteResult::kWritten;
 }
 
 std::vector<PublicCalendar> CCalendarStore::PublicCalendars() const {

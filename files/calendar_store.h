@@ -104,8 +104,6 @@ class CCalendarStore {
   std::u16string Description(std::u16string_view path) const;
 
  private:
-  bool KeepCopy(const std::u16string& path, std::string_view bytes);
-
   Files& m_files;
   std::map<std::u16string, FileStamp> m_stamps;  // by path: the files as they were last loaded or saved
 };

@@ -3,6 +3,9 @@
 #include <utility>
 
 #include "files/calendar_store.h"
+#include "files/kept_copy.h"
+#include "platform/desktop_files.h"
+#include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "settings/registry_text.h"
 
@@ -16,24 +19,6 @@ std::string KeyFile(const std::vector<std::string>& files) {
   for (const std::string& file : files)
     if (FileExists(file)) return file;
   return {};
-}
-
-// The copy is "<file>.bak". An older copy with other bytes moves on to "<file>.bak.1", or the next number
-// that is free.
-bool KeepCopy(const std::string& file, const std::string& bytes) {
-  const std::string copy = file + ".bak";
-  const std::optional<FileBytes> older = ReadWholeFile(copy);
-  if (!older && FileExists(copy)) return false;
-  if (older && older->bytes == bytes) return true;
-  const FileStamp missing;
-  if (older) {
-    int number = 1;
-    while (FileExists(copy + "." + std::to_string(number))) ++number;
-    if (ReplaceFile(copy + "." + std::to_string(number), older->bytes, &missing, nullptr) !=
-        WriteResult::kWritten)
-      return false;
-  }
-  return ReplaceFile(copy, bytes, older ? &older->stamp : &missing, nullptr) == WriteResult::kWritten;
 }
 
 }  // namespace
@@ -69,7 +54,10 @@ bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
     const FileStamp expected = key == own ? file->stamp : FileStamp{};
     // Without changes not even the encoding of the file is changed.
     const std::string bytes = changes.empty() ? file->bytes : text.Bytes();
-    if (key == own && bytes != file->bytes && !text.IsLossless() && !KeepCopy(own, file->bytes)) return false;
+    if (key == own && bytes != file->bytes && !text.IsLossless()) {
+      CDesktopFiles files{Folders()};  // none of its folders is asked for
+      if (!KeepCopy(files, PathText(own), file->bytes)) return false;
+    }
     const WriteResult result = ReplaceFile(own, bytes, &expected, nullptr);
     if (result != WriteResult::kChanged) return result == WriteResult::kWritten;
   }

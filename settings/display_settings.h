@@ -64,7 +64,7 @@ struct WindowLayout {
   std::uint8_t maximized = 0;
   std::uint8_t statusBarShown = 1;
   std::uint8_t reserved = 1;  // carried along
-  std::uint8_t rightPaneShown = 1;
+  std::uint8_t rightPaneShown = 0;  // a fresh window shows the month alone
   int rightPaneWidth = 0;  // pixels; informative, measured anew at every start
 
   bool operator==(const WindowLayout&) const = default;

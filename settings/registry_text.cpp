@@ -28,14 +28,6 @@ std::string_view Trimmed(std::string_view text) {
   return text;
 }
 
-// -1 for another character.
-int HexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 // One to `maxDigits` hexadecimal digits and nothing else; at most eight.
 std::optional<std::uint32_t> HexNumber(std::string_view text, std::size_t maxDigits) {
   if (text.empty() || text.size() > maxDigits) return {};

@@ -44,10 +44,14 @@ void ReadNumbers(const StoredValues& values, DisplaySettings& display) {
   }
 }
 
+// False for one turned inside out, as only a damaged value has it.
+bool HasRoom(const Rect& rect) { return rect.right > rect.left && rect.bottom > rect.top; }
+
 void ReadLayout(const StoredValues& values, const char* name, const Rect& ifAbsent, const Rect& screen,
                 WindowLayout& layout) {
   layout.rect = ifAbsent;
   if (const auto bytes = BinaryOf(values, name)) LayoutFromBytes(*bytes, layout);
+  if (!HasRoom(layout.rect)) layout.rect = ifAbsent;
   layout.rect = FitRectToScreen(layout.rect, screen);
 }
 
@@ -116,7 +120,7 @@ WindowLayout ClosingLayout(WindowLayout layout, const ClosingFrame& frame, const
   layout.maximized = frame.maximized ? 1 : 0;
   layout.rightPaneShown = frame.paneShown ? 1 : 0;
   layout.rightPaneWidth = frame.paneWidth;
-  if (frame.rect.Width() > 0 && frame.rect.Height() > 0) {
+  if (HasRoom(frame.rect)) {
     layout.rect = frame.rect;
     if (!frame.paneShown) layout.rect.right = Saturate(std::int64_t{layout.rect.right} + frame.paneWidth);
   }

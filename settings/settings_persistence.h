@@ -30,10 +30,11 @@ struct StoredSettings {
   LoadResult file = LoadResult::kMissing;  // of the calendar, before a migration wrote it
 };
 
-// A value that is missing, of another type or malformed takes its default. Windows are moved onto `screen`,
-// the smallest rectangle around all screens. A calendar without a file is empty; where the user has none at
-// all it has the content of the first start. Where the key holds no calendar name that can be read, older
-// settings are taken over (legacy_settings.h), which writes; nothing else here does.
+// A value that is missing, of another type or malformed takes its default, and so does a rectangle without
+// width or height. Windows are moved onto `screen`, the smallest rectangle around all screens. A calendar
+// without a file is empty; where the user has none at all it has the content of the first start. Where the
+// key holds no calendar name that can be read, older settings are taken over (legacy_settings.h), which
+// writes; nothing else here does.
 StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, const Rect& screen,
                             const UserLocale& locale);
 

@@ -157,7 +157,7 @@ def scaled(times, name, factor):
     return times[name] * factor if name in times else None
 
 
-# Identifier, what is measured, the figure made of the measurements, limit, unit.
+# Identifier ("-": a law that has none), what is measured, the figure made of the measurements, limit, unit.
 BUDGETS = [
     ("B1", "date to day number, beside std::chrono",
      lambda t: ratio(t, ["DateToNumber_Orbisol"], ["DateToNumber_Chrono"]), 1.7, ""),
@@ -180,6 +180,9 @@ BUDGETS = [
     ("B7", "a month of 10,000 rules and 1,000 periods", lambda t: scaled(t, "CrowdedMonth/10000", 1e-6), 16, "ms"),
     ("B7", "four times the rules, four times the time: by how much more",
      lambda t: ratio(t, ["CrowdedMonth/10000"], ["CrowdedMonth/2500"] * 4), 1.2, ""),
+    ("-", "reading a calendar's file of 10 MB", lambda t: scaled(t, "ReadLargeFile/45000", 1e-9), 1, "s"),
+    ("-", "twice the file, twice the time: by how much more",
+     lambda t: ratio(t, ["ReadLargeFile/90000"], ["ReadLargeFile/45000"] * 2), 1.2, ""),
     ("B8", "first paint, beside an empty main window",
      lambda t: ratio(t, ["FirstPaint_Orbisol"], ["FirstPaint_EmptyWindow"]), 1.6, ""),
     ("B8", "settled, likewise", lambda t: ratio(t, ["Settled_Orbisol"], ["Settled_EmptyWindow"]), 1.8, ""),

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Runs every fuzzer for FUZZ_SECONDS (30), two at a time, from the corpus kept in fuzz/corpus/NAME.
+# Runs every fuzzer for FUZZ_SECONDS (30), two at a time, from the corpus kept in fuzz/corpus/NAME and the files
+# of the tests that it can read. Of the folders given to a fuzzer, only the first is ever written to.
 # What a run discovers stays in build/fuzz/found/NAME, what it breaks in build/fuzz/crashes/.
 # Prints one line for each; ends with 1 when one failed.
 
@@ -14,8 +15,15 @@ export seconds
 run_one='
   name=${1##*/fuzz_}
   mkdir -p "build/fuzz/found/$name"
-  kept="fuzz/corpus/$name"
-  [ -d "$kept" ] || kept=
+  kept=
+  case $name in
+    calendar_file) tests=tests/data/files ;;
+    settings_store) tests=tests/data/settings ;;
+    *) tests= ;;
+  esac
+  for folder in "fuzz/corpus/$name" $tests; do
+    [ -d "$folder" ] && kept="$kept $folder"
+  done
   if "$1" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
       -artifact_prefix="build/fuzz/crashes/$name-" "build/fuzz/found/$name" $kept >"build/fuzz/logs/$name" 2>&1
   then

@@ -1,35 +1,26 @@
-// Files for tests on a real disk: a folder of one's own, and the folders of the program below it.
+// Files for tests on a real disk, in a folder of their own.
 #pragma once
 
-#include <sys/stat.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <atomic>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "platform/folders.h"
+#include "tests/support/file_bytes.h"
 
 namespace orbisol {
 
-inline Folders TestFolders(const std::string& root) {
-  const auto variable = [&](const std::string& name) -> std::string {
-    if (name == "XDG_DATA_HOME") return root + "/data";
-    if (name == "XDG_CONFIG_HOME") return root + "/config";
-    if (name == "XDG_CONFIG_DIRS") return root + "/etc";
-    return "";
-  };
-  return FindFolders(variable, root + "/home", root + "/prefix/bin/orbisol");
-}
-
-// Removed with all it holds at the end.
+// In memory where the machine has a place for that: files are replaced in it thousands of times, and a busy
+// disk would be waited for. Removed with all it holds at the end.
 class CTestFolder {
  public:
-  CTestFolder() {
-    static std::atomic<int> count = 0;
-    m_path = (std::filesystem::temp_directory_path() / ("folder" + std::to_string(++count))).string();
-    std::filesystem::create_directories(m_path);
+  CTestFolder() : m_path(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : std::getenv("TMPDIR")) {
+    m_path += "/orbisol-test-XXXXXX";
+    EXPECT_NE(mkdtemp(m_path.data()), nullptr);
   }
   ~CTestFolder() {
     std::error_code error;
@@ -38,8 +29,12 @@ class CTestFolder {
   CTestFolder(const CTestFolder&) = delete;
   CTestFolder& operator=(const CTestFolder&) = delete;
 
-  const std::string& Path() const { return m_path; }
   std::string operator/(const std::string& name) const { return m_path + "/" + name; }
+
+  Folders ProgramFolders() const {
+    return FindFolders([&](const std::string& name) { return *this / name; }, "/home",
+                       *this / "prefix/bin/orbisol");
+  }
 
  private:
   std::string m_path;
@@ -50,23 +45,13 @@ inline void PutFile(const std::string& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
 }
 
-// "(none)" where there is no file.
-inline std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return "(none)";
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 inline std::size_t FileCount(const std::string& folder) {
-  std::error_code error;
-  const std::filesystem::directory_iterator entries(folder, error);
-  return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+  return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
 }
 
-// The rights alone, as in 0640.
-inline unsigned RightsOf(const std::string& path) {
-  struct stat status;
-  return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777u : 0;
+// The text of a settings key.
+inline std::string KeyText(const std::string& lines) {
+  return "[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n" + lines;
 }
 
 }  // namespace orbisol

@@ -21,25 +21,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void SetVariable(const char* name, const std::string& value) {
-#ifdef _WIN32
-  _putenv_s(name, value.c_str());
-#else
-  setenv(name, value.c_str(), 1);
-#endif
-}
+void SetVariable(const char* name, const std::string& value) { setenv(name, value.c_str(), 1); }
 
-void DropVariable(const char* name) {
-#ifdef _WIN32
-  _putenv_s(name, "");
-#else
-  unsetenv(name);
-#endif
-}
-
-// The offscreen platform's own screen is 800 x 800, into which the main window does not fit.
+// The offscreen platform's own screen is 800 x 800, into which the main window does not fit. The second one
+// stands right of the first and has another ratio.
 constexpr char kScreens[] = R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1920, "height": 1080,
-  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}, {"name": "two", "x": 1920, "y": 0, "width": 1920,
+  "height": 1080, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1.5}]})";
 
 class CPrivateFolders {
  public:
@@ -104,7 +92,7 @@ void ForgetTheDesktop() {
        {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "LANG", "LANGUAGE", "LC_CTYPE", "LC_TIME",
         "LC_MESSAGES", "LC_NUMERIC", "QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR",
         "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_PLUGIN_PATH"})
-    DropVariable(name);
+    unsetenv(name);
   SetVariable("LC_ALL", "C");
   SetVariable("TZ", "UTC0");
 }

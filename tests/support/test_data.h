@@ -1,6 +1,8 @@
 // Tables of tests/data/: words separated by blanks; a line that begins with '#' is a remark.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -8,10 +10,11 @@
 
 namespace orbisol {
 
-// The words of each line; empty when the file is missing, which the caller's count of rows finds.
+// The words of each line. A test whose file is missing fails.
 inline std::vector<std::vector<std::string>> DataRows(const std::string& fileName) {
   std::vector<std::vector<std::string>> rows;
   std::ifstream file(std::string(ORBISOL_TEST_DATA) + "/" + fileName);
+  EXPECT_TRUE(file.is_open()) << fileName;
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
     std::istringstream words(line);

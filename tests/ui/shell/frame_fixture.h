@@ -36,6 +36,9 @@ class FrameTest : public ::testing::Test {
         store("\"CalendarName\"=\"Calendar\"\n"),
         calendars(files) {
     Select(20240515);
+    WindowLayout layout;
+    layout.rightPaneShown = 1;
+    StoreLayout(layout);
   }
   ~FrameTest() override {
     frame.reset();
@@ -77,6 +80,9 @@ class FrameTest : public ::testing::Test {
     return nullptr;
   }
 
+  void StoreLayout(const WindowLayout& layout) {
+    store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(layout))}});
+  }
   WindowLayout Stored() {
     WindowLayout layout;
     if (const auto bytes = BinaryOf(*store.Read(), "WindowLayout")) LayoutFromBytes(*bytes, layout);
