@@ -1,17 +1,19 @@
 #include "platform/single_instance.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <array>
+#include <cctype>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
-#include <optional>
 #include <thread>
 
 namespace orbisol {
@@ -20,9 +22,20 @@ namespace {
 constexpr int kAttempts = 40;  // the first may hold the lock and not listen yet
 constexpr std::chrono::milliseconds kPause(25);
 
-bool IsOwnFolder(const std::string& path) {
+constexpr std::size_t kLongestToken = 4096;
+constexpr int kTokenWait = 100;  // milliseconds
+
+// What is cleared out of runtime folders spares files with this bit.
+constexpr mode_t kLockMode = 01600;
+
+std::string Variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? std::string() : value;
+}
+
+bool IsOwnFolder(const std::string& path, unsigned user) {
   struct stat status;
-  return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == getuid() &&
+  return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == user &&
          (status.st_mode & 077) == 0;
 }
 
@@ -37,8 +50,8 @@ std::optional<sockaddr_un> AddressOf(const std::string& path) {
 
 int NewSocket() { return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
 
-// Whether somebody listens there. The call itself is the message.
-bool Call(const std::string& path) {
+// Whether somebody listens there. The call itself is the message; the token comes with it where it can.
+bool Call(const std::string& path, const std::string& token) {
   const auto address = AddressOf(path);
   if (!address) return false;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
@@ -48,6 +61,7 @@ bool Call(const std::string& path) {
         connect(descriptor, reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0;
     // A full queue is full of calls: the first program knows already.
     const bool isQueueFull = !isHeard && errno == EAGAIN;
+    if (isHeard) send(descriptor, token.data(), token.size(), MSG_NOSIGNAL);
     close(descriptor);
     if (isHeard || isQueueFull) return true;
     std::this_thread::sleep_for(kPause);
@@ -55,30 +69,57 @@ bool Call(const std::string& path) {
   return false;
 }
 
-}  // namespace
-
-std::string RuntimeFolder() {
-  const char* const given = std::getenv("XDG_RUNTIME_DIR");
-  if (given != nullptr && given[0] == '/' && IsOwnFolder(given)) return given;
-  const char* const temporary = std::getenv("TMPDIR");
-  const std::string folder = std::string(temporary != nullptr && temporary[0] == '/' ? temporary : "/tmp") +
-                             "/orbisol-" + std::to_string(getuid());
-  mkdir(folder.c_str(), 0700);
-  return IsOwnFolder(folder) ? folder : std::string();
+// What a caller says before it hangs up.
+std::string Hear(int caller) {
+  std::string text;
+  std::array<char, 512> piece{};
+  pollfd waiting{caller, POLLIN, 0};
+  while (text.size() < kLongestToken && poll(&waiting, 1, kTokenWait) > 0) {
+    const ssize_t length = recv(caller, piece.data(), piece.size(), MSG_DONTWAIT);
+    if (length <= 0) break;
+    text.append(piece.data(), static_cast<std::size_t>(length));
+  }
+  return text;
 }
 
-CSingleInstance::CSingleInstance(const std::string& folder) {
-  if (folder.empty()) return;
-  m_lock = open((folder + "/orbisol.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+}  // namespace
+
+std::string FindRuntimeFolder(const std::function<std::string(const char* name)>& variable, unsigned user) {
+  const std::string given = variable("XDG_RUNTIME_DIR");
+  if (given.starts_with('/') && IsOwnFolder(given, user)) return given;
+  const std::string temporary = variable("TMPDIR");
+  const std::string folder =
+      (temporary.starts_with('/') ? temporary : "/tmp") + "/orbisol-" + std::to_string(user);
+  mkdir(folder.c_str(), 0700);
+  return IsOwnFolder(folder, user) ? folder : std::string();
+}
+
+std::string RuntimeFolder() { return FindRuntimeFolder(Variable, getuid()); }
+
+std::string DisplayName() {
+  std::string name = Variable("WAYLAND_DISPLAY");
+  if (name.empty()) name = Variable("DISPLAY");
+  for (char& c : name)
+    if (std::isalnum(static_cast<unsigned char>(c)) == 0 && c != '-') c = '_';
+  return name;
+}
+
+std::string ActivationToken() { return Variable("XDG_ACTIVATION_TOKEN"); }
+
+CSingleInstance::CSingleInstance(const InstancePlace& place) {
+  if (place.folder.empty()) return;
+  const std::string base = place.folder + "/orbisol" + (place.display.empty() ? "" : "-" + place.display);
+  m_lock = open((base + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
   if (m_lock < 0) return;
-  const std::string path = folder + "/orbisol.socket";
+  const std::string path = base + ".socket";
   if (flock(m_lock, LOCK_EX | LOCK_NB) == 0) {
+    fchmod(m_lock, kLockMode);
     if (Listen(path)) m_path = path;
   } else {
     const bool isHeld = errno == EWOULDBLOCK;
     close(m_lock);
     m_lock = -1;
-    m_isSecond = isHeld && Call(path);
+    m_isSecond = isHeld && Call(path, place.token);
   }
 }
 
@@ -104,18 +145,18 @@ bool CSingleInstance::Listen(const std::string& path) {
   return false;
 }
 
-bool CSingleInstance::TakeCalls() {
-  bool wasCalled = false;
+std::optional<std::string> CSingleInstance::TakeCall() {
+  std::optional<std::string> token;
   while (m_socket >= 0) {
     const int caller = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
     if (caller < 0) {
       if (errno == EINTR || errno == ECONNABORTED) continue;
       break;
     }
+    token = Hear(caller);
     close(caller);
-    wasCalled = true;
   }
-  return wasCalled;
+  return token;
 }
 
 }  // namespace orbisol

@@ -17,8 +17,8 @@ constexpr bool ById(const Entry& a, const Entry& b) { return a.id < b.id; }
 
 constexpr Entry kStrings[] = {
     {kCmdQuit, u"Quitter le programme\nQuitter"},
-    {131, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
-    {132, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
+    {kTextPrevious, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
+    {kTextNext, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
     {135, u"Installation incorrecte - réinstallez le programme."},
     {137,
      u"À date fixe|Relatif à Pâques romain|Relatif à Pâques orthodoxe|Jour semaine donné|"
@@ -34,12 +34,12 @@ constexpr Entry kStrings[] = {
     {kCmdTogglePane, u"Afficher le volet droit\nAfficher le volet droit"},
     {kCmdEditEvents, u"Définir les jours fériés et les événements personnels\nSaisir les événements"},
     {kCmdPreferences, u"Définir les préférences de dates et d'affichage\nPropriétés"},
-    {280, u"%d AUC | %d av. JC"},
-    {281, u"Nouvelle lune"},
+    {kTextEras, u"%d AUC | %d av. JC"},
+    {kTextNewMoon, u"Nouvelle lune"},
     {282, u"Premier quartier de lune"},
     {283, u"Pleine lune"},
     {284, u"Dernier quartier de lune"},
-    {295, u"s."},
+    {kTextWeek, u"s."},
     {297,
      u"Couleur du texte d'en-tête|Couleur du fond d'en-tête|Couleur de jour normal|Couleur d'arrière-plan|"
      u"Couleur du jour férié|Couleur d'arrière-plan du jour férié|Couleur du jour de l'événement|"
@@ -92,7 +92,7 @@ constexpr Entry kStrings[] = {
     {kTextKeepDate, u"Retenir la date affichée|Oublier la date retenue"},
     {kTextConverterNames,
      u"Jour républicain|Mois républicain|Année républicaine|Date retenue|Écart en jours"},
-    {kTextCivilYearStart, u"Année civile débutant le %d %s"},
+    {kTextCivilYearStart, u"Année civile débutant le %d %s|Année civile débutant le 1er %s"},
     {kTextDayCounts, u"%d • %d"},
     {kTextWeekAndDayCounts, u"[%s %d] %d • %d"},
     {kTextHeaderNames, u"Navigation|Mois précédent|Mois suivant|Mois : %s|Année : %d|Année"},

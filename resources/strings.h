@@ -7,8 +7,14 @@
 
 namespace orbisol {
 
-// Our own entries, beside the numbers that commands and controls share with their texts.
+// The entries that have no command or control of the same number.
 enum TextId : int {
+  kTextPrevious = 131,  // tips of the header's arrows
+  kTextNext = 132,
+  kTextEras = 280,     // of a year before the first
+  kTextNewMoon = 281,  // the other phases follow
+  kTextWeek = 295,
+
   kTextFrenchMonths = 5001,
   kTextFrenchMonthAbbrevs = 5002,
   kTextFrenchWeekdays = 5003,
@@ -38,7 +44,7 @@ enum TextId : int {
   kTextProlepticGregorian = 5116,
   kTextKeepDate = 5117,        // tool tips of the button that remembers a date: not pressed, pressed
   kTextConverterNames = 5118,  // accessible names: day, month, year, date remembered, difference
-  kTextCivilYearStart = 5120,
+  kTextCivilYearStart = 5120,  // by day and month, by month for its first day
   kTextDayCounts = 5121,
   kTextWeekAndDayCounts = 5122,
   kTextHeaderNames = 5123,  // accessible: header, previous, next, month, year, year editor

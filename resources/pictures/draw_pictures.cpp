@@ -1,7 +1,7 @@
 // Draws the built-in pictures: the moon's glyphs and the default background.
 //
-//   cmake --build build/release --target orbisol_draw_pictures
-//   build/release/resources/pictures/orbisol_draw_pictures resources/pictures
+//   cmake --build build/dev --target orbisol_draw_pictures
+//   build/dev/resources/pictures/orbisol_draw_pictures resources/pictures
 //
 // The same pictures come out at every run; commit them beside a change made here.
 
@@ -33,17 +33,18 @@ QPainterPath Disc(double radius) {
 // One glyph at the painter's origin. The lit part runs from the left edge to the right one between two
 // fractions of the disc's width.
 void DrawMoon(QPainter& painter, double litFrom, double litTo) {
-  constexpr double kRadius = 20.5;
+  constexpr double kRadius = 22;
+  constexpr double kRim = 4;  // in the smallest glyph, of eight pixels, two thirds of one
   // A breath of light around the rim parts the dark disc from a dark picture behind it.
   QColor halo = kLight;
   halo.setAlphaF(0.75F);
-  painter.fillPath(Disc(kRadius + 2.5), halo);
-  painter.fillPath(Disc(kRadius + 1), kSlate);
+  painter.fillPath(Disc(kRadius + 1.5), halo);
+  painter.fillPath(Disc(kRadius), kSlate);
 
   const QRectF lit(kGlyph * litFrom, 0, kGlyph * (litTo - litFrom), kGlyph);
   painter.save();
   painter.setClipRect(lit);
-  painter.fillPath(Disc(kRadius - 1), kLight);
+  painter.fillPath(Disc(kRadius - kRim), kLight);
   painter.restore();
 }
 
@@ -86,10 +87,11 @@ double Noise(int x, int y, int channel) {
   return ((n ^ (n >> 15)) & 0xFFFFU) / 65536.0;
 }
 
-// How strongly a point lies on an orbit: an ellipse around the sun, `radius` wide, half as flat, with soft
-// edges.
+// How strongly a point lies on an orbit: an ellipse around the sun, flattened, with soft edges. Its half axis
+// across is `radius` long.
 double OnOrbit(double x, double y, double sunX, double sunY, double radius, double width) {
-  const double distance = std::hypot(x - sunX, (y - sunY) * 1.35) - radius;
+  constexpr double kFlattening = 1.35;  // width by height
+  const double distance = std::hypot(x - sunX, (y - sunY) * kFlattening) - radius;
   return std::exp(-0.5 * (distance / width) * (distance / width));
 }
 

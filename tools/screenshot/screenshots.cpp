@@ -95,7 +95,7 @@ void DragFromSelected(CMonthWindow& window, PackedDate to) {
   send(QEvent::MouseMove, middle(window.Month().CellOf(end.month, end.day)), Qt::NoButton);
 }
 
-// The program as it opens on a fresh machine in France, `prepare` done to it.
+// The program as it opens on a fresh machine in France, its pane shown, `prepare` done to it.
 struct WindowPicture {
   const char* name;
   PackedDate date;
@@ -173,6 +173,9 @@ bool SaveWindow(const WindowPicture& picture, const std::string& france, const Q
   files.Put(u"/share/Legals/France.xml", france);
   CCalendarStore calendars(files);
   const QPalette theme = QApplication::palette();
+  WindowLayout layout;
+  layout.rightPaneShown = 1;
+  store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(layout))}});
   CCalendarFrame frame({store, calendars, {u"fr", u"FR"}});
   frame.Open();
   frame.activateWindow();

@@ -1,26 +1,23 @@
-// One line of plain text that takes the room it is given and is cut at its end, with an ellipsis, where it is
-// longer.
+// One line of plain text that takes the room it is given. Where it is longer it is cut at its end, with an
+// ellipsis, and its tip says it whole.
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
 namespace orbisol {
 
-class CElidedLabel : public QWidget {
+class CElidedLabel : public QLabel {
  public:
   explicit CElidedLabel(QWidget* parent = nullptr);
 
-  void SetText(const QString& text);
-  const QString& Text() const { return m_text; }
-
-  QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QString m_text;
+  bool IsCut() const;
 };
 
 }  // namespace orbisol

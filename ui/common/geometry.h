@@ -1,12 +1,21 @@
-// Places on their way to the toolkit.
+// Places on their way to the toolkit, and back.
 #pragma once
 
+#include <QPointF>
 #include <QRect>
+
+#include <cmath>
 
 #include "core/rect.h"
 
 namespace orbisol {
 
 inline QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
+
+// The pixel in which a position lies, as an event has it; on a screen of a fractional ratio that is often
+// none of its corners.
+inline QPoint Cut(const QPointF& position) {
+  return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
+}
 
 }  // namespace orbisol

@@ -1,7 +1,6 @@
 #include "ui/common/plain_text.h"
 
 #include <QStringList>
-#include <QTextDocument>
 
 #include <algorithm>
 
@@ -36,7 +35,8 @@ QString TipMarkup(const QString& plain) {
   const QStringList lines = plain.split(QLatin1Char('\n'));
   const bool isShort = std::all_of(lines.begin(), lines.end(),
                                    [](const QString& line) { return line.size() <= kLongestLine; });
-  return Qt::convertFromPlainText(plain, isShort ? Qt::WhiteSpacePre : Qt::WhiteSpaceNormal);
+  const QString markup = plain.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+  return QLatin1String(isShort ? "<p style='white-space:pre'>" : "<p>") + markup + QLatin1String("</p>");
 }
 
 QString GroupedNumber(long long number) {

@@ -43,9 +43,10 @@ class CDrawnIcon : public QIconEngine {
     const int side = qMin(size.width(), size.height());
     if (side <= 0) return {};
     const QColor ink = Ink(mode);
-    const QString cached = QStringLiteral("orbisol-%1-%2-%3-%4")
+    const QString cached = QStringLiteral("orbisol-%1-%2-%3-%4-%5")
                                .arg(m_name)
                                .arg(ink.rgba())
+                               .arg(mode == QIcon::Disabled)
                                .arg(size.width())
                                .arg(size.height());
     QPixmap pixmap;
@@ -73,7 +74,9 @@ class CDrawnIcon : public QIconEngine {
 
   QPixmap Draw(const QSize& size, int side, const QColor& ink, bool isDisabled) const {
     const QColor accent = ink.lightnessF() > 0.5F ? QColor(kLightAccent) : QColor(kAccent);
-    QByteArray drawing = side % kSmallGrid == 0 ? Drawing(m_name + QStringLiteral("-16")) : Drawing(m_name);
+    QByteArray drawing;
+    if (side % kSmallGrid == 0) drawing = Drawing(m_name + QStringLiteral("-16"));
+    if (drawing.isEmpty()) drawing = Drawing(m_name);
     drawing.replace(kInk, ink.name().toLatin1());
     drawing.replace(kAccent, (isDisabled ? ink : accent).name().toLatin1());
 

@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "settings/display_settings.h"
+#include "ui/common/colors.h"
 #include "ui/common/keys.h"
-#include "ui/month/month_painter.h"
 
 namespace orbisol {
 
@@ -25,14 +25,23 @@ CHeaderPart::CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::Key
 
 void CHeaderPart::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) {
-    m_press(m_part, event->modifiers());
+    // Held, it steps with the arrows; it would open and close the menu again and again.
+    const bool isArrow = m_part == HeaderPart::kPrevious || m_part == HeaderPart::kNext;
+    if (isArrow || !event->isAutoRepeat()) m_press(m_part, event->modifiers());
   } else if (event->key() == Qt::Key_Left) {
-    focusPreviousChild();
+    FocusNeighbor(-1);
   } else if (event->key() == Qt::Key_Right) {
-    focusNextChild();
+    FocusNeighbor(1);
   } else {
     QAbstractButton::keyPressEvent(event);
   }
+}
+
+// From the first part to the left and from the last to the right there is none.
+void CHeaderPart::FocusNeighbor(int step) {
+  const auto parts = parentWidget()->findChildren<CHeaderPart*>(QString(), Qt::FindDirectChildrenOnly);
+  const qsizetype place = parts.indexOf(this) + step;
+  if (place >= 0 && place < parts.size()) parts[place]->setFocus(Qt::TabFocusReason);
 }
 
 void CHeaderPart::focusInEvent(QFocusEvent* event) {

@@ -9,7 +9,8 @@
 
 namespace orbisol {
 
-// One part. It shows nothing but its focus; the mouse belongs to the header.
+// One part. It shows nothing but its focus; the mouse belongs to the header. The parts of a header are made
+// in their order from left to right.
 class CHeaderPart : public QAbstractButton {
   Q_OBJECT
 
@@ -24,6 +25,8 @@ class CHeaderPart : public QAbstractButton {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void FocusNeighbor(int step);
+
   HeaderPart m_part;
   std::function<void(HeaderPart, Qt::KeyboardModifiers)> m_press;
 };

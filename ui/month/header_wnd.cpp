@@ -21,45 +21,39 @@
 #include "resources/command_ids.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/common/colors.h"
 #include "ui/common/geometry.h"
 #include "ui/common/keys.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/header_part.h"
 #include "ui/month/month_fonts.h"
-#include "ui/month/month_painter.h"
+#include "ui/month/month_step.h"
+#include "ui/month/month_texts.h"
 #include "ui/month/year_edit.h"
 
 namespace orbisol {
 namespace {
 
-constexpr int kTextPrevious = 131;
-constexpr int kTextNext = 132;
-constexpr int kTextEras = 280;
-constexpr int kTextWeek = 295;
-
-// Pieces of kTextHeaderNames.
-enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
-
 constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
-
-QString MonthTitle(int month) { return ToQString(UpperFirst(MonthName(month))); }
 
 }  // namespace
 
-CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent)
-    : QWidget(parent), m_host(host), m_parts{}, m_year(new CYearEdit(this)) {
+CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent) : QWidget(parent), m_host(host) {
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(TablePiece(kTextHeaderNames, kNameHeader));
 
   const auto press = [this](HeaderPart part, Qt::KeyboardModifiers modifiers) { Press(part, modifiers); };
-  m_parts = {
-      new CHeaderPart(HeaderPart::kPrevious, press, this), new CHeaderPart(HeaderPart::kMonth, press, this),
-      new CHeaderPart(HeaderPart::kYear, press, this), new CHeaderPart(HeaderPart::kNext, press, this)};
-  m_parts[0]->setAccessibleName(TablePiece(kTextHeaderNames, kNamePrevious));
-  m_parts[0]->setAccessibleDescription(TableText(kTextPrevious));
-  m_parts[3]->setAccessibleName(TablePiece(kTextHeaderNames, kNameNext));
-  m_parts[3]->setAccessibleDescription(TableText(kTextNext));
+  // Made in the order of Tab: the editor comes behind the year.
+  m_previousPart = new CHeaderPart(HeaderPart::kPrevious, press, this);
+  m_monthPart = new CHeaderPart(HeaderPart::kMonth, press, this);
+  m_yearPart = new CHeaderPart(HeaderPart::kYear, press, this);
+  m_year = new CYearEdit(this);
+  m_nextPart = new CHeaderPart(HeaderPart::kNext, press, this);
+  m_previousPart->setAccessibleName(TablePiece(kTextHeaderNames, kNamePrevious));
+  m_previousPart->setAccessibleDescription(TableText(kTextPrevious));
+  m_nextPart->setAccessibleName(TablePiece(kTextHeaderNames, kNameNext));
+  m_nextPart->setAccessibleDescription(TableText(kTextNext));
 
   m_year->hide();
   m_year->setAccessibleName(TablePiece(kTextHeaderNames, kNameYearEditor));
@@ -71,9 +65,7 @@ CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent)
 
 bool CHeaderWnd::IsEditingYear() const { return m_year->isVisible(); }
 
-QString CHeaderWnd::TitleText() const {
-  return m_monthName + QLatin1Char(' ') + QString::number(m_shownYear);
-}
+QString CHeaderWnd::TitleText() const { return MonthAndYear(m_monthName, m_shownYear); }
 
 QString CHeaderWnd::LeftText() const { return ToQString(LongDate(Selected(), false)); }
 
@@ -94,7 +86,10 @@ QString CHeaderWnd::CivilYearText() const {
   constexpr int kFirstOfJanuary = 101;
   const int start = CivilYearStartDay(Selected());
   if (start == kFirstOfJanuary) return {};
-  return TableText(kTextCivilYearStart, {start % 100, MonthName(start / 100)});
+  const std::u16string month = MonthName(start / 100);
+  const std::u16string_view texts = StringText(kTextCivilYearStart);
+  return ToQString(start % 100 == 1 ? FormatText(Piece(texts, u'|', 1), {month})
+                                    : FormatText(Piece(texts, u'|', 0), {start % 100, month}));
 }
 
 void CHeaderWnd::Refresh() {
@@ -147,8 +142,10 @@ void CHeaderWnd::LayOut() {
   m_layout = HeaderLayout(measures);
 
   m_year->setGeometry(ToQRect(m_layout.yearEditor));
-  const Rect* const places[] = {&m_layout.previous, &m_layout.month, &m_layout.year, &m_layout.next};
-  for (std::size_t i = 0; i < m_parts.size(); ++i) m_parts[i]->setGeometry(ToQRect(*places[i]));
+  m_previousPart->setGeometry(ToQRect(m_layout.previous));
+  m_monthPart->setGeometry(ToQRect(m_layout.month));
+  m_yearPart->setGeometry(ToQRect(m_layout.year));
+  m_nextPart->setGeometry(ToQRect(m_layout.next));
   UpdateNames();
 }
 
@@ -156,12 +153,12 @@ void CHeaderWnd::LayOut() {
 void CHeaderWnd::UpdateNames() {
   const std::u16string month = UpperFirst(MonthName(Selected().month));
   setAccessibleDescription(LeftText() + QLatin1Char('\n') + RightText());
-  m_parts[1]->setAccessibleName(
+  m_monthPart->setAccessibleName(
       ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameMonth), {month})));
-  m_parts[2]->setAccessibleName(
+  m_yearPart->setAccessibleName(
       ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameYear), {CivilYearOf(Selected())})));
-  m_parts[1]->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
-  m_parts[2]->setAccessibleDescription(YearTip());
+  m_monthPart->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
+  m_yearPart->setAccessibleDescription(YearTip());
 }
 
 void CHeaderWnd::paintEvent(QPaintEvent*) {
@@ -211,7 +208,7 @@ void CHeaderWnd::changeEvent(QEvent* event) {
 
 QString CHeaderWnd::YearTip() const {
   QStringList lines{ToQString(CenturyText(CivilYearOf(Selected())))};
-  lines << CivilYearText() << TablePiece(kTextHeaderTips, 1);
+  lines << EraText() << CivilYearText() << TablePiece(kTextHeaderTips, 1);
   lines.removeAll(QString());
   return lines.join(QLatin1Char('\n'));
 }
@@ -247,7 +244,7 @@ bool CHeaderWnd::event(QEvent* event) {
 }
 
 void CHeaderWnd::mouseMoveEvent(QMouseEvent* event) {
-  const QPoint point = event->position().toPoint();
+  const QPoint point = Cut(event->position());
   const bool isOnPart = m_layout.PartAt(point.x(), point.y()) != HeaderPart::kNone;
   setCursor(isOnPart ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
@@ -256,7 +253,7 @@ void CHeaderWnd::mouseMoveEvent(QMouseEvent* event) {
 void CHeaderWnd::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
-  const QPoint point = event->position().toPoint();
+  const QPoint point = Cut(event->position());
   const HeaderPart part = m_layout.PartAt(point.x(), point.y());
   if (event->button() == Qt::LeftButton) {
     if (part == HeaderPart::kNone) CloseYearEditor();
@@ -265,7 +262,7 @@ void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
              (part == HeaderPart::kPrevious || part == HeaderPart::kNext)) {
     CloseYearEditor();
     Selected().SetPacked(part == HeaderPart::kPrevious ? kFirstDateShown : kLastDateShown);
-    Changed();
+    Changed(DateMove::kLeap);
   }
 }
 
@@ -290,13 +287,9 @@ void CHeaderWnd::Step(bool isForward, Qt::KeyboardModifiers modifiers) {
   CloseYearEditor();
   const bool hasCtrl = modifiers & Qt::ControlModifier;
   const bool hasShift = modifiers & Qt::ShiftModifier;
-  const int sign = isForward ? 1 : -1;
-  if (hasCtrl || hasShift) {
-    StepYears(Selected(), sign * (hasCtrl && hasShift ? 100 : hasShift ? 10 : 1));
-  } else {
-    StepMonths(Selected(), sign);
-  }
-  Changed();
+  const int years = hasCtrl && hasShift ? 100 : hasShift ? 10 : hasCtrl ? 1 : 0;
+  StepMonthsOrYears(Selected(), isForward ? 1 : -1, years);
+  Changed(DateMove::kStep);
 }
 
 void CHeaderWnd::OpenMonthMenu() {
@@ -317,7 +310,7 @@ void CHeaderWnd::OpenMonthMenu() {
 void CHeaderWnd::SelectMonth(int month) {
   Selected().month = month;
   ClampToBounds(Selected());
-  Changed();
+  Changed(DateMove::kLeap);
 }
 
 void CHeaderWnd::OpenYearEditor() {
@@ -330,7 +323,7 @@ void CHeaderWnd::OpenYearEditor() {
 void CHeaderWnd::SetYear(int year) {
   SetCivilYear(Selected(), year);
   ClampToBounds(Selected());
-  Changed();
+  Changed(DateMove::kTyping);
 }
 
 void CHeaderWnd::CloseYearEditor() {
@@ -340,7 +333,8 @@ void CHeaderWnd::CloseYearEditor() {
 void CHeaderWnd::YearEditorClosed(bool byEnter) {
   if (!IsEditingYear()) return;
   const QSignalBlocker closesOnce(m_year);  // losing the focus closes it too
-  const bool hadFocus = m_year->hasFocus();
+  // In its window, which may have lost the focus as a whole.
+  const bool hadFocus = window()->focusWidget() == m_year;
   // Enter means "today" in the month below: until the key is up its repetitions end here.
   m_isEnterDown = byEnter && hadFocus;
   if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
@@ -354,7 +348,7 @@ void CHeaderWnd::GiveFocusBack() {
   if (m_focusBefore && m_focusBefore->isVisible()) {
     m_focusBefore->setFocus(Qt::OtherFocusReason);
   } else {
-    m_parts[2]->setFocus(Qt::OtherFocusReason);
+    m_yearPart->setFocus(Qt::OtherFocusReason);
   }
 }
 
@@ -380,9 +374,9 @@ void CHeaderWnd::keyReleaseEvent(QKeyEvent* event) {
   QWidget::keyReleaseEvent(event);
 }
 
-void CHeaderWnd::Changed() {
+void CHeaderWnd::Changed(DateMove move) {
   Refresh();
-  if (m_host) m_host->OnHeaderDateChanged();
+  if (m_host) m_host->OnHeaderDateChanged(move);
 }
 
 }  // namespace orbisol

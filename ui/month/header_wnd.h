@@ -14,8 +14,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <array>
-
+#include "ui/month/date_move.h"
 #include "ui/month/header_layout.h"
 
 namespace orbisol {
@@ -27,7 +26,7 @@ struct HeaderHost {
   virtual ~HeaderHost() = default;
 
   // The selected date was changed by the user's hand, in the header.
-  virtual void OnHeaderDateChanged() = 0;
+  virtual void OnHeaderDateChanged(DateMove move) = 0;
 };
 
 class CHeaderWnd : public QWidget {
@@ -75,7 +74,7 @@ class CHeaderWnd : public QWidget {
   void SetYear(int year);
   void YearEditorClosed(bool byEnter);
   void GiveFocusBack();
-  void Changed();
+  void Changed(DateMove move);
   QString YearTip() const;
   QString TipAt(QPoint position, QRect* area) const;
   void UpdateNames();
@@ -86,7 +85,10 @@ class CHeaderWnd : public QWidget {
   int m_band = 0;  // height of the bands
   QString m_monthName;
   int m_shownYear = 0;  // as the title shows it
-  std::array<CHeaderPart*, 4> m_parts;
+  CHeaderPart* m_previousPart;
+  CHeaderPart* m_monthPart;
+  CHeaderPart* m_yearPart;
+  CHeaderPart* m_nextPart;
   CYearEdit* m_year;
   QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
   bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet

@@ -9,17 +9,11 @@
 #include "settings/display_settings.h"
 #include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
-#include "ui/month/month_fonts.h"
+#include "ui/month/month_texts.h"
 #include "ui/month/tip_text.h"
 
 namespace orbisol {
 namespace {
-
-constexpr int kTextWeek = 295;  // "s."
-
-// Pieces of kTextHeaderNames, by which the arrows of the header are called too.
-constexpr int kNamePrevious = 1;
-constexpr int kNameNext = 2;
 
 const DayCell& CellIn(const MonthModel& month, int cell) {
   return month.cells[static_cast<std::size_t>(cell)];
@@ -74,8 +68,7 @@ void* CMonthAccessible::interface_cast(QAccessible::InterfaceType type) {
 QString CMonthAccessible::text(QAccessible::Text kind) const {
   if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
   const Date& selected = Selected();
-  return ToQString(UpperFirst(MonthName(selected.month))) + QLatin1Char(' ') +
-         QString::number(CivilYearOf(selected));
+  return MonthAndYear(MonthTitle(selected.month), CivilYearOf(selected));
 }
 
 QAccessible::State CMonthAccessible::state() const {
@@ -84,38 +77,28 @@ QAccessible::State CMonthAccessible::state() const {
   return state;
 }
 
-int CMonthAccessible::ShownColumns() const {
-  return Window().Places().showWeekNumber ? kAllColumns : kColumns;
-}
-
 int CMonthAccessible::IndexOfCell(int cell) const {
-  const MonthLayout& places = Window().Places();
-  return IndexOf(places.RowOf(cell), places.ColumnOf(cell));
+  const int index = cell - Window().Places().firstCell;
+  return cell == kNoCell || index >= kDayPlaces ? -1 : index;
 }
 
-CMonthItem* CMonthAccessible::Item(int row, int column) const {
-  if (row < 0 || row >= kAllRows || column < 0 || column >= ShownColumns()) return nullptr;
-  QAccessible::Id& id = m_ids[static_cast<std::size_t>(row) * kAllColumns + static_cast<std::size_t>(column)];
-  if (id == 0) id = QAccessible::registerAccessibleInterface(new CMonthItem(this, row, column));
+CMonthItem* CMonthAccessible::Item(int index) const {
+  if (index < 0 || index >= childCount()) return nullptr;
+  QAccessible::Id& id = m_ids[static_cast<std::size_t>(index)];
+  if (id == 0) id = QAccessible::registerAccessibleInterface(new CMonthItem(this, index));
   return static_cast<CMonthItem*>(QAccessible::accessibleInterface(id));
 }
 
-CMonthItem* CMonthAccessible::ItemOfCell(int cell) const {
-  const MonthLayout& places = Window().Places();
-  return cell == kNoCell ? nullptr : Item(places.RowOf(cell), places.ColumnOf(cell));
+int CMonthAccessible::childCount() const {
+  return Window().Places().showWeekNumber ? kMostChildren : kWeekTitle;
 }
 
-int CMonthAccessible::childCount() const { return kAllRows * ShownColumns(); }
-
-QAccessibleInterface* CMonthAccessible::child(int index) const {
-  if (index < 0) return nullptr;
-  return Item(index / ShownColumns(), index % ShownColumns());
-}
+QAccessibleInterface* CMonthAccessible::child(int index) const { return Item(index); }
 
 int CMonthAccessible::indexOfChild(const QAccessibleInterface* child) const {
   const auto* const item = dynamic_cast<const CMonthItem*>(child);
-  if (item == nullptr || item->parent() != this || item->Column() >= ShownColumns()) return -1;
-  return IndexOf(item->Row(), item->Column());
+  if (item == nullptr || item->parent() != this || item->Index() >= childCount()) return -1;
+  return item->Index();
 }
 
 QAccessibleInterface* CMonthAccessible::childAt(int x, int y) const {
@@ -123,9 +106,8 @@ QAccessibleInterface* CMonthAccessible::childAt(int x, int y) const {
   const MonthLayout& places = Window().Places();
   const int cell = places.CellAt(position.x(), position.y());
   if (cell != kNoCell) return ItemOfCell(cell);
-  for (int row = 0; row < kAllRows; ++row)
-    for (int column = row == 0 ? 0 : kColumns; column < ShownColumns(); ++column)
-      if (CMonthItem* const header = Item(row, column); header->rect().contains(x, y)) return header;
+  for (int index = kFirstName; index < childCount(); ++index)
+    if (CMonthItem* const header = Item(index); header->rect().contains(x, y)) return header;
   return nullptr;
 }
 
@@ -135,11 +117,13 @@ QAccessibleInterface* CMonthAccessible::focusChild() const {
 }
 
 QAccessibleInterface* CMonthAccessible::cellAt(int row, int column) const {
-  return column >= kColumns || row < 0 ? nullptr : Item(row + 1, column);
+  const bool isPlace = row >= 0 && row < kMostChildren && column >= 0 && column < kColumns;
+  CMonthItem* const item = isPlace ? Item(row * kColumns + column) : nullptr;
+  return item != nullptr ? item : Item(0);
 }
 
 QString CMonthAccessible::columnDescription(int column) const {
-  return column < 0 || column >= kColumns ? QString() : ColumnName(Window().Places(), column);
+  return column < 0 || column >= kColumns ? QString() : ColumnName(column, Window().Places().firstCell);
 }
 
 QString CMonthAccessible::rowDescription(int row) const {
@@ -170,9 +154,8 @@ void CMonthAccessible::Tell(MonthNews news) {
   const Date& selected = Selected();
   const PackedDate month = Pack(selected.year, selected.month, 1);
   const bool isOtherMonth = month != std::exchange(m_toldMonth, month);
-  const int columns = ShownColumns();
 
-  if (columns != std::exchange(m_toldColumns, columns)) {
+  if (const int children = childCount(); children != std::exchange(m_toldChildren, children)) {
     QAccessibleTableModelChangeEvent event(object(), QAccessibleTableModelChangeEvent::ModelReset);
     Emit(event);
   }
@@ -185,19 +168,16 @@ void CMonthAccessible::Tell(MonthNews news) {
     Emit(event);
     // Readers keep the names that they have asked for until they hear of others.
     Send(QAccessible::NameChanged, kTable);
-    for (int row = 0; row < kAllRows; ++row)
-      for (int column = 0; column < columns; ++column)
-        if (m_ids[static_cast<std::size_t>(row) * kAllColumns + static_cast<std::size_t>(column)] != 0)
-          Send(QAccessible::NameChanged, IndexOf(row, column));
+    for (int index = 0; index < childCount(); ++index)
+      if (m_ids[static_cast<std::size_t>(index)] != 0) Send(QAccessible::NameChanged, index);
   }
 
-  const MonthLayout& places = window.Places();
-  for (int cell = places.firstCell; cell < places.firstCell + kToolCount; ++cell) {
-    const auto bit = static_cast<std::size_t>(cell);
-    const bool isSelected = window.IsSelected(cell);
+  for (int index = 0; index < kDayPlaces; ++index) {
+    const auto bit = static_cast<std::size_t>(index);
+    const bool isSelected = window.IsSelected(window.Places().firstCell + index);
     if (isSelected == m_toldSelected[bit]) continue;
     m_toldSelected[bit] = isSelected;
-    Send(isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, IndexOfCell(cell));
+    Send(isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, index);
   }
 
   const int cell = window.SelectedCell();
@@ -208,9 +188,6 @@ void CMonthAccessible::Tell(MonthNews news) {
   if (isOtherMonth || cell == kNoCell) Send(QAccessible::Focus, kTable);
   if (cell != kNoCell) Send(QAccessible::Focus, IndexOfCell(cell));
 }
-
-CMonthItem::CMonthItem(const CMonthAccessible* table, int row, int column)
-    : m_table(table), m_row(row), m_column(column) {}
 
 void* CMonthItem::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::TableCellInterface) return static_cast<QAccessibleTableCellInterface*>(this);
@@ -223,24 +200,24 @@ QAccessibleInterface* CMonthItem::parent() const {
   return QAccessible::queryAccessibleInterface(m_table->object());
 }
 
-int CMonthItem::Cell() const {
-  return m_table->Window().Places().firstCell + (m_row - 1) * kColumns + m_column;
-}
+int CMonthItem::Cell() const { return m_table->Window().Places().firstCell + m_index; }
 
 const DayCell& CMonthItem::Day() const { return CellIn(m_table->Window().Month(), Cell()); }
 
+Rect CMonthItem::Place() const {
+  const MonthLayout& places = m_table->Window().Places();
+  if (IsWeek()) return places.WeekNumberRect(m_index - CMonthAccessible::kFirstWeek + 1);
+  if (m_index == CMonthAccessible::kWeekTitle) return places.WeekHeaderRect();
+  return IsHeader() ? places.NameRect(m_index - CMonthAccessible::kFirstName) : places.CellRect(Cell());
+}
+
 QRect CMonthItem::rect() const {
-  const CMonthWindow& window = m_table->Window();
-  const MonthLayout& places = window.Places();
-  const Rect rect = m_row == 0 ? m_column == kColumns ? places.WeekHeaderRect() : places.NameRect(m_column)
-                    : m_column == kColumns ? places.WeekNumberRect(m_row)
-                                           : places.CellRect(Cell());
-  return ToQRect(rect).translated(window.mapToGlobal(QPoint(0, 0)));
+  return ToQRect(Place()).translated(m_table->Window().mapToGlobal(QPoint(0, 0)));
 }
 
 QAccessible::Role CMonthItem::role() const {
-  if (m_row == 0) return QAccessible::ColumnHeader;
-  return m_column == kColumns ? QAccessible::RowHeader : QAccessible::Cell;
+  if (IsWeek()) return QAccessible::RowHeader;
+  return IsHeader() ? QAccessible::ColumnHeader : QAccessible::Cell;
 }
 
 QAccessible::State CMonthItem::state() const {
@@ -264,8 +241,9 @@ QAccessible::State CMonthItem::state() const {
 QString CMonthItem::text(QAccessible::Text kind) const {
   CMonthWindow& window = m_table->Window();
   if (kind == QAccessible::Name) {
-    if (m_row == 0) return m_column == kColumns ? TableText(kTextWeek) : m_table->columnDescription(m_column);
-    if (m_column == kColumns) return m_table->rowDescription(m_row - 1);
+    if (IsWeek()) return m_table->rowDescription(m_index - CMonthAccessible::kFirstWeek);
+    if (m_index == CMonthAccessible::kWeekTitle) return TableText(kTextWeek);
+    if (IsHeader()) return m_table->columnDescription(m_index - CMonthAccessible::kFirstName);
     return ToQString(TipText(Day(), false)).replace(QLatin1Char('\n'), QLatin1String(", "));
   }
   // Grey days: what is pressed there leads to another month.
@@ -277,23 +255,25 @@ QString CMonthItem::text(QAccessible::Text kind) const {
 bool CMonthItem::isSelected() const { return !IsHeader() && m_table->Window().IsSelected(Cell()); }
 
 QList<QAccessibleInterface*> CMonthItem::columnHeaderCells() const {
-  if (m_row == 0) return {};
-  return {m_table->Item(0, m_column)};
+  if (IsHeader()) return {};
+  return {m_table->Item(CMonthAccessible::kFirstName + columnIndex())};
 }
 
 QList<QAccessibleInterface*> CMonthItem::rowHeaderCells() const {
-  CMonthItem* const header = m_row == 0 || m_column == kColumns ? nullptr : m_table->Item(m_row, kColumns);
+  CMonthItem* const header = IsHeader() ? nullptr : m_table->Item(CMonthAccessible::kFirstWeek + rowIndex());
   if (header == nullptr) return {};
   return {header};
 }
 
 QStringList CMonthItem::actionNames() const {
   if (IsHeader() || Day().day == 0) return {};
-  return {pressAction()};
+  return {pressAction(), setFocusAction()};
 }
 
 void CMonthItem::doAction(const QString& name) {
-  if (name == pressAction() && !IsHeader()) m_table->Window().SelectCell(Cell());
+  if (!actionNames().contains(name)) return;
+  if (name == setFocusAction()) m_table->Window().setFocus(Qt::OtherFocusReason);
+  m_table->Window().SelectCell(Cell());
 }
 
 }  // namespace orbisol

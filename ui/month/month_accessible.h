@@ -48,14 +48,17 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
   QString text(QAccessible::Text kind) const override;
   QAccessible::State state() const override;
 
-  // The header row, then the weeks; each from left to right, its week number last.
+  // The days of the six weeks, each week from left to right; then the names of the weekdays; then, where they
+  // are shown, the title of the week numbers and the numbers.
   int childCount() const override;
   QAccessibleInterface* child(int index) const override;
   int indexOfChild(const QAccessibleInterface* child) const override;
   QAccessibleInterface* childAt(int x, int y) const override;
   QAccessibleInterface* focusChild() const override;
 
-  // Rows 0..5 and columns 0..6, days alone.
+  // Rows 0..5 and columns 0..6 are the days, and further rows are the other children, seven a row. Never
+  // nullptr, the first day for any other place: the toolkit takes what readers send for a place, and uses the
+  // answer unseen.
   QAccessibleInterface* cellAt(int row, int column) const override;
   int rowCount() const override { return kWeekRows; }
   int columnCount() const override { return kColumns; }
@@ -83,25 +86,26 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
  private:
   friend class CMonthItem;
 
-  // Places of the whole table, the headers included: row 0 has the names, column 7 the week numbers.
-  static constexpr int kAllRows = kWeekRows + 1;
-  static constexpr int kAllColumns = kColumns + 1;
+  // Children by their index.
+  static constexpr int kFirstName = kDayPlaces;
+  static constexpr int kWeekTitle = kFirstName + kColumns;
+  static constexpr int kFirstWeek = kWeekTitle + 1;
+  static constexpr int kMostChildren = kFirstWeek + kWeekRows;
 
   CMonthWindow& Window() const;
-  int ShownColumns() const;  // 8 with week numbers, else 7
-  int IndexOf(int row, int column) const { return row * ShownColumns() + column; }
+  // nullptr for one that is not shown.
+  CMonthItem* Item(int index) const;
+  // Of a cell of the model; -1 for kNoCell and for a cell below the six weeks.
   int IndexOfCell(int cell) const;
-  // nullptr for a place that is not shown.
-  CMonthItem* Item(int row, int column) const;
-  CMonthItem* ItemOfCell(int cell) const;
+  CMonthItem* ItemOfCell(int cell) const { return Item(IndexOfCell(cell)); }
   void Send(QAccessible::Event type, int index) const;
 
   // Made when first asked for, and kept: a place keeps its identity whatever month it shows.
-  mutable std::array<QAccessible::Id, kAllRows * kAllColumns> m_ids{};
+  mutable std::array<QAccessible::Id, kMostChildren> m_ids{};
 
-  std::bitset<kCellCount> m_toldSelected;
+  std::bitset<kDayPlaces> m_toldSelected;
   int m_toldCell = kNoCell;
-  int m_toldColumns = 0;
+  int m_toldChildren = 0;
   PackedDate m_toldMonth = 0;  // its first; 0: nothing told yet
 };
 
@@ -110,11 +114,9 @@ class CMonthItem : public QAccessibleInterface,
                    public QAccessibleTableCellInterface,
                    public QAccessibleActionInterface {
  public:
-  // As they are counted in the whole table.
-  CMonthItem(const CMonthAccessible* table, int row, int column);
+  CMonthItem(const CMonthAccessible* table, int index) : m_table(table), m_index(index) {}
 
-  int Row() const { return m_row; }
-  int Column() const { return m_column; }
+  int Index() const { return m_index; }
 
   void* interface_cast(QAccessible::InterfaceType type) override;
   bool isValid() const override { return m_table->isValid(); }
@@ -135,25 +137,26 @@ class CMonthItem : public QAccessibleInterface,
   bool isSelected() const override;
   QList<QAccessibleInterface*> columnHeaderCells() const override;
   QList<QAccessibleInterface*> rowHeaderCells() const override;
-  int columnIndex() const override { return m_column; }
-  int rowIndex() const override { return m_row - 1; }
+  int columnIndex() const override { return m_index % kColumns; }
+  int rowIndex() const override { return m_index / kColumns; }
   int columnExtent() const override { return 1; }
   int rowExtent() const override { return 1; }
   QAccessibleInterface* table() const override { return parent(); }
 
-  // A day is pressed as a click on it would.
+  // A day is pressed as a click on it would; it takes the focus by being selected.
   QStringList actionNames() const override;
   void doAction(const QString& name) override;
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
-  bool IsHeader() const { return m_row == 0 || m_column == kColumns; }
+  bool IsHeader() const { return m_index >= CMonthAccessible::kFirstName; }
+  bool IsWeek() const { return m_index >= CMonthAccessible::kFirstWeek; }
   int Cell() const;  // of the model; meant for days
   const DayCell& Day() const;
+  Rect Place() const;  // in the window
 
   const CMonthAccessible* m_table;
-  int m_row;
-  int m_column;
+  int m_index;
 };
 
 }  // namespace orbisol

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "core/date_text.h"
 #include "ui/common/plain_text.h"
+#include "ui/month/month_texts.h"
 
 namespace orbisol {
 namespace {
@@ -66,16 +66,12 @@ MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& sett
   fonts.italic = fonts.upright;
   fonts.italic.setItalic(true);
   QStringList names;
-  for (int column = 0; column < kColumns; ++column) names << ColumnName(layout, column);
+  for (int column = 0; column < kColumns; ++column) names << ColumnName(column, layout.firstCell);
   fonts.names = FontOfWidth(fonts.upright, names, layout.NameRect(0).Width());
   constexpr int kWeekMargin = 1;
   fonts.small = FontOfWidth(FontOfHeight(fonts.upright, layout.SmallFontHeight()), {QStringLiteral("00")},
                             layout.WeekNumberRect(1).Width() - 2 * kWeekMargin);
   return fonts;
-}
-
-QString ColumnName(const MonthLayout& layout, int column) {
-  return ToQString(UpperFirst(WeekdayName(column + layout.firstCell)));
 }
 
 }  // namespace orbisol

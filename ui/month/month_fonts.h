@@ -25,7 +25,4 @@ struct MonthFonts {
 MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& settings,
                           const QFont& dialogFont);
 
-// The name over a column, 0..6, its first letter in upper case.
-QString ColumnName(const MonthLayout& layout, int column);
-
 }  // namespace orbisol

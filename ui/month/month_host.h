@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/date.h"
+#include "ui/month/date_move.h"
 
 namespace orbisol {
 
@@ -10,7 +11,7 @@ struct MonthHost {
 
   // The selected date was changed by the user's hand. Comes after the event of a key, a click or the wheel
   // has been dealt with, and at once during a drag.
-  virtual void OnMonthDateChanged() = 0;
+  virtual void OnMonthDateChanged(DateMove move) = 0;
 
   // Days were dragged over, or selected with the keyboard: two at least, the earlier first.
   virtual void OpenPeriodEditor(const Date& from, const Date& to) = 0;

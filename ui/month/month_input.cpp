@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -9,12 +10,13 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <utility>
 
+#include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_accessible.h"
+#include "ui/month/month_step.h"
 #include "ui/month/month_window.h"
 #include "ui/month/tip_text.h"
 
@@ -27,14 +29,14 @@ constexpr PackedDate kRepublicanEpoch = 17920922;
 
 constexpr int kWheelStep = 120;                // eighths of a degree, a notch of an ordinary wheel
 constexpr int kMostTurned = 100 * kWheelStep;  // in one event; more is no wheel
-
-QPoint Cut(const QPointF& position) {
-  return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
-}
+constexpr quint64 kWheelPause = 1000;          // milliseconds after which a turn begins anew
 
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
+
+// Other keys that move the date name a day.
+bool IsStep(int key) { return IsArrow(key) || key == Qt::Key_PageUp || key == Qt::Key_PageDown; }
 
 }  // namespace
 
@@ -50,6 +52,11 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
     m_isDragging = false;
     return;
   }
+  // Alt belongs to the frame's own keys.
+  if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) {
+    event->ignore();
+    return;
+  }
   const bool extends = IsArrow(key) && (modifiers & Qt::ShiftModifier) && m_isRangeAllowed;
   const Date before = Selected();
   const bool hadRange = m_isRangeActive;
@@ -60,12 +67,11 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
   }
   ClampToBounds(Selected());
   if (hadRange && !extends && !m_isDragging) CancelRange();
-  Moved(before, kPosted);
+  Moved(before, IsStep(key) ? DateMove::kStep : DateMove::kLeap);
 }
 
-// False for a key that moves nothing. Alt belongs to the frame's own keys, as do letters with Ctrl.
+// False for a key that moves nothing, as letters with Ctrl, which belong to the frame.
 bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
-  if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return false;
   Date& date = Selected();
   const bool hasCtrl = modifiers & Qt::ControlModifier;
   switch (key) {
@@ -76,10 +82,10 @@ bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
       return true;
     }
     case Qt::Key_PageUp:
-      StepBack(hasCtrl);
+      StepMonthsOrYears(date, -1, hasCtrl ? 1 : 0);
       return true;
     case Qt::Key_PageDown:
-      StepForward(hasCtrl);
+      StepMonthsOrYears(date, 1, hasCtrl ? 1 : 0);
       return true;
     case Qt::Key_Home:
       date.SetPacked(kFirstDateShown);
@@ -121,22 +127,6 @@ bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
   }
 }
 
-void CMonthWindow::StepBack(bool byYear) {
-  if (byYear) {
-    StepYears(Selected(), -1);
-  } else {
-    StepMonths(Selected(), -1);
-  }
-}
-
-void CMonthWindow::StepForward(bool byYear) {
-  if (byYear) {
-    StepYears(Selected(), 1);
-  } else {
-    StepMonths(Selected(), 1);
-  }
-}
-
 // The key has done what the menu of the keyboard stands for; the mouse has no menu here.
 void CMonthWindow::contextMenuEvent(QContextMenuEvent* event) {
   event->setAccepted(event->reason() == QContextMenuEvent::Keyboard);
@@ -144,7 +134,12 @@ void CMonthWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void CMonthWindow::wheelEvent(QWheelEvent* event) {
   const int turned = std::clamp(event->angleDelta().y(), -kMostTurned, kMostTurned);
-  if (turned == 0) {
+  const int aside = std::clamp(event->angleDelta().x(), -kMostTurned, kMostTurned);
+  const bool byYear = event->modifiers() & Qt::ControlModifier;
+  const quint64 pause = event->timestamp() - std::exchange(m_wheelTime, event->timestamp());
+  if (event->phase() == Qt::ScrollBegin || pause > kWheelPause || byYear != m_isWheelByYear) m_wheelRest = 0;
+  m_isWheelByYear = byYear;
+  if (turned == 0 || std::abs(aside) > std::abs(turned)) {
     event->ignore();
     return;
   }
@@ -158,13 +153,8 @@ void CMonthWindow::wheelEvent(QWheelEvent* event) {
 
   const Date before = Selected();
   if (!m_isDragging) CancelRange();
-  const bool byYear = event->modifiers() & Qt::ControlModifier;
-  if (byYear) {
-    StepYears(Selected(), -steps);
-  } else {
-    for (int i = 0; i < std::abs(steps); ++i) StepMonths(Selected(), steps > 0 ? -1 : 1);
-  }
-  Moved(before, kPosted);
+  StepMonthsOrYears(Selected(), -steps, byYear ? 1 : 0);
+  Moved(before, DateMove::kStep);
 }
 
 void CMonthWindow::mousePressEvent(QMouseEvent* event) {
@@ -177,6 +167,8 @@ void CMonthWindow::mousePressEvent(QMouseEvent* event) {
   m_isPressed = true;
   const int cell = CellAt(Cut(event->position()));
   m_isDragging = cell != kNoCell;
+  m_pointedAt = cell;
+  m_waitsIn = kNoCell;
   if (cell != kNoCell) SelectCell(cell, event->modifiers() & Qt::ControlModifier);
 }
 
@@ -185,7 +177,7 @@ void CMonthWindow::SelectCell(int cell, bool byYear) {
   if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return;
   const Date before = Selected();
   TakeCell(cell, byYear);
-  Moved(before, kPosted);
+  Moved(before, DateMove::kLeap);
 }
 
 // Selects a cell's day. `byYear` turns a day of a neighbouring month into a step of a year.
@@ -202,14 +194,18 @@ void CMonthWindow::TakeCell(int cell, bool byYear) {
 
 void CMonthWindow::mouseMoveEvent(QMouseEvent* event) {
   if (!m_isDragging || !(event->buttons() & Qt::LeftButton)) return;
-  const int cell = CellAt(Cut(event->position()));
+  const QPoint point = Cut(event->position());
+  m_pointedAt = Places().CellAt(point.x(), point.y());
+  if (m_waitsIn != kNoCell && m_pointedAt == m_waitsIn) return;
+  m_waitsIn = kNoCell;
+  const int cell = CellAt(point);
   if (cell == kNoCell) return;
   const bool begins = m_isRangeAllowed && BeginRange();
   const Date before = Selected();
   TakeCell(cell, false);
   if (!begins && before.SameDay(Selected())) return;
   update();
-  Moved(before, kAtOnce);
+  Moved(before, DateMove::kStep, kAtOnce);
   if (before.month != Selected().month || before.year != Selected().year) PullPointer();
 }
 
@@ -235,23 +231,24 @@ void CMonthWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   if (cell == kNoCell || m_host == nullptr) return;
   UpdateCell(SelectedCell());
   if (Month().cells[static_cast<std::size_t>(cell)].month == Selected().month)
-    m_host->OpenEventsEditor(Selected());
+    m_host->OpenEventsEditor(Date(Selected()));
 }
 
-// The range selected with keys, else the selected day.
+// The range selected with keys, else the selected day. While an editor is open the selected date can move: it
+// gets one of its own.
 void CMonthWindow::OpenRangeOrDay() {
   const PackedDate anchor = m_anchor;
   CancelRange();
   if (anchor != 0 && !Date(anchor).SameDay(Selected())) {
     OpenRange(Date(anchor));
   } else if (m_host != nullptr) {
-    m_host->OpenEventsEditor(Selected());
+    m_host->OpenEventsEditor(Date(Selected()));
   }
 }
 
 // From the anchor to the selected date, or back; nothing for a single day.
 void CMonthWindow::OpenRange(const Date& anchor) {
-  const Date& selected = Selected();
+  const Date selected = Selected();
   if (m_host == nullptr || anchor.SameDay(selected)) return;
   const bool isForward = anchor.DayNumber() <= selected.DayNumber();
   const QPointer<CMonthWindow> alive(this);
@@ -274,8 +271,10 @@ void CMonthWindow::CancelRange() {
   TellReader(*this, MonthNews::kSelection);
 }
 
-// To the middle of the selected cell, where the settings want the pointer to stay on it.
+// To the middle of the selected cell, where the settings want the pointer to stay on it. Wayland lets nobody
+// move the pointer, and the toolkit would complain.
 void CMonthWindow::PullPointer() {
+  if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
   const int cell = SelectedCell();
   if (!Display().magnetMouse || cell == kNoCell) return;
   const Rect rect = Places().CellRect(cell);

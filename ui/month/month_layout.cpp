@@ -52,7 +52,9 @@ Rect MonthLayout::WeekNumberRect(int row) const {
   return {WeekNumbersLeft(), row * rowHeight, width - 1, (row + 1) * rowHeight};
 }
 
-// Where the columns of days are rounded up they reach a little into the part that is left for the numbers.
+// On purpose: not always at 28/29 of the width. Where the columns of days are rounded up they reach up to
+// three pixels into that part, and the numbers, which fill it, would be crossed by the line behind the
+// columns.
 int MonthLayout::WeekNumbersLeft() const {
   return std::max(MulDiv(28, width, 29), kColumns * columnWidth + lineScale);
 }
@@ -98,24 +100,21 @@ Rect MonthLayout::CircleRect(int cell) const {
 }
 
 Rect MonthLayout::FrameRect(int cell, int penWidth) const {
-  Rect frame = CellRect(cell).Shrunk(penWidth / 2);
-  // The last stroke of an odd width would leave the canvas by a pixel.
-  const int behind = penWidth - penWidth / 2;
-  frame.right = std::min(frame.right, width - behind);
-  frame.bottom = std::min(frame.bottom, height - behind);
+  Rect frame = CellRect(cell);
+  // The strokes follow the cell shrunk by half the pen. One of an odd width ends a pixel behind the cell, but
+  // never outside of the canvas.
+  frame.right = std::min(frame.right + penWidth % 2, width);
+  frame.bottom = std::min(frame.bottom + penWidth % 2, height);
   return frame;
 }
 
-std::vector<Rect> MonthLayout::FrameStrokes(Rect frame, int penWidth) {
-  // A stroke begins half its width before the line that it follows, and ends where it has its width.
-  const Rect outer = {frame.left - penWidth / 2, frame.top - penWidth / 2,
-                      frame.right - penWidth / 2 + penWidth, frame.bottom - penWidth / 2 + penWidth};
-  const Rect inner = outer.Shrunk(penWidth);
-  if (inner.Width() <= 0 || inner.Height() <= 0) return {outer};
-  return {{outer.left, outer.top, outer.right, inner.top},
-          {outer.left, inner.bottom, outer.right, outer.bottom},
-          {outer.left, inner.top, inner.left, inner.bottom},
-          {inner.right, inner.top, outer.right, inner.bottom}};
+std::vector<Rect> MonthLayout::FrameStrokes(const Rect& frame, int thickness) {
+  const Rect inner = frame.Shrunk(thickness);
+  if (inner.Width() <= 0 || inner.Height() <= 0) return {frame};
+  return {{frame.left, frame.top, frame.right, inner.top},
+          {frame.left, inner.bottom, frame.right, frame.bottom},
+          {frame.left, inner.top, inner.left, inner.bottom},
+          {inner.right, inner.top, frame.right, inner.bottom}};
 }
 
 Rect MonthLayout::DirtyRect(int cell) const {

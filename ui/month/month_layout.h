@@ -18,7 +18,7 @@ namespace orbisol {
 
 constexpr int kColumns = 7;
 constexpr int kWeekRows = 6;
-constexpr int kToolCount = kColumns * kWeekRows;  // areas with a tool tip, one a cell
+constexpr int kDayPlaces = kColumns * kWeekRows;
 
 struct MonthLayout {
   int width = 0;
@@ -66,15 +66,13 @@ struct MonthLayout {
   // high.
   Rect GlyphRect(int cell, int textWidth, int textHeight) const;
 
-  Rect CircleRect(int cell) const;                                  // the ellipse of the active day
-  Rect FrameRect(int cell, int penWidth) const;                     // the middle of its frame's strokes
-  static std::vector<Rect> FrameStrokes(Rect frame, int penWidth);  // the four strokes of a frame
+  Rect CircleRect(int cell) const;               // the ellipse of the active day
+  Rect FrameRect(int cell, int penWidth) const;  // its frame by the outer edges of the strokes
+  // The strokes of a frame, in any unit: top, bottom, left, right; one where it is all stroke.
+  static std::vector<Rect> FrameStrokes(const Rect& frame, int thickness);
 
   // What is painted anew when the mark comes to a cell or leaves it.
   Rect DirtyRect(int cell) const;
-
-  // A cell by the number of its tool tip, 1..kToolCount, row by row.
-  int CellOfTool(int tool) const { return tool - 1 + firstCell; }
 
   // Heights of fonts, ascent and descent together.
   int FontHeight() const;

@@ -7,14 +7,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "resources/strings.h"
+#include "ui/common/colors.h"
 #include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_pictures.h"
+#include "ui/month/month_texts.h"
 
 namespace orbisol {
 namespace {
-
-constexpr int kTextWeek = 295;  // "s."
 
 // On one line in the middle of a rectangle; what is too wide is cut at both sides. Returns the rectangle of
 // the text.
@@ -35,14 +36,7 @@ QRect DrawCentred(QPainter& painter, const QRect& rect, const QString& text) {
   return box;
 }
 
-double DeviceRatio(const QPainter& painter) { return painter.device()->devicePixelRatio(); }
-
 }  // namespace
-
-QColor ToQColor(Color color) {
-  return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
-          static_cast<int>(color >> 16 & 0xFF)};
-}
 
 bool MonthMarks::IsInRange(const DayCell& cell) const {
   if (!hasRange || cell.day == 0) return false;
@@ -115,7 +109,7 @@ void CMonthPainter::PaintBackground(QPainter& painter) const {
     return;
   }
   // Whole device pixels from under the header to the edges, so that none is left out at a fractional ratio.
-  const double ratio = DeviceRatio(painter);
+  const double ratio = Ratio(painter);
   const int top = static_cast<int>(std::floor(rows.y() * ratio));
   const QSize size(static_cast<int>(std::ceil(m_layout.width * ratio)),
                    static_cast<int>(std::ceil(m_layout.height * ratio)) - top);
@@ -134,7 +128,7 @@ void CMonthPainter::PaintHeader(QPainter& painter) const {
   painter.setPen(ToQColor(m_settings.ColorAt(kHeaderTextColor)));
   painter.setFont(m_fonts.names);
   for (int column = 0; column < kColumns; ++column)
-    DrawCentred(painter, ToQRect(m_layout.NameRect(column)), ColumnName(m_layout, column));
+    DrawCentred(painter, ToQRect(m_layout.NameRect(column)), ColumnName(column, m_layout.firstCell));
   if (m_settings.showWeekNumber) {
     painter.setFont(m_fonts.small);
     DrawCentred(painter, ToQRect(m_layout.WeekHeaderRect()), TableText(kTextWeek));
@@ -143,17 +137,22 @@ void CMonthPainter::PaintHeader(QPainter& painter) const {
 
 void CMonthPainter::PaintGrid(QPainter& painter) const {
   const int thin = m_layout.lineScale;
-  // The closing lines lie just outside of the canvas; drawn at its edge they are seen.
+  // On purpose: the closing lines lie just outside of the canvas; drawn at its edge they are seen.
   for (const int x : m_layout.VerticalLines(m_settings.grid))
     FillLine(painter, {std::min(x, m_layout.width - thin), 0, thin, m_layout.height});
   for (const int y : m_layout.HorizontalLines(m_settings.grid))
     FillLine(painter, {0, std::min(y, m_layout.height - thin), m_layout.width, thin});
 }
 
+// Device pixels a unit of the layout; a printer's unit is its pixel.
+double CMonthPainter::Ratio(const QPainter& painter) const {
+  return m_medium == kScreen ? painter.device()->devicePixelRatio() : 1;
+}
+
 // A thin line of the grid. It is whole device pixels wide at every ratio, so that none is thicker than its
 // neighbour.
 void CMonthPainter::FillLine(QPainter& painter, const QRect& line) const {
-  const double ratio = m_medium == kScreen ? DeviceRatio(painter) : 1;
+  const double ratio = Ratio(painter);
   const auto snapped = [&](int position) { return std::round(position * ratio) / ratio; };
   const auto thickness = [&](int size) {
     return size > m_layout.lineScale ? size : std::max(1.0, std::floor(size * ratio)) / ratio;
@@ -207,7 +206,7 @@ void CMonthPainter::PaintMoon(QPainter& painter, int cell, MoonPhase phase) cons
     DrawMoonOnPaper(painter, square, phase, std::max(1.0, square.width() / 16.0));
     return;
   }
-  const double ratio = DeviceRatio(painter);
+  const double ratio = Ratio(painter);
   QImage& glyph = m_glyphs[static_cast<std::size_t>(phase)];
   if (glyph.isNull() || glyph.devicePixelRatio() != ratio) {
     glyph = MoonGlyph(phase, static_cast<int>(std::lround(square.width() * ratio)));
@@ -239,8 +238,16 @@ void CMonthPainter::PaintMark(QPainter& painter, int cell) const {
   const QColor color = ToQColor(m_settings.ColorAt(kCircleColor));
   const int pen = m_settings.CircleWidth();
   if (!m_settings.circleTheDay) {
-    for (const Rect& stroke : MonthLayout::FrameStrokes(m_layout.FrameRect(cell, pen), pen))
-      painter.fillRect(ToQRect(stroke), color);
+    // Whole device pixels, so that all four strokes have one thickness at every ratio.
+    const double ratio = Ratio(painter);
+    const auto snapped = [&](int edge) { return static_cast<int>(std::lround(edge * ratio)); };
+    const Rect frame = m_layout.FrameRect(cell, pen);
+    const Rect pixels = {snapped(frame.left), snapped(frame.top), snapped(frame.right),
+                         snapped(frame.bottom)};
+    for (const Rect& stroke : MonthLayout::FrameStrokes(pixels, std::max(1, snapped(pen))))
+      painter.fillRect(
+          QRectF(stroke.left / ratio, stroke.top / ratio, stroke.Width() / ratio, stroke.Height() / ratio),
+          color);
     return;
   }
   painter.save();

@@ -24,8 +24,6 @@ class QPainter;
 
 namespace orbisol {
 
-QColor ToQColor(Color color);
-
 // What is marked in a month.
 struct MonthMarks {
   int month = 0;  // of the selected date; with no such cell nothing is marked
@@ -52,7 +50,6 @@ class CMonthPainter {
 
   // Stretched over the rows; null for none, which leaves the plain background color.
   void SetBackground(const QImage& picture);
-  bool HasBackground() const { return !m_background.isNull(); }
 
   const MonthLayout& Layout() const { return m_layout; }
 
@@ -71,6 +68,7 @@ class CMonthPainter {
   void PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const;
   void PaintMark(QPainter& painter, int cell) const;
   void FillLine(QPainter& painter, const QRect& line) const;
+  double Ratio(const QPainter& painter) const;
 
   MonthLayout m_layout;
   DisplaySettings m_settings;

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/platform.h"
 #include "ui/common/geometry.h"
@@ -86,6 +87,12 @@ bool CMonthWindow::IsSelected(int cell) {
 }
 
 bool CMonthWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) {
+    // The timer is late after a sleep, and knows nothing of a journey to another time zone; whoever wakes the
+    // machine comes back to the window.
+    m_midnight.Restart();
+    CheckToday();
+  }
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     if (!ShowTip(help->pos(), help->globalPos())) event->ignore();
@@ -151,8 +158,6 @@ void CMonthWindow::changeEvent(QEvent* event) {
     LayOut();
     update();
   }
-  // After a sleep the timer is late; whoever wakes the machine comes back to the window.
-  if (event->type() == QEvent::ActivationChange) CheckToday();
   QWidget::changeEvent(event);
 }
 
@@ -174,9 +179,11 @@ void CMonthWindow::UpdateCell(int cell) {
 }
 
 // The selected date was `before` until a hand of this window changed it.
-void CMonthWindow::Moved(const Date& before, Report report) {
+void CMonthWindow::Moved(const Date& before, DateMove move, Report report) {
   const Date& selected = Selected();
-  if (before.year != selected.year || before.month != selected.month || m_isRangeActive) {
+  const bool isOtherMonth = before.year != selected.year || before.month != selected.month;
+  if (isOtherMonth && m_isDragging) m_waitsIn = m_pointedAt;
+  if (isOtherMonth || m_isRangeActive) {
     update();
   } else {
     UpdateCell(Month().CellOf(before.month, before.day));
@@ -186,20 +193,21 @@ void CMonthWindow::Moved(const Date& before, Report report) {
   TellReader(*this, MonthNews::kSelection);
   if (m_host == nullptr) return;
   if (report == kAtOnce) {
-    m_host->OnMonthDateChanged();
-  } else if (!m_isReportPending) {
-    m_isReportPending = true;
+    m_host->OnMonthDateChanged(move);
+    return;
+  }
+  if (!m_isReportPending || move == DateMove::kLeap) m_pendingMove = move;
+  if (!std::exchange(m_isReportPending, true))
     QMetaObject::invokeMethod(
         this,
         [this] {
           m_isReportPending = false;
-          m_host->OnMonthDateChanged();
+          m_host->OnMonthDateChanged(m_pendingMove);
         },
         Qt::QueuedConnection);
-  }
 }
 
-// Underlines another day when the date has changed, and waits for the next midnight.
+// Underlines another day when the date has changed.
 void CMonthWindow::CheckToday() {
   const PackedDate today = TodayPacked();
   if (today != m_today) update();

@@ -77,13 +77,11 @@ class CMonthWindow : public QWidget {
   void RenderCanvas(const QRegion& region);
   MonthMarks Marks();
   void UpdateCell(int cell);
-  void Moved(const Date& before, Report report);
+  void Moved(const Date& before, DateMove move, Report report = kPosted);
   void CheckToday();
 
   // Hands (month_input.cpp).
   bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
-  void StepBack(bool byYear);
-  void StepForward(bool byYear);
   void TakeCell(int cell, bool byYear);
   bool BeginRange();
   void CancelRange();
@@ -105,13 +103,19 @@ class CMonthWindow : public QWidget {
   bool m_isSelectionVisible = true;
   bool m_isStretched = false;
   bool m_isReportPending = false;
+  DateMove m_pendingMove = DateMove::kStep;  // a leap, if one of the moves not yet reported was
 
   bool m_isRangeAllowed = true;
   bool m_isRangeActive = false;
   PackedDate m_anchor = 0;    // where the range began; 0 is none
   bool m_isDragging = false;  // the left button went down on a day
   bool m_isPressed = false;   // the left button went down here
-  int m_wheelRest = 0;        // turned by a touchpad since the last step, eighths of a degree
+  int m_pointedAt = kNoCell;  // where the pointer was last seen in a drag
+  int m_waitsIn = kNoCell;    // until it leaves this cell a drag does nothing: the month changed under it
+
+  int m_wheelRest = 0;  // turned by a touchpad since the last step, eighths of a degree
+  bool m_isWheelByYear = false;
+  quint64 m_wheelTime = 0;  // of the last turn, milliseconds
 };
 
 }  // namespace orbisol

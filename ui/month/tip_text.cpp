@@ -5,11 +5,6 @@
 #include "resources/strings.h"
 
 namespace orbisol {
-namespace {
-
-constexpr int kTextBeforePhases = 280;  // the text of phase 1 follows
-
-}  // namespace
 
 std::u16string TipText(const DayCell& cell, bool eventsOnly) {
   if (cell.day == 0) return {};
@@ -22,7 +17,7 @@ std::u16string TipText(const DayCell& cell, bool eventsOnly) {
   }
   if (cell.moonPhase != kNoPhase) {
     text += u"\n(";
-    text += StringText(kTextBeforePhases + cell.moonPhase);
+    text += StringText(kTextNewMoon + cell.moonPhase - kNewMoon);
     text += u')';
   }
   if (!text.empty() && text.front() == u'\n') text.erase(0, 1);

@@ -32,7 +32,7 @@ CTodayTimer::CTodayTimer(std::function<void()> newDay, std::function<std::int64_
   m_fallback.setSingleShot(true);
   m_fallback.setTimerType(Qt::PreciseTimer);
   m_fallback.callOnTimeout(this, [this] { Woken(); });
-  Wait();
+  Restart();
 }
 
 CTodayTimer::~CTodayTimer() {
@@ -42,7 +42,7 @@ CTodayTimer::~CTodayTimer() {
 #endif
 }
 
-void CTodayTimer::Wait() {
+void CTodayTimer::Restart() {
   const std::int64_t next = m_nextDay();
 #ifdef __linux__
   if (m_descriptor >= 0) {
@@ -60,12 +60,13 @@ void CTodayTimer::Wait() {
 
 void CTodayTimer::Woken() {
 #ifdef __linux__
-  std::uint64_t times = 0;
-  // It fails when the clock was set: that too may have changed the day.
-  if (m_descriptor >= 0) [[maybe_unused]]
-    const auto taken = read(m_descriptor, &times, sizeof times);
+  if (m_descriptor >= 0) {
+    // It fails when the clock was set: that too may have changed the day.
+    std::uint64_t times = 0;
+    [[maybe_unused]] const auto taken = read(m_descriptor, &times, sizeof times);
+  }
 #endif
-  Wait();
+  Restart();
   m_newDay();
 }
 

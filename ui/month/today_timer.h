@@ -2,8 +2,10 @@
 // set.
 //
 //   CTodayTimer timer([this] { CheckToday(); });
+//   timer.Restart();  // somebody is looking again
 //
-// It waits by the wall clock, in one piece: between two midnights nothing wakes up.
+// It waits by the wall clock, in one piece: between two midnights nothing wakes up. Of another time zone the
+// system says nothing; until Restart() the timer waits for the midnight of the former one.
 #pragma once
 
 #include <QObject>
@@ -23,8 +25,10 @@ class CTodayTimer : public QObject {
   explicit CTodayTimer(std::function<void()> newDay, std::function<std::int64_t()> nextDay = {});
   ~CTodayTimer() override;
 
+  // Reckons anew when the next day begins.
+  void Restart();
+
  private:
-  void Wait();
   void Woken();
 
   std::function<void()> m_newDay;

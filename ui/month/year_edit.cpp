@@ -1,5 +1,6 @@
 #include "ui/month/year_edit.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -13,11 +14,6 @@
 #include "ui/common/plain_text.h"
 
 namespace orbisol {
-namespace {
-
-constexpr int kLastYear = 3999;
-
-}  // namespace
 
 CYearEdit::CYearEdit(QWidget* parent) : QAbstractSpinBox(parent) {
   setAccelerated(true);
@@ -40,8 +36,17 @@ void CYearEdit::Open(int year) {
   selectAll();
 }
 
-void CYearEdit::stepBy(int steps) {
-  emit YearEntered(std::clamp(m_position + std::clamp(steps, -kLastYear, kLastYear), -kLastYear, kLastYear));
+void CYearEdit::SetPosition(int year) {
+  if (year == m_position) return;
+  m_position = year;
+  QAccessibleValueChangeEvent event(this, year);
+  QAccessible::updateAccessibility(&event);
+}
+
+void CYearEdit::stepBy(int steps) { Enter(m_position + std::clamp(steps, -kLastYear, kLastYear)); }
+
+void CYearEdit::Enter(int year) {
+  emit YearEntered(std::clamp(year, -kLastYear, kLastYear));
   // The host has set the position to the year that it shows now.
   lineEdit()->setText(QString::number(m_position));
   selectAll();
@@ -74,7 +79,8 @@ int CYearEdit::ButtonsWidth() const {
 void CYearEdit::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key()) || event->key() == Qt::Key_Escape) {
     event->accept();
-    emit Closed(IsEnter(event->key()));
+    // An Enter that is held has opened the editor.
+    if (!event->isAutoRepeat()) emit Closed(IsEnter(event->key()));
     return;
   }
   QAbstractSpinBox::keyPressEvent(event);

@@ -12,12 +12,22 @@ namespace orbisol {
 class CYearEdit : public QAbstractSpinBox {
   Q_OBJECT
 
+  // By these names a screen reader asks a spin control.
+  Q_PROPERTY(int value READ Position WRITE Enter)
+  Q_PROPERTY(int minimum READ Minimum CONSTANT)
+  Q_PROPERTY(int maximum READ Maximum CONSTANT)
+
  public:
   explicit CYearEdit(QWidget* parent);
 
   void Open(int year);
   // What the spin control steps from.
-  void SetPosition(int year) { m_position = year; }
+  int Position() const { return m_position; }
+  void SetPosition(int year);
+  int Minimum() const { return -kLastYear; }
+  int Maximum() const { return kLastYear; }
+  // As if the year, clamped, were typed.
+  void Enter(int year);
   QString Text() const { return text(); }
 
   void stepBy(int steps) override;
@@ -36,6 +46,8 @@ class CYearEdit : public QAbstractSpinBox {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  static constexpr int kLastYear = 3999;
+
   int m_position = 0;
 };
 

@@ -19,7 +19,9 @@
 #include "core/date_text.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
+#include "settings/screen_fit.h"
 #include "ui/common/elided_label.h"
+#include "ui/common/geometry.h"
 #include "ui/common/messages.h"
 #include "ui/common/plain_text.h"
 #include "ui/common/tool_icons.h"
@@ -34,15 +36,30 @@ constexpr int kStatusIndent = 5;  // so that the description begins below the ed
 // some time after it, and on some desktops never.
 constexpr int kMarginChecks[] = {0, 50, 200, 600};
 
-QSize FrameSize(const QRect& frame, const QMargins& margins) { return frame.marginsRemoved(margins).size(); }
+// Enough of a title bar to take hold of it, in pixels.
+constexpr int kGripWidth = 80;
+constexpr int kGripHeight = 24;
+
+// Whether a window there can be seen and moved. Around screens of different sizes there are places on none.
+bool IsWithinReach(const QRect& frame) {
+  const QRect grip(frame.x(), frame.y(), frame.width(), kGripHeight);
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+    const QRect seen = grip & screen->availableGeometry();
+    return seen.width() >= std::min(kGripWidth, frame.width()) && seen.height() > 0;
+  });
+}
+
+Rect ToRect(const QRect& rect) {
+  return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
+}
 
 }  // namespace
 
 Rect VirtualScreen() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return {};
-  const QRect all = screen->virtualGeometry();
-  return {all.x(), all.y(), all.x() + all.width(), all.y() + all.height()};
+  return ToRect(screen->virtualGeometry());
 }
 
 void CopyTextToClipboard(const QString& text) { QGuiApplication::clipboard()->setText(text); }
@@ -81,7 +98,8 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
       m_dialog(nullptr) {
   TakeSettings();
   setWindowIcon(ProgramIcon());
-  setContextMenuPolicy(Qt::NoContextMenu);
+  setContextMenuPolicy(Qt::NoContextMenu);  // the toolkit's own would hide bars behind the menu's back
+  setAttribute(Qt::WA_AlwaysShowToolTips);  // of inactive windows too
 
   m_commands->FillMenuBar(*menuBar(), MainMenu());
   m_toolBar = addToolBar(TableText(kTextToolBarName));
@@ -107,13 +125,14 @@ void CCalendarFrame::TakeSettings() {
   Display() = std::move(stored.calendar.display);
   Rules() = stored.calendar.rules;
   Content() = std::move(stored.calendar.content);
-  Display().mainLayout.rightPaneWidth = 0;
 }
 
 void CCalendarFrame::UpdateTitle() {
   const std::u16string_view name = Display().calendarName.View();
-  setWindowTitle(name == kDefaultCalendarName || name.empty() ? TableText(kTextProgramName)
-                                                              : TableText(kTextCalendarTitle, {name}));
+  QString title = name == kDefaultCalendarName || name.empty() ? TableText(kTextProgramName)
+                                                               : TableText(kTextCalendarTitle, {name});
+  // The toolkit puts its mark of unsaved changes in the place of this, unless it stands twice.
+  setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
 void CCalendarFrame::Open() {
@@ -121,9 +140,13 @@ void CCalendarFrame::Open() {
   layout.rightPaneWidth = m_dialog->PaneWidth();
   // The stored rectangle always holds the pane.
   const int hidden = m_dialog->IsPaneShown() ? 0 : m_dialog->PaneWidth();
-  m_wantedSize = QSize(layout.rect.Width() - hidden, layout.rect.Height());
-  move(layout.rect.left, layout.rect.top);
-  resize(m_wantedSize);
+  m_wanted = QRect(layout.rect.left, layout.rect.top, layout.rect.Width() - hidden, layout.rect.Height());
+  if (const QScreen* const screen = QGuiApplication::primaryScreen(); screen && !IsWithinReach(m_wanted)) {
+    const Rect fitted = FitRectToScreen(ToRect(m_wanted), ToRect(screen->availableGeometry()));
+    m_wanted = ToQRect(fitted);
+  }
+  move(m_wanted.topLeft());
+  resize(m_wanted.size());
   m_openedSize = size();
   if (layout.maximized != 0) {
     showMaximized();
@@ -132,38 +155,46 @@ void CCalendarFrame::Open() {
   }
 }
 
+bool CCalendarFrame::HasNormalSize() const { return !isMaximized() && !isMinimized() && !isFullScreen(); }
+
 void CCalendarFrame::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (!m_isFitted)
     for (const int wait : kMarginChecks) QTimer::singleShot(wait, this, &CCalendarFrame::CorrectFrame);
 }
 
-// Sizes are stored with the frame and set without it. Its margins are known only now: they are taken off
+void CCalendarFrame::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  // A slow window manager's margins are known by now.
+  if (!m_isFitted && isVisible()) QTimer::singleShot(0, this, &CCalendarFrame::CorrectFrame);
+}
+
+// Rectangles are stored with the frame and set without it. Its margins are known only now: they are taken off
 // once, unless somebody has resized the window meanwhile.
 void CCalendarFrame::CorrectFrame() {
-  if (!isVisible() || isMaximized() || isMinimized()) return;
+  if (!isVisible() || !HasNormalSize()) return;
   const QRect frame = frameGeometry();
   const QRect inside = geometry();
   const QMargins margins(inside.left() - frame.left(), inside.top() - frame.top(),
                          frame.right() - inside.right(), frame.bottom() - inside.bottom());
   if (margins.isNull()) return;
   m_margins = margins;
-  if (std::exchange(m_isFitted, true) || size() != m_openedSize) return;
-  const Rect& stored = Display().mainLayout.rect;
+  if (std::exchange(m_isFitted, true)) return;
   // Some window managers take the first position for that of the inside.
-  if (inside.topLeft() == QPoint(stored.left, stored.top)) move(stored.left, stored.top);
-  resize(FrameSize(QRect(QPoint(), m_wantedSize), margins));
+  if (inside.topLeft() == m_wanted.topLeft()) move(m_wanted.topLeft());
+  if (size() == m_openedSize) resize(m_wanted.marginsRemoved(margins).size());
 }
 
 void CCalendarFrame::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized()) return;
+  if (event->type() == QEvent::PaletteChange && m_dialog != nullptr) m_dialog->ThemeChanged();
+  if (event->type() != QEvent::WindowStateChange || !HasNormalSize()) return;
   // The size that the window is put back to comes a moment later.
   QTimer::singleShot(kMarginChecks[1], this, &CCalendarFrame::SettleNormalWidth);
 }
 
 void CCalendarFrame::SettleNormalWidth() {
-  if (isMaximized() || isMinimized()) return;
+  if (!HasNormalSize()) return;
   if (const int owed = std::exchange(m_owedWidth, 0); owed != 0) resize(width() + owed, height());
   CorrectFrame();
 }
@@ -175,13 +206,13 @@ ClosingFrame CCalendarFrame::State() const {
   state.paneShown = m_dialog->IsPaneShown();
   state.paneWidth = m_dialog->PaneWidth();
   QRect frame = frameGeometry();
-  if (state.maximized) {
+  if (!HasNormalSize()) {
     // A window that was never seen in its normal size keeps the one that is stored.
     if (m_margins.isNull() && !normalGeometry().isValid()) return state;
     frame = normalGeometry().marginsAdded(m_margins);
     frame.setWidth(frame.width() + m_owedWidth);
   }
-  state.rect = {frame.x(), frame.y(), frame.x() + frame.width(), frame.y() + frame.height()};
+  state.rect = ToRect(frame);
   return state;
 }
 
@@ -190,14 +221,16 @@ void CCalendarFrame::closeEvent(QCloseEvent* event) {
   QMainWindow::closeEvent(event);
 }
 
-void CCalendarFrame::Raise() {
+void CCalendarFrame::Raise(const std::string& token) {
+  // The toolkit looks for it there when a window asks to be activated.
+  if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
   setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
   show();
   raise();
   activateWindow();
 }
 
-QString CCalendarFrame::StatusText() const { return m_description->Text(); }
+QString CCalendarFrame::StatusText() const { return m_description->text(); }
 
 void CCalendarFrame::RunCommand(CommandId command) {
   const Handler* const handler = HandlerOf(command);
@@ -209,7 +242,6 @@ void CCalendarFrame::RunCommand(CommandId command) {
 void CCalendarFrame::UpdateCommands() {
   m_commands->SetChecked(kCmdToggleToolBar, m_toolBar->isVisibleTo(this));
   m_commands->SetChecked(kCmdToggleStatusBar, Display().mainLayout.statusBarShown != 0);
-  if (m_dialog == nullptr) return;
   m_commands->SetChecked(kCmdTogglePane, m_dialog->IsPaneShown());
   m_commands->SetEnabled(kCmdCopyRepublicanDate, !m_dialog->RepublicanText().isEmpty());
   m_commands->SetEnabled(kCmdGoBack, m_dialog->History().CanGoBack());
@@ -217,7 +249,7 @@ void CCalendarFrame::UpdateCommands() {
 }
 
 void CCalendarFrame::OnDateShown(const QString& description) {
-  m_description->SetText(description);
+  m_description->setText(description);
   UpdateCommands();
 }
 
@@ -246,7 +278,7 @@ void CCalendarFrame::OnTogglePane() {
   const bool isShown = !m_dialog->IsPaneShown();
   const int change = isShown ? m_dialog->PaneWidth() : -m_dialog->PaneWidth();
   Display().mainLayout.rightPaneShown = isShown ? 1 : 0;
-  if (isMaximized() || isFullScreen()) {
+  if (!HasNormalSize()) {
     m_owedWidth += change;  // for the normal size
     m_dialog->ShowPane(isShown);
     return;

@@ -9,7 +9,7 @@
 #include <QMainWindow>
 #include <QRect>
 
-#include <span>
+#include <string>
 
 #include "files/calendar_store.h"
 #include "resources/command_ids.h"
@@ -32,7 +32,7 @@ struct FrameDoors {
 // The smallest rectangle around all screens.
 Rect VirtualScreen();
 
-// Puts a text on the clipboard; one that is busy keeps what it has.
+// Puts a text on the clipboard. Where that cannot be had nothing happens, and nothing is said.
 void CopyTextToClipboard(const QString& text);
 
 class CCalendarFrame : public QMainWindow, private MainDlgHost {
@@ -43,8 +43,9 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   explicit CCalendarFrame(const FrameDoors& doors);
 
   void Open();
-  // To the front, for a user who started the program again.
-  void Raise();
+  // To the front, for a user who started the program again; the desktop gave that start the token, where it
+  // asks for one.
+  void Raise(const std::string& token = {});
 
   void RunCommand(CommandId command);
 
@@ -52,10 +53,9 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   CCommandTable& Commands() { return *m_commands; }
   QString StatusText() const;
 
-  QMenu* createPopupMenu() override { return nullptr; }
-
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -85,6 +85,7 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   void TakeSettings();
   void UpdateTitle();
   void UpdateCommands();
+  bool HasNormalSize() const;  // not maximized, minimized or full screen
   void CorrectFrame();
   void SettleNormalWidth();
   ClosingFrame State() const;
@@ -95,11 +96,11 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   CElidedLabel* m_description;
   CMainDlg* m_dialog;
 
-  QSize m_wantedSize;       // with its frame, as it was stored
+  QRect m_wanted;           // with its frame, as it was stored
   QSize m_openedSize;       // without; what the frame was opened with
   QMargins m_margins;       // of the frame around the window, once they are known
   bool m_isFitted = false;  // the frame's margins have been taken off
-  int m_owedWidth = 0;      // by which the pane changed the window while it was maximized
+  int m_owedWidth = 0;      // by which the pane changed the window while it had no size of its own
 };
 
 }  // namespace orbisol

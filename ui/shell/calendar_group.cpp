@@ -19,12 +19,20 @@ QColor LineColor(const QWidget& widget) {
   return {mix(ink.red(), ground.red()), mix(ink.green(), ground.green()), mix(ink.blue(), ground.blue())};
 }
 
+int CCalendarGroup::ContentTop() const {
+  QStyleOptionGroupBox option;
+  initStyleOption(&option);
+  constexpr int kBelowTitle = 2;
+  return kBelowTitle +
+         style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this).top();
+}
+
 void CCalendarGroup::paintEvent(QPaintEvent*) {
   QStyleOptionGroupBox option;
   initStyleOption(&option);
   const QRect label = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
-  // The title begins where the content does.
-  // Asked of the content itself: the style moves the layout's own rectangle in a group with boxes to check.
+  // The title begins where the content does. Asked of the content itself: the style moves the layout's own
+  // rectangle in a group with boxes to check.
   const bool hasContent = layout() != nullptr && layout()->count() > 0;
   const int left = hasContent ? layout()->itemAt(0)->geometry().left() : kTitleIndent;
   QPainter painter(this);

@@ -11,6 +11,9 @@ class CCalendarGroup : public QGroupBox {
  public:
   using QGroupBox::QGroupBox;
 
+  // Where content may begin below the title, in pixels from the upper edge.
+  int ContentTop() const;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 };

@@ -1,5 +1,6 @@
 #include "ui/shell/converter_pane.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
@@ -12,6 +13,8 @@
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -23,9 +26,10 @@
 #include "core/republican.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/common/colors.h"
 #include "ui/common/plain_text.h"
+#include "ui/common/selectable_label.h"
 #include "ui/common/tool_icons.h"
-#include "ui/month/month_painter.h"
 #include "ui/shell/calendar_group.h"
 
 namespace orbisol {
@@ -37,15 +41,6 @@ enum { kNameDay, kNameMonth, kNameYear, kNameKept, kNameDifference };
 constexpr PackedDate kFirstDayOfEra = 10101;
 constexpr PackedDate kFirstJulianDay = -440101;  // astronomical: 1 January 45 BC
 constexpr int kMonthDays = 30;                   // of every Republican month
-
-QLabel* MakeLine() {
-  auto* const label = new QLabel;
-  label->setTextFormat(Qt::PlainText);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  // What can be selected with the keyboard would be a stop of Tab: one click comes first instead.
-  label->setFocusPolicy(Qt::ClickFocus);
-  return label;
-}
 
 // The room of a control stays empty while it is hidden, so that nothing below it moves.
 void KeepRoom(QWidget* widget) {
@@ -62,13 +57,33 @@ QGroupBox* MakeGroup(int textId, QLayout* layout) {
   return group;
 }
 
-// The widest of a text with each of the locale's months in it.
-template <class MakeText>
-int WidestMonthText(const QLabel& label, MakeText text) {
+// Of the longest line that ends with a date.
+int ProlepticWidth(const QFontMetrics& metrics) {
   int widest = 0;
-  for (int month = 1; month <= 12; ++month)
-    widest = std::max(widest, label.fontMetrics().horizontalAdvance(text(month)));
+  for (int month = 1; month <= 12; ++month) {
+    const std::u16string date = DayMonthYear(Selected().dateOrder, 30, MonthName(month), -3999);
+    widest = std::max(widest, metrics.horizontalAdvance(TableText(kTextProlepticGregorian, {date})));
+  }
   return widest;
+}
+
+// Of a field in which `text` is seen whole.
+int FieldWidth(const QLineEdit& field, const QString& text) {
+  QStyleOptionFrame option;
+  option.initFrom(&field);
+  option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+  constexpr int kTextMargin = 2;  // of the toolkit, at each side
+  constexpr int kCursor = 1;
+  const QSize inside(field.fontMetrics().horizontalAdvance(text) + 2 * kTextMargin + kCursor,
+                     field.fontMetrics().height());
+  return field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, inside, &field).width();
+}
+
+// How a screen reader tells the fields apart; it takes the name of a list for what is chosen in it.
+void NameField(QWidget* field, int piece) {
+  const QString name = TablePiece(kTextConverterNames, piece);
+  field->setAccessibleName(name);
+  if (qobject_cast<QComboBox*>(field) != nullptr) field->setAccessibleDescription(name);
 }
 
 }  // namespace
@@ -97,45 +112,46 @@ CConverterPane::CConverterPane(PaneHost* host, QWidget* parent) : QWidget(parent
 }
 
 QGroupBox* CConverterPane::MakeJulianGroup() {
-  m_julian = MakeLine();
-  m_dayNumber = MakeLine();
-  m_proleptic = MakeLine();
+  m_julian = new CSelectableLabel;
+  m_dayNumber = new CSelectableLabel;
+  m_dayNumber->setFocusPolicy(Qt::StrongFocus);  // no command copies it: the keyboard must get there
+  m_proleptic = new CSelectableLabel;
   KeepRoom(m_proleptic);
-  m_proleptic->setMinimumWidth(WidestMonthText(*m_proleptic, [](int month) {
-    return TableText(kTextProlepticGregorian, {DayMonthYear(1, 30, MonthName(month), -3999)});
-  }));
+  m_proleptic->setMinimumWidth(ProlepticWidth(m_proleptic->fontMetrics()));
   auto* const column = new QVBoxLayout;
   for (QLabel* const line : {m_julian, m_dayNumber, m_proleptic}) column->addWidget(line);
   return MakeGroup(kTextJulianGroup, column);
 }
 
 QGroupBox* CConverterPane::MakeRepublicanGroup() {
-  m_republican = MakeLine();
+  m_republican = new CSelectableLabel;
   m_republican->setMinimumHeight(2 * m_republican->fontMetrics().lineSpacing());
   m_entry = new QCheckBox(TableText(kTextRepublicanEntry));
   KeepRoom(m_entry);
   connect(m_entry, &QCheckBox::clicked, this, &CConverterPane::ShowRepublicanEntry);
 
   m_day = new QComboBox;
-  m_day->setAccessibleName(TablePiece(kTextConverterNames, kNameDay));
+  NameField(m_day, kNameDay);
   m_day->setMinimumContentsLength(2);
   m_day->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_month = new QComboBox;
-  m_month->setAccessibleName(TablePiece(kTextConverterNames, kNameMonth));
+  NameField(m_month, kNameMonth);
   for (int month = 0; month <= kComplementaryMonth; ++month)
     m_month->addItem(ToQString(RepublicanMonthName(month)));
   m_month->setMaxVisibleItems(kComplementaryMonth + 1);
   connect(m_month, &QComboBox::currentIndexChanged, this, &CConverterPane::FillRepublicanDays);
   m_year = new QLineEdit;
-  m_year->setAccessibleName(TablePiece(kTextConverterNames, kNameYear));
+  NameField(m_year, kNameYear);
   m_year->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[+-]?[0-9]{0,9}")), m_year));
   m_year->setAlignment(Qt::AlignRight);
-  m_year->setFixedWidth(m_year->fontMetrics().horizontalAdvance(QStringLiteral("-00000")) + 12);
+  m_year->setFixedWidth(FieldWidth(*m_year, QStringLiteral("-00000")));
   connect(m_year, &QLineEdit::textChanged, this, &CConverterPane::FillRepublicanDays);
   connect(m_year, &QLineEdit::returnPressed, this, &CConverterPane::GoToRepublicanDate);
   auto* const go = new QPushButton(TableText(kTextGo));
-  go->setFixedWidth(go->fontMetrics().horizontalAdvance(go->text()) + 20);
+  go->setAutoDefault(true);          // Enter presses it
+  constexpr int kNarrowMargin = 10;  // styles make a button of one word far too wide for this row
+  go->setFixedWidth(go->fontMetrics().horizontalAdvance(go->text()) + 2 * kNarrowMargin);
   connect(go, &QPushButton::clicked, this, &CConverterPane::GoToRepublicanDate);
 
   m_entryRow = new QWidget;
@@ -163,14 +179,13 @@ QGroupBox* CConverterPane::MakeDifferenceGroup() {
   m_kept = new QLineEdit;
   m_kept->setReadOnly(true);
   m_kept->setAlignment(Qt::AlignCenter);
-  m_kept->setAccessibleName(TablePiece(kTextConverterNames, kNameKept));
+  NameField(m_kept, kNameKept);
   m_kept->installEventFilter(this);
   m_difference = new QLineEdit;
   m_difference->setReadOnly(true);
   m_difference->setAlignment(Qt::AlignRight);
-  m_difference->setAccessibleName(TablePiece(kTextConverterNames, kNameDifference));
-  m_difference->setFixedWidth(m_difference->fontMetrics().horizontalAdvance(QStringLiteral("-0 000 000")) +
-                              14);
+  NameField(m_difference, kNameDifference);
+  m_difference->setFixedWidth(FieldWidth(*m_difference, QStringLiteral("-0 000 000")));
   auto* const row = new QHBoxLayout;
   row->addWidget(m_keep);
   row->addWidget(m_kept, 1);
@@ -181,6 +196,7 @@ QGroupBox* CConverterPane::MakeDifferenceGroup() {
 QWidget* CConverterPane::MakeButtons() {
   const auto make = [this](int textId, auto date) {
     auto* const button = new QPushButton(TableText(textId));
+    button->setAutoDefault(true);  // Enter presses it
     connect(button, &QPushButton::clicked, this, [this, date] { GoTo(date()); });
     return button;
   };
@@ -212,12 +228,9 @@ QString CConverterPane::JulianText() const { return m_julian->text(); }
 
 QString CConverterPane::RepublicanText() const { return m_republican->text(); }
 
-void CConverterPane::SettingsChanged() {
-  const QColor ink = ToQColor(Display().ColorAt(kColorCalHeader));
-  m_keep->setIcon(ToolIcon(m_keptDate != 0 ? "kept" : "keep", ink));
-  m_keep->setToolTip(TipMarkup(TablePiece(kTextKeepDate, m_keptDate != 0 ? 1 : 0)));
-  m_keep->setAccessibleName(TablePiece(kTextKeepDate, 0));
-}
+bool CConverterPane::IsEntry() const { return m_entry->isChecked(); }
+
+void CConverterPane::SettingsChanged() { ShowKeepButton(); }
 
 void CConverterPane::Refresh() {
   const Date& date = Selected();
@@ -231,17 +244,19 @@ void CConverterPane::Refresh() {
 
   const QString republican = ToQString(orbisol::RepublicanText(date));
   m_republican->setText(republican);
-  m_entry->setVisible(!republican.isEmpty());
-  if (republican.isEmpty() && m_isEntry) {
+  if (republican.isEmpty()) {
+    // What is hidden with the focus would hand it on to the next control, which nobody chose.
+    QWidget* const focused = QApplication::focusWidget();
+    if (focused == m_entry || m_entryRow->isAncestorOf(focused)) m_host->FocusMonth();
     m_entry->setChecked(false);
     ShowRepublicanEntry(false);
   }
-  if (m_isEntry) LoadRepublicanDate();
-  ShowDifference();
+  m_entry->setVisible(!republican.isEmpty());
+  if (IsEntry()) LoadRepublicanDate();
+  ShowKeptDate();
 }
 
 void CConverterPane::ShowRepublicanEntry(bool isShown) {
-  m_isEntry = isShown;
   if (isShown) LoadRepublicanDate();
   m_entryRow->setVisible(isShown);
 }
@@ -271,25 +286,36 @@ void CConverterPane::FillRepublicanDays() {
 void CConverterPane::GoToRepublicanDate() {
   const int year = std::clamp(ParseDecimal(Units(m_year->text())), 1, kLastRepublicanYear);
   m_year->setText(QString::number(year));
-  Date date = FromRepublican(year, m_month->currentIndex() + 1, m_day->currentIndex() + 1);
-  ClampToBounds(date);
-  GoTo(date.Packed());
+  GoTo(FromRepublican(year, m_month->currentIndex() + 1, m_day->currentIndex() + 1).Packed());
 }
 
 void CConverterPane::KeepDate(bool isKept) {
-  const Date& date = Selected();
-  m_keptDate = isKept ? date.Packed() : 0;
-  m_kept->setText(
-      isKept ? ToQString(DayMonthYear(date.dateOrder, date.day, MonthName(date.month), CivilYearOf(date)))
-             : QString());
-  SettingsChanged();
-  ShowDifference();
+  m_keptDate = isKept ? Selected().Packed() : 0;
+  ShowKeepButton();
+  ShowKeptDate();
   m_host->FocusMonth();
 }
 
-void CConverterPane::ShowDifference() {
-  m_difference->setText(
-      m_keptDate == 0 ? QString() : GroupedNumber(Selected().DayNumber() - Date(m_keptDate).DayNumber()));
+void CConverterPane::ShowKeepButton() {
+  const bool isKept = m_keptDate != 0;
+  const QString action = TablePiece(kTextKeepDate, isKept ? 1 : 0);
+  m_keep->setIcon(ToolIcon(isKept ? "kept" : "keep", ToQColor(Display().ColorAt(kColorCalHeader))));
+  m_keep->setToolTip(TipMarkup(action));
+  m_keep->setAccessibleName(TablePiece(kTextKeepDate, 0));
+  m_keep->setAccessibleDescription(action);  // else readers are given the tip with its markup
+}
+
+// The date is written anew each time: the calendar rules may have changed how it is called.
+void CConverterPane::ShowKeptDate() {
+  if (m_keptDate == 0) {
+    m_kept->clear();
+    m_difference->clear();
+    return;
+  }
+  const Date kept(m_keptDate);
+  m_kept->setText(
+      ToQString(DayMonthYear(Selected().dateOrder, kept.day, MonthName(kept.month), CivilYearOf(kept))));
+  m_difference->setText(GroupedNumber(Selected().DayNumber() - kept.DayNumber()));
 }
 
 void CConverterPane::GoToKeptDate() {
@@ -304,9 +330,12 @@ void CConverterPane::GoTo(PackedDate date) {
 
 bool CConverterPane::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_kept && event->type() == QEvent::FocusIn) {
-    // The user went there; the window that merely became active again, or a menu that closed, moves nothing.
+    // Only where the user went there: a menu that closes, an editor or a window that gives the focus back
+    // moves nothing.
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) GoToKeptDate();
+    if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason)
+      GoToKeptDate();
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -57,15 +57,17 @@ class CConverterPane : public QWidget {
   void FillRepublicanDays();
   void GoToRepublicanDate();
   void KeepDate(bool isKept);
-  void ShowDifference();
+  void ShowKeepButton();
+  void ShowKeptDate();
   void GoToKeptDate();
   void GoTo(PackedDate date);
+
+  bool IsEntry() const;  // a Republican date can be entered
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   PaneHost* m_host;
   PackedDate m_keptDate = 0;  // the date to compare with; 0 is none
-  bool m_isEntry = false;     // a Republican date can be entered
 
   QLabel* m_julian = nullptr;
   QLabel* m_dayNumber = nullptr;

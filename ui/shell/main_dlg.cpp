@@ -1,17 +1,15 @@
 #include "ui/shell/main_dlg.h"
 
 #include <QApplication>
-#include <QGroupBox>
-#include <QStyle>
-#include <QStyleOptionGroupBox>
+#include <QEvent>
 
 #include <algorithm>
 
 #include "content/selected_date.h"
 #include "resources/strings.h"
+#include "ui/common/colors.h"
 #include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
-#include "ui/month/month_painter.h"
 #include "ui/month/tip_text.h"
 #include "ui/shell/calendar_group.h"
 
@@ -32,14 +30,13 @@ CMainDlg::CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent)
       m_header(new CHeaderWnd(this, this)),
       m_month(new CMonthWindow(this, this)),
       m_separator(new QWidget(this)),
-      m_pane(new CConverterPane(this, this)),
-      m_paneWidth(PaneWidthFor(m_pane->sizeHint().width())) {
+      m_pane(new CConverterPane(this, this)) {
   m_separator->setAutoFillBackground(true);
   setAutoFillBackground(true);
   m_pane->setVisible(isPaneShown);
   m_separator->setVisible(isPaneShown);
   ApplyColors();
-  SetMinimum();
+  Measure();
   setFocusProxy(m_month);
 }
 
@@ -60,20 +57,8 @@ void CMainDlg::ApplyColors() {
   m_separator->setPalette(line);
 }
 
-int CMainDlg::HeaderTop() const {
-  QStyleOptionGroupBox option;
-  option.initFrom(m_group);
-  option.text = m_group->title();
-  option.rect = QRect(0, 0, 400, 400);
-  option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
-  option.lineWidth = 1;
-  const QRect inside =
-      m_group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, m_group);
-  constexpr int kBelowTitle = 2;
-  return kTopMargin + inside.top() + kBelowTitle;
-}
-
-void CMainDlg::SetMinimum() {
+void CMainDlg::Measure() {
+  m_paneWidth = PaneWidthFor(m_pane->sizeHint().width());
   const int width = kLeastGridWidth + 2 * (kMargin + kGap) + (m_isPaneShown ? m_paneWidth : 0);
   setMinimumSize(width, std::max(kLeastHeight, m_pane->sizeHint().height()));
 }
@@ -82,7 +67,7 @@ void CMainDlg::LayOut() {
   MainMeasures measures;
   measures.width = width();
   measures.height = height();
-  measures.headerTop = HeaderTop();
+  measures.headerTop = kTopMargin + m_group->ContentTop();
   measures.weekNumbers = Display().showWeekNumber;
   measures.paneShown = m_isPaneShown;
   measures.paneWidth = m_paneWidth;
@@ -96,13 +81,21 @@ void CMainDlg::LayOut() {
 
 void CMainDlg::resizeEvent(QResizeEvent*) { LayOut(); }
 
+void CMainDlg::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    Measure();
+    LayOut();
+  }
+}
+
 void CMainDlg::ShowPane(bool isShown) {
   if (isShown == m_isPaneShown) return;
   m_isPaneShown = isShown;
   // What is not seen must not be reached with Tab either.
   m_pane->setVisible(isShown);
   m_separator->setVisible(isShown);
-  SetMinimum();
+  Measure();
   LayOut();
   FocusMonth();
 }
@@ -117,9 +110,8 @@ QString CMainDlg::Description() {
       .replace(QLatin1Char('\n'), QLatin1String(" | "));
 }
 
-void CMainDlg::Refresh(bool withMonth) {
-  // A year that is being typed passes through many that nobody wants to see again.
-  m_history.Visit(Selected().Packed(), m_header->IsEditingYear() ? VisitBy::kWalk : VisitBy::kDistance);
+void CMainDlg::Refresh(bool withMonth, DateMove move) {
+  m_history.Visit(Selected().Packed(), move);
   if (withMonth) m_month->Refresh();
   m_header->Refresh();
   m_pane->Refresh();
@@ -137,9 +129,9 @@ void CMainDlg::SettingsChanged() {
   update();
 }
 
-void CMainDlg::OnMonthDateChanged() { Refresh(false); }
+void CMainDlg::OnMonthDateChanged(DateMove move) { Refresh(false, move); }
 
-void CMainDlg::OnHeaderDateChanged() { Refresh(true); }
+void CMainDlg::OnHeaderDateChanged(DateMove move) { Refresh(true, move); }
 
 void CMainDlg::OnPaneDateChanged() { Refresh(true); }
 

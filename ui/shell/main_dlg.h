@@ -15,9 +15,9 @@
 #include "ui/shell/date_history.h"
 #include "ui/shell/main_layout.h"
 
-class QGroupBox;
-
 namespace orbisol {
+
+class CCalendarGroup;
 
 struct MainDlgHost {
   virtual ~MainDlgHost() = default;
@@ -37,14 +37,17 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private 
   // The host outlives the dialog.
   CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent = nullptr);
 
-  // Shows the selected date everywhere, the month included when it was changed outside of it.
-  void Refresh(bool withMonth);
+  // Shows the selected date everywhere, the month included when it was changed outside of it. `move` says
+  // how it was changed; a date that is the same counts for nothing.
+  void Refresh(bool withMonth, DateMove move = DateMove::kLeap);
   // Colors, fonts, switches, calendar rules or the content were changed.
   void SettingsChanged();
+  // The desktop's colors were changed.
+  void ThemeChanged() { ApplyColors(); }
 
   bool IsPaneShown() const { return m_isPaneShown; }
   void ShowPane(bool isShown);
-  // What a window gains or loses with the pane; measured once.
+  // What a window gains or loses with the pane; it follows the font.
   int PaneWidth() const { return m_paneWidth; }
 
   QString JulianText() const { return m_pane->JulianText(); }
@@ -63,28 +66,28 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private 
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
-  void OnMonthDateChanged() override;
+  void OnMonthDateChanged(DateMove move) override;
   void OpenPeriodEditor(const Date& from, const Date& to) override;
   void OpenEventsEditor(const Date& date) override;
-  void OnHeaderDateChanged() override;
+  void OnHeaderDateChanged(DateMove move) override;
   void OnPaneDateChanged() override;
 
   void LayOut();
-  void SetMinimum();
+  void Measure();
   void ApplyColors();
-  int HeaderTop() const;
   QString Description();
 
   MainDlgHost* m_host;
   bool m_isPaneShown;
-  QGroupBox* m_group;
+  CCalendarGroup* m_group;
   CHeaderWnd* m_header;
   CMonthWindow* m_month;
   QWidget* m_separator;
   CConverterPane* m_pane;
-  int m_paneWidth;
+  int m_paneWidth = 0;
   CDateHistory m_history;
 };
 

@@ -11,7 +11,6 @@
 #include "platform/desktop_locale.h"
 #include "platform/desktop_store.h"
 #include "platform/folders.h"
-#include "platform/single_instance.h"
 #include "ui/common/french_toolkit.h"
 #include "ui/common/messages.h"
 #include "ui/common/plain_text.h"
@@ -30,7 +29,7 @@ int Run(const StartUp& startUp) {
     Messages().ShowError(nullptr, TableText(kTextBrokenInstallation));
     return 0;
   }
-  CSingleInstance instance(startUp.runtimeFolder);
+  CSingleInstance instance(startUp.instance);
   if (instance.IsSecond()) return 0;
 
   CSpaceKeyFilter spaceKey;
@@ -42,7 +41,7 @@ int Run(const StartUp& startUp) {
   if (instance.Descriptor() >= 0) {
     calls = std::make_unique<QSocketNotifier>(instance.Descriptor(), QSocketNotifier::Read);
     QObject::connect(calls.get(), &QSocketNotifier::activated, &frame, [&] {
-      if (instance.TakeCalls()) frame.Raise();
+      if (const auto token = instance.TakeCall()) frame.Raise(*token);
     });
   }
   frame.Open();
@@ -58,7 +57,10 @@ int Run(QApplication& application) {
   const Folders folders = DesktopFolders();
   CDesktopStore store(folders.stores);
   CDesktopFiles files(folders);
-  return Run({store, files, {locale.Language(), locale.Country()}, RuntimeFolder()});
+  return Run({store,
+              files,
+              {locale.Language(), locale.Country()},
+              {RuntimeFolder(), DisplayName(), ActivationToken()}});
 }
 
 }  // namespace orbisol

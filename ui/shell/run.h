@@ -1,9 +1,8 @@
 // The body of the program.
 #pragma once
 
-#include <string>
-
 #include "files/files.h"
+#include "platform/single_instance.h"
 #include "settings/first_start.h"
 #include "settings/settings_store.h"
 
@@ -16,7 +15,7 @@ struct StartUp {
   SettingsStore& store;
   Files& files;
   UserLocale locale;
-  std::string runtimeFolder;  // where a second start finds the first; empty: every start is the first
+  InstancePlace instance;  // where a second start finds the first
 };
 
 // Until the main window is closed; the exit code. Without a settings key the installation is broken: that is

@@ -8,16 +8,21 @@
 namespace orbisol {
 namespace {
 
-TEST(TodayTimerTest, CallsWhenTheDayHasBegunAndWaitsForTheNext) {
+TEST(TodayTimerTest, CallsWhenADayHasBegunAlsoForOneThatARestartFinds) {
   int calls = 0;
-  int asked = 0;
-  // A midnight that is past, as after a sleep, then one that is far away.
-  const CTodayTimer timer([&] { ++calls; },
-                          [&] { return QDateTime::currentSecsSinceEpoch() + (asked++ == 0 ? -3600 : 3600); });
-  while (calls == 0) QTest::qWait(1);
+  // The midnights found: past, as after a sleep; far away; past, as in another time zone; far away.
+  std::vector<int> hours = {1, -1, 1, -1};
+  const auto next = [&] {
+    const int hour = hours.back();
+    hours.pop_back();
+    return QDateTime::currentSecsSinceEpoch() + hour * 3600;
+  };
+  CTodayTimer timer([&] { ++calls; }, next);
+  while (calls < 1) QTest::qWait(1);
   QTest::qWait(20);
   EXPECT_EQ(calls, 1);
-  EXPECT_EQ(asked, 2);
+  timer.Restart();
+  while (calls < 2) QTest::qWait(1);
 }
 
 }  // namespace

@@ -186,9 +186,11 @@ class Reader:
         self.context = GLib.MainContext.default()
         self.focused = []  # names, in the order of the events
         self.renamed = []
+        self.selected = []
         self.log = open(log_path, "a")
         pyatspi.Registry.registerEventListener(self.on_focus, "object:state-changed:focused")
         pyatspi.Registry.registerEventListener(self.on_name, "object:property-change:accessible-name")
+        pyatspi.Registry.registerEventListener(self.on_selection, "object:state-changed:selected")
         self.program = subprocess.Popen([program], stdout=self.log, stderr=self.log)
 
     def on_focus(self, event):
@@ -197,6 +199,10 @@ class Reader:
 
     def on_name(self, event):
         self.renamed.append(self.name_of(event.source))
+
+    def on_selection(self, event):
+        if event.detail1:
+            self.selected.append(self.name_of(event.source))
 
     def name_of(self, item):
         try:
@@ -272,7 +278,10 @@ def check_month(reader):
     reader.renamed.clear()
     reader.key_moves_focus("r", "Samedi 22 septembre 1792")
     reader.wait_for("the month's name", lambda: "Septembre 1792" in reader.renamed)
+    reader.selected.clear()
     reader.key_moves_focus("Right", "Dimanche 23 septembre 1792, (Premier quartier de lune)")
+    reader.wait_for("the day selected", lambda: reader.selected)
+    same("selected", reader.selected, ["Dimanche 23 septembre 1792, (Premier quartier de lune)"])
 
     def cell_named(start):
         for row in range(6):
@@ -291,6 +300,13 @@ def check_month(reader):
     same("the day before is selected", reader.states_of(saturday).contains(atspi.STATE_SELECTED), False)
     same("it can be selected", reader.states_of(saturday).contains(atspi.STATE_SELECTABLE), True)
 
+    # Readers ask where any child stands, a day or a header, and also one that is gone.
+    same("children", month.childCount, 56)
+    for index in range(-1, month.childCount + 10):
+        table.getRowColumnExtentsAtIndex(index)
+        if 0 <= index < month.childCount:
+            same(f"place of child {index}", table.getIndexAt(index // 7, index % 7), index)
+
     place = saturday.queryComponent().getExtents(atspi.DESKTOP_COORDS)
     hit = month.queryComponent().getAccessibleAtPoint(
         place.x + place.width // 2, place.y + place.height // 2, atspi.DESKTOP_COORDS)
@@ -299,6 +315,14 @@ def check_month(reader):
     reader.focused.clear()
     same("pressing a day", cell_named("Lundi 10 ")[0].queryAction().doAction(0), True)
     reader.wait_for("the day pressed", lambda: "Lundi 10 septembre 1792" in reader.focused)
+
+    # A day with a text, in the last month of all, and the focus brought to a day.
+    reader.key_moves_focus("End", "Vendredi 31 décembre 3999")
+    christmas = cell_named("Samedi 25 ")[0]
+    same("Christmas", reader.name_of(christmas), "Samedi 25 décembre 3999, Noël")
+    same("focusing a day", christmas.queryComponent().grabFocus(), True)
+    reader.wait_for("the day focused", lambda: "Samedi 25 décembre 3999, Noël" in reader.focused)
+    reader.key_moves_focus("r", "Samedi 22 septembre 1792")
     return month
 
 
@@ -312,6 +336,14 @@ def check_header(reader, month):
 
     reader.find_named("Mois précédent").queryAction().doAction(0)
     reader.wait_for("August", lambda: reader.name_of(month) == "Août 1792")
+
+    # The year's editor says its value.
+    reader.focused.clear()
+    reader.find_named("Année : 1792").queryAction().doAction(0)
+    reader.wait_for("the year's editor", lambda: "Année" in reader.focused)
+    value = reader.find(lambda item: item.getRole() == atspi.ROLE_SPIN_BUTTON).queryValue()
+    same("the year", (value.minimumValue, value.currentValue, value.maximumValue), (-3999, 1792, 3999))
+    reader.key("Escape")
 
     # With the keyboard from the month to the arrow before it, and back to September.
     month.queryComponent().grabFocus()

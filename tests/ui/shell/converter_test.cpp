@@ -1,6 +1,7 @@
 // The converter pane, through its controls.
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -41,7 +42,7 @@ class ConverterTest : public FrameTest {
 };
 
 TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
-  Show(17990101 + 1008);  // 9 November 1799
+  Show(17991109);
   EXPECT_TRUE(ShowsLine("Samedi 29 octobre 1799"));
   EXPECT_TRUE(ShowsLine("Jour julien n° 2378444"));
   EXPECT_TRUE(ShowsLine("Octidi 18 brumaire an 8\n (an VIII)"));
@@ -108,7 +109,9 @@ TEST_F(ConverterTest, ComplementaryDaysFollowTheYear) {
 TEST_F(ConverterTest, ADateBeforeTheEraEndsTheEntry) {
   Show(17920922);
   Click(Entry());
+  Year()->setFocus();
   Show(17920921);
+  EXPECT_TRUE(Dialog().Month().hasFocus());  // not whatever control comes next
   EXPECT_FALSE(Entry()->isVisible());
   EXPECT_FALSE(Day()->isVisible());
   Show(17920922);
@@ -119,22 +122,25 @@ TEST_F(ConverterTest, ADateBeforeTheEraEndsTheEntry) {
 TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
   Show(20240515);
   EXPECT_EQ(Difference()->text(), QString());
-  Kept()->setFocus();
+  QTest::mouseClick(Kept(), Qt::LeftButton);
   EXPECT_EQ(Now(), 20240515);  // nothing is remembered yet
 
   Click(Keep());
   EXPECT_EQ(Kept()->text(), QStringLiteral("15 mai 2024"));
   EXPECT_EQ(Difference()->text(), QStringLiteral("0"));
   EXPECT_TRUE(Dialog().Month().hasFocus());
-  Show(20210127 - 30000 + 1);
   Show(20210101);
   EXPECT_EQ(Difference()->text(), QStringLiteral("-1 230"));
   Show(20240516);
   EXPECT_EQ(Difference()->text(), QStringLiteral("1"));
 
-  Kept()->setFocus(Qt::ActiveWindowFocusReason);  // the window came to the front: nobody asked for the date
-  EXPECT_EQ(Now(), 20240516);
-  Dialog().FocusMonth();
+  // The window came to the front, a menu closed, an editor gave the focus back: nobody asked for the date.
+  for (const Qt::FocusReason reason :
+       {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason, Qt::OtherFocusReason}) {
+    Kept()->setFocus(reason);
+    EXPECT_EQ(Now(), 20240516) << reason;
+    Dialog().FocusMonth();
+  }
   QTest::mouseClick(Kept(), Qt::LeftButton);
   EXPECT_EQ(Now(), 20240515);
 
@@ -143,18 +149,32 @@ TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
   EXPECT_TRUE(Dialog().Month().hasFocus());
 }
 
-TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderOfTheLocale) {
+TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderAndUnderTheRulesInForce) {
   const struct {
     int order;
     const char* text;
-  } kOrders[] = {{0, "mai 15, 2024"}, {1, "15 mai 2024"}, {2, "2024 mai 15"}};
+  } kOrders[] = {{0, "mai 15, 2024"}, {2, "2024 mai 15"}, {1, "15 mai 2024"}};
+  Click(Keep());
   for (const auto& row : kOrders) {
     Selected().dateOrder = row.order;
-    Click(Keep());
+    Dialog().Refresh(false);
     EXPECT_EQ(Kept()->text(), QLatin1String(row.text));
-    Click(Keep());
   }
-  Selected().dateOrder = 1;
+  Rules().firstDayOfYear[0] = {20000301, true};
+  Dialog().SettingsChanged();
+  EXPECT_EQ(Kept()->text(), QStringLiteral("15 mai 2025"));
+}
+
+TEST_F(ConverterTest, TheKeyboardReachesTheDayNumberAndPressesButtons) {
+  auto* const number = Control<QLabel>("Jour julien n° 2460446");
+  number->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(frame->windowHandle(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), number->text());  // not the date, which the menu copies
+
+  auto* const button = Control<QPushButton>("notre ère");
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Return);
+  EXPECT_EQ(Now(), 10101);
 }
 
 TEST_F(ConverterTest, TheButtonsGoToNotableDays) {

@@ -7,42 +7,42 @@ namespace {
 
 TEST(DateHistoryTest, LeapsAreTakenBackAndForthAgain) {
   CDateHistory history;
-  history.Visit(20240501);
-  EXPECT_FALSE(history.CanGoBack());
+  const auto leap = [&](PackedDate date) { history.Visit(date, DateMove::kLeap); };
+  leap(20240501);
   EXPECT_EQ(history.Back(), 0);
-  history.Visit(39991231);
-  history.Visit(39991231);
-  history.Visit(-39990101);
-  EXPECT_EQ(history.Back(), 39991231);
-  history.Visit(39991231);  // the view shows what it was told to
+  leap(20240510);
+  leap(20240510);
+  leap(-39990101);
+  EXPECT_EQ(history.Back(), 20240510);
+  leap(20240510);  // the view shows what it was told to
   EXPECT_EQ(history.Back(), 20240501);
-  EXPECT_EQ(history.Forward(), 39991231);
-  history.Visit(10101);
+  EXPECT_EQ(history.Forward(), 20240510);
+  leap(10101);
   EXPECT_EQ(history.Forward(), 0);
-  EXPECT_EQ(history.Back(), 39991231);
+  EXPECT_EQ(history.Back(), 20240510);
 }
 
 TEST(DateHistoryTest, AWalkCountsOnceWithItsBeginningAndItsEnd) {
   CDateHistory history;
-  history.Visit(20240501);
-  for (const PackedDate date : {20240502, 20240503, 20240603, 20250603, 20260603}) history.Visit(date);
-  history.Visit(15821015);
-  EXPECT_EQ(history.Back(), 20260603);
-  EXPECT_EQ(history.Back(), 20240501);
-  EXPECT_FALSE(history.CanGoBack());
+  history.Visit(20240501, DateMove::kLeap);
+  for (const PackedDate date : {20240502, 20240503, 20240603, 20250603}) history.Visit(date, DateMove::kStep);
+  for (const PackedDate date : {10603, 150603, 1580603, 15820603}) history.Visit(date, DateMove::kTyping);
+  history.Visit(20240515, DateMove::kLeap);
+  for (const PackedDate date : {15820603, 20250603, 20240501, 0}) EXPECT_EQ(history.Back(), date);
 
-  // A year that is typed passes through others.
-  for (const PackedDate date : {10501, 150501, 1580501, 15820501}) history.Visit(date, VisitBy::kWalk);
-  EXPECT_EQ(history.Back(), 20240501);
+  history.Visit(20240502, DateMove::kStep);
+  history.Visit(20240501, DateMove::kStep);  // there and back leaves nothing behind
+  EXPECT_FALSE(history.CanGoBack());
+  EXPECT_FALSE(history.CanGoForward());
 }
 
 TEST(DateHistoryTest, TheOldestDatesAreForgottenFirst) {
   CDateHistory history;
   const int visits = static_cast<int>(CDateHistory::kMostDates) + 10;
-  for (int i = 0; i < visits; ++i) history.Visit((i % 2 == 0 ? 10000000 : 20000000) + 10101 + i / 31 * 100);
-  int steps = 0;
-  while (history.Back() != 0) ++steps;
-  EXPECT_EQ(steps, static_cast<int>(CDateHistory::kMostDates) - 1);
+  for (int year = 1; year <= visits; ++year) history.Visit(year * 10000 + 101, DateMove::kLeap);
+  PackedDate oldest = 0;
+  while (const PackedDate date = history.Back()) oldest = date;
+  EXPECT_EQ(oldest, 110101);
 }
 
 }  // namespace

@@ -1,13 +1,14 @@
 // The main frame: commands, pane, layout, focus.
 
 #include <QAction>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
+#include <QGroupBox>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QWindow>
 
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/month/year_edit.h"
@@ -79,7 +80,7 @@ TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
 
   frame->resize(0, 0);  // as small as it goes: the month is not cut
   Settle();
-  EXPECT_GE(Dialog().Month().width(), 7 * 40);
+  EXPECT_GE(Dialog().Month().width(), 7 * 56);
   const int least = frame->width();
   frame->RunCommand(kCmdTogglePane);
   Settle();
@@ -113,23 +114,40 @@ TEST_F(FrameTest, TheStoredRectangleAlwaysHoldsThePaneAndTheFrame) {
   }
 }
 
-TEST_F(FrameTest, AMaximizedFrameKeepsItsNormalRectangle) {
+TEST_F(FrameTest, AFrameWithoutASizeOfItsOwnKeepsItsNormalRectangle) {
+  for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+    SCOPED_TRACE(state);
+    Open();
+    frame->setWindowState(Qt::WindowNoState);
+    frame->setGeometry(100, 80, 900, 520);
+    Settle();
+    const Rect whole = WithFrame(*frame);
+    frame->setWindowState(state);
+    Settle();
+    frame->RunCommand(kCmdTogglePane);
+    frame->close();
+    EXPECT_EQ(Stored().maximized, state == Qt::WindowMaximized ? 1 : 0);
+    EXPECT_EQ(Stored().rect, whole);
+
+    Open();
+    EXPECT_EQ(frame->isMaximized(), state == Qt::WindowMaximized);
+    frame->RunCommand(kCmdTogglePane);
+    frame->close();
+    EXPECT_EQ(Stored().rect, whole);
+  }
+}
+
+TEST_F(FrameTest, WhatThePaneTookWhileTheFrameWasMaximizedIsGivenBackAfterwards) {
   Open();
   frame->setGeometry(100, 80, 900, 520);
-  Settle();
-  const Rect whole = WithFrame(*frame);
   frame->showMaximized();
   Settle();
   frame->RunCommand(kCmdTogglePane);
-  frame->close();
-  EXPECT_EQ(Stored().maximized, 1);
-  EXPECT_EQ(Stored().rect, whole);
-
-  Open();
-  EXPECT_TRUE(frame->isMaximized());
-  frame->RunCommand(kCmdTogglePane);
-  frame->close();
-  EXPECT_EQ(Stored().rect, whole);
+  frame->showFullScreen();
+  QTest::qWait(100);
+  EXPECT_TRUE(frame->isFullScreen());  // nothing resizes it out of that state
+  frame->showNormal();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() == 900 - Dialog().PaneWidth(); }));
 }
 
 TEST_F(FrameTest, AMinimizedFrameStoresNothing) {
@@ -141,15 +159,20 @@ TEST_F(FrameTest, AMinimizedFrameStoresNothing) {
   EXPECT_EQ(store.written.size(), before);
 }
 
-TEST_F(FrameTest, AWindowStoredOnAScreenThatIsGoneComesBackOntoOneThatIsThere) {
-  WindowLayout far;
-  far.rect = {4000, 3000, 4900, 3500};
-  far.statusBarShown = 0;
-  store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(far))}});
-  Open();
-  EXPECT_TRUE(QRect(0, 0, 1920, 1080).contains(frame->geometry()));
-  EXPECT_FALSE(frame->statusBar()->isVisible());
-  EXPECT_FALSE(frame->Commands().Action(kCmdToggleStatusBar)->isChecked());
+TEST_F(FrameTest, AWindowStoredWhereNobodySeesItComesBackOntoTheScreen) {
+  constexpr int kMost = 2147483647;
+  for (const Rect& rect :
+       {Rect{4000, 3000, 4900, 3500}, Rect{-9000, -9000, -8000, -8500}, Rect{kMost, kMost, -kMost, -kMost}}) {
+    WindowLayout far;
+    far.rect = rect;
+    far.statusBarShown = 0;
+    StoreLayout(far);
+    Open();
+    EXPECT_TRUE(frame->screen()->availableGeometry().contains(frame->geometry())) << rect.left;
+    EXPECT_FALSE(frame->statusBar()->isVisible());
+    EXPECT_FALSE(frame->Commands().Action(kCmdToggleStatusBar)->isChecked());
+    EXPECT_FALSE(Dialog().IsPaneShown());
+  }
 }
 
 TEST_F(FrameTest, BarsAreHiddenAndShownAndOnlyTheStatusBarIsRemembered) {
@@ -179,6 +202,13 @@ TEST_F(FrameTest, AltAndArrowsGoThroughTheDatesVisited) {
   Settle();
   QTest::keyClick(&month, Qt::Key_J);
   Settle();
+  QTest::keyClick(&month, Qt::Key_PageUp);
+  Settle();
+  Control<QPushButton>("julien")->click();  // as near as a step, yet not one
+  for (const PackedDate date : {-451201, -440101}) {
+    alt(Qt::Key_Left);
+    EXPECT_EQ(Now(), date);
+  }
   alt(Qt::Key_Left);
   EXPECT_EQ(Now(), kLastDateShown);
   alt(Qt::Key_Left);
@@ -218,7 +248,7 @@ TEST_F(FrameTest, WithThePaneHiddenTheKeyboardBelongsToTheMonthOrTheHeader) {
   QTest::keyPress(editor, Qt::Key_Return);
   QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(Dialog().Month().hasFocus());
-  EXPECT_EQ(Dialog().History().CanGoBack(), true);
+  EXPECT_TRUE(Dialog().History().CanGoBack());
   frame->RunCommand(kCmdGoBack);
   EXPECT_EQ(Now(), 20240515);  // not a year passed while typing
 }
@@ -232,9 +262,39 @@ TEST_F(FrameTest, WhatHasNoEditorYetIsRefused) {
 TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOne) {
   Open();
   EXPECT_EQ(frame->windowTitle(), QStringLiteral("Orbisol"));
-  store.Write({{"CalendarName", TextValue(u"Été & <b>")}});
+  store.Write({{"CalendarName", TextValue(u"Été & <b> [*]")}});
   Open();
-  EXPECT_EQ(frame->windowTitle(), QString::fromUtf8("Orbisol - Été & <b>"));
+  EXPECT_EQ(frame->windowHandle()->title(), QString::fromUtf8("Orbisol - Été & <b> [*]"));
+}
+
+TEST_F(FrameTest, TheTextsAreFrenchAndTheNamesOfTheLocale) {
+  FakeLocale english;
+  english.dateOrder = 0;
+  english.firstDay = 6;
+  english.months = {u"January", u"February", u"March",     u"April",   u"May",      u"June",
+                    u"July",    u"August",   u"September", u"October", u"November", u"December"};
+  english.weekdays = {u"Monday", u"Tuesday", u"Wednesday", u"Thursday", u"Friday", u"Saturday", u"Sunday"};
+  const ScopedPlatform inForce(english, FakeClock({2024, 5, 15}));
+  Selected() = Date(20240515);
+  Open();
+  EXPECT_EQ(Dialog().Header().TitleText(), QStringLiteral("May 2024"));
+  EXPECT_EQ(Dialog().JulianText(), QStringLiteral("Wednesday, May 2, 2024"));
+  QStringList groups;
+  for (const QGroupBox* const group : Dialog().findChildren<QGroupBox*>()) groups << group->title();
+  EXPECT_TRUE(groups.contains(QString::fromUtf8("Calendrier républicain")))
+      << groups.join(u'|').toStdString();
+  EXPECT_EQ(frame->menuBar()->actions().first()->text(), QStringLiteral("&Fichier"));
+}
+
+TEST_F(FrameTest, SelectionsFollowTheThemeOfTheDesktop) {
+  Open();
+  const QPalette before = QApplication::palette();
+  QPalette theme = before;
+  theme.setColor(QPalette::Highlight, QColor(200, 30, 90));
+  QApplication::setPalette(theme);
+  Settle();
+  EXPECT_EQ(Dialog().Pane().palette().color(QPalette::Highlight), QColor(200, 30, 90));
+  QApplication::setPalette(before);
 }
 
 TEST_F(FrameTest, TheFirstStartShowsTheHolidaysOfTheCountry) {

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -21,6 +22,7 @@
 #include <string>
 
 #include "files/calendar_file.h"
+#include "tests/support/warnings.h"
 #include "tests/ui/shell/frame_fixture.h"
 
 namespace orbisol {
@@ -29,28 +31,6 @@ namespace {
 constexpr unsigned kSeed = 1792;
 constexpr int kEvents = 20000;
 constexpr int kFirstMeasure = 100000;
-
-// Warnings of the toolkit, but for what the platform without a display says of itself.
-class CWarnings {
- public:
-  CWarnings() : m_before(qInstallMessageHandler(Take)) { Texts().clear(); }
-  ~CWarnings() { qInstallMessageHandler(m_before); }
-
-  static std::vector<std::string>& Texts() {
-    static std::vector<std::string> texts;
-    return texts;
-  }
-
- private:
-  static void Take(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtDebugMsg || type == QtInfoMsg) return;
-    for (const char* const known : {"propagateSizeHints", "raise()", "does not support grabbing"})
-      if (text.contains(QLatin1String(known))) return;
-    Texts().push_back(text.toStdString());
-  }
-
-  QtMessageHandler m_before;
-};
 
 int EventsToSend() {
   const char* const asked = std::getenv("ORBISOL_RANDOM_EVENTS");
@@ -85,12 +65,18 @@ class RandomEventsTest : public FrameTest {
   }
 
   // Where a real hand would come through: the open menu first, else the window; sometimes just beside it.
-  QWidget& Target() {
+  struct Spot {
+    QPointer<QWidget> widget;
+    QPoint inside;
+    QPoint onScreen;
+  };
+  Spot Anywhere() {
     QWidget* const popup = QApplication::activePopupWidget();
-    return popup != nullptr ? *popup : *frame;
-  }
-  QPoint Somewhere(const QWidget& target) {
-    return {UpTo(target.width() + 20) - 10, UpTo(target.height() + 20) - 10};
+    QWidget* const target = popup != nullptr ? popup : frame.get();
+    const QPoint at(UpTo(target->width() + 20) - 10, UpTo(target->height() + 20) - 10);
+    QWidget* child = target->childAt(at);
+    if (child == nullptr) child = target;
+    return {child, child->mapFrom(target, at), target->mapToGlobal(at)};
   }
 
   void SendKey() {
@@ -109,34 +95,26 @@ class RandomEventsTest : public FrameTest {
   }
 
   void SendMove() {
-    QWidget& target = Target();
-    const QPoint at = Somewhere(target);
-    QWidget* child = target.childAt(at);
-    if (child == nullptr) child = &target;
-    QMouseEvent event(QEvent::MouseMove, QPointF(child->mapFrom(&target, at)),
-                      QPointF(target.mapToGlobal(at)), Qt::NoButton, Qt::NoButton, Modifiers());
-    QApplication::sendEvent(child, &event);
+    const Spot spot = Anywhere();
+    QMouseEvent event(QEvent::MouseMove, QPointF(spot.inside), QPointF(spot.onScreen), Qt::NoButton,
+                      Qt::NoButton, Modifiers());
+    QApplication::sendEvent(spot.widget, &event);
   }
 
   // Pressed and let go in one widget, as the toolkit guarantees to it.
   void SendGesture() {
-    QWidget& target = Target();
+    const Spot spot = Anywhere();
     const Qt::MouseButton button = OneIn(8) ? Qt::RightButton : Qt::LeftButton;
-    const QPoint at = Somewhere(target);
-    QPointer<QWidget> child = target.childAt(at);
-    if (child == nullptr) child = &target;
     const auto send = [&](QEvent::Type type, QPoint where) {
-      if (child == nullptr) return;
-      const QPoint global = child->mapToGlobal(where);
+      if (spot.widget == nullptr) return;
       const bool isUp = type == QEvent::MouseButtonRelease;
-      QMouseEvent event(type, QPointF(where), QPointF(global),
+      QMouseEvent event(type, QPointF(where), QPointF(spot.widget->mapToGlobal(where)),
                         type == QEvent::MouseMove ? Qt::NoButton : button,
                         isUp ? Qt::NoButton : Qt::MouseButtons(button), Modifiers());
-      QApplication::sendEvent(child, &event);
+      QApplication::sendEvent(spot.widget, &event);
     };
-    const QPoint inside = child->mapFrom(&target, at);
-    send(OneIn(6) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, inside);
-    QPoint last = inside;
+    send(OneIn(6) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, spot.inside);
+    QPoint last = spot.inside;
     for (int moves = OneIn(3) ? UpTo(4) : 0; moves > 0; --moves) {
       last = {UpTo(700) - 60, UpTo(500) - 60};
       send(QEvent::MouseMove, last);
@@ -145,64 +123,44 @@ class RandomEventsTest : public FrameTest {
   }
 
   void SendWheel() {
-    QWidget& target = Target();
-    const QPoint at = Somewhere(target);
-    QWidget* child = target.childAt(at);
-    if (child == nullptr) child = &target;
-    QWheelEvent event(QPointF(child->mapFrom(&target, at)), QPointF(target.mapToGlobal(at)), QPoint(),
+    const Spot spot = Anywhere();
+    QWheelEvent event(QPointF(spot.inside), QPointF(spot.onScreen), QPoint(),
                       QPoint(OneIn(10) ? UpTo(240) - 120 : 0, UpTo(500) - 250), Qt::NoButton, Modifiers(),
                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(child, &event);
+    QApplication::sendEvent(spot.widget, &event);
   }
 
   void SendTip() {
-    const QPoint at = Somewhere(*frame);
-    QWidget* child = frame->childAt(at);
-    if (child == nullptr) child = frame.get();
-    QHelpEvent event(QEvent::ToolTip, child->mapFrom(frame.get(), at), frame->mapToGlobal(at));
-    QApplication::sendEvent(child, &event);
+    const Spot spot = Anywhere();
+    QHelpEvent event(QEvent::ToolTip, spot.inside, spot.onScreen);
+    QApplication::sendEvent(spot.widget, &event);
   }
 
   void SendResize() {
-    switch (UpTo(7)) {
-      case 0:
-        frame->showMaximized();
-        break;
-      case 1:
-        frame->showNormal();
-        break;
-      default:
-        frame->resize(UpTo(1600), UpTo(1000));
-        break;
+    const int share = UpTo(7);
+    if (share == 0) {
+      frame->showMaximized();
+    } else if (share == 1) {
+      frame->showNormal();
+    } else {
+      frame->resize(UpTo(1600), UpTo(1000));
     }
   }
 
   void SendSomething() {
-    switch (UpTo(11)) {
-      case 0:
-      case 1:
-      case 2:
-      case 3:
-        SendKey();
-        break;
-      case 4:
-      case 5:
-      case 6:
-        SendGesture();
-        break;
-      case 7:
-        SendMove();
-        break;
-      case 8:
-      case 9:
-        SendWheel();
-        break;
-      case 10:
-        if (OneIn(4)) SendResize();
-        break;
-      default:
-        SendTip();
-        break;
+    const int share = UpTo(11);
+    if (share < 4) {
+      SendKey();
+    } else if (share < 7) {
+      SendGesture();
+    } else if (share < 8) {
+      SendMove();
+    } else if (share < 10) {
+      SendWheel();
+    } else if (share < 11) {
+      SendTip();
+    } else if (OneIn(4)) {
+      SendResize();
     }
   }
 

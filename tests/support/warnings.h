@@ -1,0 +1,41 @@
+// Warnings of the toolkit while one of these lives.
+//
+//   const CWarnings warnings;
+//   …
+//   EXPECT_EQ(warnings.Texts(), std::vector<std::string>());
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace orbisol {
+
+class CWarnings {
+ public:
+  CWarnings() : m_before(qInstallMessageHandler(Take)) { Taken().clear(); }
+  ~CWarnings() { qInstallMessageHandler(m_before); }
+  CWarnings(const CWarnings&) = delete;
+  CWarnings& operator=(const CWarnings&) = delete;
+
+  static const std::vector<std::string>& Texts() { return Taken(); }
+
+ private:
+  static std::vector<std::string>& Taken() {
+    static std::vector<std::string> texts;
+    return texts;
+  }
+
+  static void Take(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtDebugMsg || type == QtInfoMsg) return;
+    // What the platform without a display says of itself.
+    for (const char* const known : {"propagateSizeHints", "raise()", "does not support grabbing"})
+      if (text.contains(QLatin1String(known))) return;
+    Taken().push_back(text.toStdString());
+  }
+
+  QtMessageHandler m_before;
+};
+
+}  // namespace orbisol

@@ -1,0 +1,15 @@
+// Colors on their way to the toolkit.
+#pragma once
+
+#include <QColor>
+
+#include "settings/display_settings.h"
+
+namespace orbisol {
+
+inline QColor ToQColor(Color color) {
+  return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
+          static_cast<int>(color >> 16 & 0xFF)};
+}
+
+}  // namespace orbisol

@@ -1,0 +1,20 @@
+// Names that several views of the month write in the same way.
+#pragma once
+
+#include <QString>
+
+namespace orbisol {
+
+// Pieces of kTextHeaderNames.
+enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
+
+// "Lundi": over column 0..6 of a month whose first cell is 1 (Monday) or 0 (Sunday).
+QString ColumnName(int column, int firstCell);
+
+// "Mai", by a month 1..12.
+QString MonthTitle(int month);
+
+// "Mai 2024", by the civil year.
+QString MonthAndYear(const QString& monthTitle, int year);
+
+}  // namespace orbisol
