@@ -34,6 +34,8 @@
 namespace orbisol {
 namespace {
 
+const QLatin1String kWidestYear("-0000");
+
 constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
 
 }  // namespace
@@ -60,7 +62,7 @@ CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent) : QWidget(parent), m_h
   connect(m_year, &CYearEdit::YearEntered, this, &CHeaderWnd::SetYear);
   connect(m_year, &CYearEdit::Closed, this, &CHeaderWnd::YearEditorClosed);
 
-  LayOut();
+  TakeDate();
 }
 
 bool CHeaderWnd::IsEditingYear() const { return m_year->isVisible(); }
@@ -101,35 +103,45 @@ void CHeaderWnd::Refresh() {
     update(ToQRect(m_layout.bottomBand));
     return;
   }
+  TakeDate();
+  if (!m_hasSize) return;
   LayOut();
   update();
 }
 
-void CHeaderWnd::LayOut() {
-  const Date& selected = Selected();
-  m_band = HeaderBandHeight(QFontInfo(font()).pixelSize());
-  m_monthName = MonthTitle(selected.month);
-  m_shownYear = CivilYearOf(selected);
+void CHeaderWnd::TakeDate() {
+  m_monthName = MonthTitle(Selected().month);
+  m_shownYear = CivilYearOf(Selected());
+  UpdateNames();
+}
 
-  QFont bold = CalendarFont(Display(), font());
-  bold.setBold(true);
-  m_titleFont = FontOfHeight(bold, HeaderLayout::TitleHeight(height(), m_band));
-  const QString widestYear = QStringLiteral("-0000");
+// The font of the title, by the size of the header and the face; a date changes neither.
+void CHeaderWnd::FitTitle() {
+  QFont face = CalendarFont(Display(), font());
+  face.setBold(true);
+  if (m_fittedSize == size() && m_fittedFace == face) return;
+  m_fittedSize = size();
+  m_fittedFace = face;
+
+  m_titleFont = FontOfHeight(face, HeaderLayout::TitleHeight(height(), m_band));
   const auto widest = [&] {
     const QFontMetrics metrics(m_titleFont);
     int name = 0;
     for (int month = 1; month <= 12; ++month)
       name = std::max(name, metrics.horizontalAdvance(MonthTitle(month)));
-    return name + metrics.horizontalAdvance(QLatin1Char(' ') + widestYear);
+    return name + metrics.horizontalAdvance(QLatin1Char(' ') + kWidestYear);
   };
   // In a narrow and high window every title must still fit between the arrows.
   const int room = HeaderLayout::TitleRoom(width(), height());
   for (int needed = widest(); needed > room && m_titleFont.pixelSize() > 1; needed = widest())
     m_titleFont.setPixelSize(
         std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
+}
 
+void CHeaderWnd::LayOut() {
+  m_band = HeaderBandHeight(QFontInfo(font()).pixelSize());
+  FitTitle();
   const QFontMetrics metrics(m_titleFont);
-  m_year->setFont(FontOfHeight(bold, std::max(1, std::min(metrics.height(), height() - 2 * m_band - 4))));
   HeaderMeasures measures;
   measures.width = width();
   measures.height = height();
@@ -137,7 +149,7 @@ void CHeaderWnd::LayOut() {
   measures.space = metrics.horizontalAdvance(QLatin1Char(' '));
   measures.month = metrics.horizontalAdvance(m_monthName);
   measures.year = metrics.horizontalAdvance(QString::number(m_shownYear));
-  measures.widestYear = metrics.horizontalAdvance(widestYear);
+  measures.widestYear = metrics.horizontalAdvance(kWidestYear);
   measures.spinButtons = m_year->ButtonsWidth();
   m_layout = HeaderLayout(measures);
 
@@ -199,10 +211,16 @@ void CHeaderWnd::paintEvent(QPaintEvent*) {
   drawBand(m_layout.bottomBand, LeftText(), RightText(), true);
 }
 
-void CHeaderWnd::resizeEvent(QResizeEvent*) { LayOut(); }
+void CHeaderWnd::resizeEvent(QResizeEvent*) {
+  m_hasSize = true;
+  LayOut();
+}
 
 void CHeaderWnd::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOut();
+  if (m_hasSize && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+    m_fittedSize = QSize();
+    LayOut();
+  }
   QWidget::changeEvent(event);
 }
 
@@ -316,6 +334,10 @@ void CHeaderWnd::SelectMonth(int month) {
 void CHeaderWnd::OpenYearEditor() {
   if (IsEditingYear()) return;
   m_focusBefore = QApplication::focusWidget();
+  constexpr int kFieldFrame = 4;  // above and below the text together
+  const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
+  m_year->setFont(FontOfHeight(m_fittedFace, std::max(1, room)));
+  LayOut();
   m_year->Open(CivilYearOf(Selected()));
   update(ToQRect(m_layout.year));
 }

@@ -65,6 +65,8 @@ class CHeaderWnd : public QWidget {
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
+  void TakeDate();
+  void FitTitle();
   void LayOut();
   void Press(HeaderPart part, Qt::KeyboardModifiers modifiers);
   void Step(bool isForward, Qt::KeyboardModifiers modifiers);
@@ -81,15 +83,18 @@ class CHeaderWnd : public QWidget {
 
   HeaderHost* m_host;
   HeaderLayout m_layout;
+  bool m_hasSize = false;  // one was given to it; until then nothing is laid out
   QFont m_titleFont;
+  QFont m_fittedFace;  // what the font of the title was made for
+  QSize m_fittedSize;
   int m_band = 0;  // height of the bands
   QString m_monthName;
   int m_shownYear = 0;  // as the title shows it
-  CHeaderPart* m_previousPart;
-  CHeaderPart* m_monthPart;
-  CHeaderPart* m_yearPart;
-  CHeaderPart* m_nextPart;
-  CYearEdit* m_year;
+  CHeaderPart* m_previousPart = nullptr;
+  CHeaderPart* m_monthPart = nullptr;
+  CHeaderPart* m_yearPart = nullptr;
+  CHeaderPart* m_nextPart = nullptr;
+  CYearEdit* m_year = nullptr;
   QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
   bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet
 };

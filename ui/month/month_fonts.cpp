@@ -23,12 +23,15 @@ int WidestOf(const QStringList& texts, const QFont& font) {
 QFont FontOfWidth(QFont font, const QStringList& texts, int room) {
   const int widest = WidestOf(texts, font);
   if (widest <= room) return font;
-  // Widths grow with the size, nearly evenly: from a little above the estimate down to the first that fits.
-  int size = std::min(font.pixelSize(), font.pixelSize() * std::max(room, 1) / widest + 2);
-  for (; size > 1; --size) {
+  const auto fits = [&](int size) {
     font.setPixelSize(size);
-    if (WidestOf(texts, font) <= room) break;
-  }
+    return WidestOf(texts, font) <= room;
+  };
+  // Widths grow with the size, nearly evenly.
+  const int largest = font.pixelSize();
+  int size = std::max(1, largest * std::max(room, 1) / widest);
+  while (size > 1 && !fits(size)) --size;
+  while (size < largest && fits(size + 1)) ++size;
   font.setPixelSize(size);
   return font;
 }
@@ -44,8 +47,10 @@ QFont FontOfHeight(QFont font, int height) {
     font.setPixelSize(1);
     return font;
   }
-  font.setPixelSize(height);
-  int size = std::max(1, height * height / std::max(QFontMetrics(font).height(), 1));
+  // Each size that is tried is loaded: most faces are about a sixth higher than their size.
+  const int guess = std::max(1, height * 6 / 7);
+  font.setPixelSize(guess);
+  int size = std::max(1, guess * height / std::max(QFontMetrics(font).height(), 1));
   while (size > 1 && !fits(size)) --size;
   while (size < height && fits(size + 1)) ++size;
   font.setPixelSize(size);

@@ -30,7 +30,6 @@ CMonthWindow::CMonthWindow(MonthHost* host, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
   m_painter.SetBackground(LoadBackground(Display()));
-  LayOut();
   CheckToday();
 }
 
@@ -102,7 +101,8 @@ bool CMonthWindow::event(QEvent* event) {
 }
 
 void CMonthWindow::paintEvent(QPaintEvent* event) {
-  if (m_isStretched && !m_isCanvasPainted) LayOut();  // There is no picture to stretch yet.
+  // Nobody has given it a size yet, or there is no picture to stretch.
+  if (m_isStretched ? !m_isCanvasPainted : Places().width != width() || Places().height != height()) LayOut();
   const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
   const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == devicePixelRatioF();
   if (!fits && !(m_isStretched && m_isCanvasPainted)) {

@@ -8,6 +8,7 @@
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/text.h"
 #include "ui/common/keys.h"
@@ -37,8 +38,7 @@ void CYearEdit::Open(int year) {
 }
 
 void CYearEdit::SetPosition(int year) {
-  if (year == m_position) return;
-  m_position = year;
+  if (year == std::exchange(m_position, year) || !isVisible()) return;
   QAccessibleValueChangeEvent event(this, year);
   QAccessible::updateAccessibility(&event);
 }

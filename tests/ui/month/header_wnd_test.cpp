@@ -75,6 +75,7 @@ TEST_F(HeaderWndTest, ArrowsStepAsTheirKeysSayAndTheRightButtonGoesToTheEnds) {
     Qt::MouseButton button = Qt::LeftButton;
   } kSteps[] = {
       {20240229, false, Qt::NoModifier, 20240129},
+      {20240131, true, Qt::NoModifier, 20240229},
       {20240229, false, Qt::ControlModifier, 20230229},  // On purpose: a day that does not exist is kept.
       {20240229, true, Qt::ControlModifier, 20250229},
       {20240501, false, Qt::ShiftModifier, 20140501},

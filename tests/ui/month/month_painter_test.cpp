@@ -39,6 +39,7 @@ struct Page {
     settings.backgroundAlpha = 255;
     settings.colors[kHolidaysBgColor] = kYellow;
     settings.colors[kCircleColor] = kBlue;
+    marks.month = 5;
   }
 
   MonthLayout Layout() const { return {width, height, settings.showWeekNumber, Rules().iso8601}; }
@@ -52,10 +53,6 @@ struct Page {
 
   Rect Cell(int day) const { return Layout().CellRect(Model().CellOf(5, day)); }
 
-  void Mark(int ofMonth, int day) {
-    marks.month = ofMonth;
-    marks.day = day;
-  }
   void FillDays(PackedDate from, PackedDate to) { content.holidays.push_back({from, to, {}}); }
 
   void PaintOn(QImage& canvas, const QRegion& region = {}) const {
@@ -141,7 +138,7 @@ TEST(MonthPainterTest, LinesAndFramesAreEquallyWideAtEveryRatio) {
     for (int day = 13; day <= 19; ++day) {
       SCOPED_TRACE(testing::Message() << "ratio " << ratio << ", the " << day);
       page.ratio = ratio;
-      page.Mark(5, day);
+      page.marks.day = day;
       const QImage image = page.Paint();
       const auto pixel = [ratio = ratio](int place) { return static_cast<int>((place + 8) * ratio); };
       EXPECT_EQ(Widths(image, kBlue, pixel(page.Cell(day).top), false), std::set{stroke});
@@ -185,7 +182,8 @@ TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighbouringMonthsDay) {
   Page page;
   page.settings.circleTheDay = true;
   page.settings.circleWidth = 3;
-  page.Mark(4, 30);  // five pixels inside the sides, three inside top and bottom, a twentieth of the cell
+  page.marks.month = 4;
+  page.marks.day = 30;  // five pixels inside the sides, three inside top and bottom, a twentieth of the cell
   EXPECT_EQ(PixelAt(page.Paint(), 105, 90), kBlue);
   EXPECT_EQ(PixelAt(page.Paint(), 150, 63), kBlue);
   EXPECT_EQ(PixelAt(page.Paint(), 101, 61), kWindowColor);
@@ -222,9 +220,9 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
       page.settings.circleTheDay = isCircle;
       page.settings.circleWidth = 3;
       page.FillDays(20240506, 20240526);
-      page.Mark(5, 12);  // the last of its row
+      page.marks.day = 12;  // the last of its row
       QImage canvas = page.Paint();
-      page.Mark(5, 20);
+      page.marks.day = 20;
       const auto dirty = [&](int day) {
         return ToQRect(page.Layout().DirtyRect(page.Model().CellOf(5, day)));
       };
