@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "core/republican.h"
 #include "ui/common/geometry.h"
 #include "ui/common/plain_text.h"
 #include "ui/month/month_accessible.h"
@@ -22,10 +23,6 @@
 
 namespace orbisol {
 namespace {
-
-constexpr PackedDate kFirstYear = 10101;
-constexpr PackedDate kJulianReform = -440101;  // astronomical: 45 BC, the first year of the Julian calendar
-constexpr PackedDate kRepublicanEpoch = 17920922;
 
 constexpr int kWheelStep = 120;                // eighths of a degree, a notch of an ordinary wheel
 constexpr int kMostTurned = 100 * kWheelStep;  // in one event; more is no wheel
@@ -111,13 +108,13 @@ bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
   if (hasCtrl) return false;
   switch (key) {
     case Qt::Key_E:
-      date.SetPacked(kFirstYear);
+      date.SetPacked(kFirstDayOfEra);
       return true;
     case Qt::Key_G:
       date.SetPacked(Rules().startGregorian);
       return true;
     case Qt::Key_J:
-      date.SetPacked(kJulianReform);
+      date.SetPacked(kFirstJulianDay);
       return true;
     case Qt::Key_R:
       date.SetPacked(kRepublicanEpoch);

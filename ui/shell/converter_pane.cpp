@@ -38,9 +38,7 @@ namespace {
 // Pieces of kTextConverterNames.
 enum { kNameDay, kNameMonth, kNameYear, kNameKept, kNameDifference };
 
-constexpr PackedDate kFirstDayOfEra = 10101;
-constexpr PackedDate kFirstJulianDay = -440101;  // astronomical: 1 January 45 BC
-constexpr int kMonthDays = 30;                   // of every Republican month
+constexpr int kMonthDays = 30;  // of every Republican month
 
 // The room of a control stays empty while it is hidden, so that nothing below it moves.
 void KeepRoom(QWidget* widget) {
