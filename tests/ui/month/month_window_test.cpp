@@ -120,6 +120,7 @@ TEST_F(MonthWindowTest, ClicksSelectDaysAndDragsOpenTheRangeFromItsEarlierToItsL
 
 TEST_F(MonthWindowTest, FirstMonthBeginsWithEmptyCellsAndClicksBesideTheDaysChangeNothing) {
   Display().showWeekNumber = true;
+  Display().grid = false;
   window->SettingsChanged();
   Select(-39990115);
   // On purpose: the first month begins with empty cells, and is painted behind them.
