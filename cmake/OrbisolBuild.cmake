@@ -4,7 +4,7 @@ option(ORBISOL_TESTS "Build the tests" ON)
 option(ORBISOL_BENCH "Build the benches" OFF)
 option(ORBISOL_FUZZ "Build the fuzzers (clang only)" OFF)
 option(ORBISOL_WERROR "Warnings are errors" OFF)
-option(ORBISOL_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
+option(ORBISOL_SANITIZE "Address and undefined-behavior sanitizers" OFF)
 option(ORBISOL_COVERAGE "Count which lines and branches run" OFF)
 option(ORBISOL_PCH "Precompile the Qt and GoogleTest headers" OFF)
 

@@ -14,7 +14,8 @@ namespace orbisol {
 constexpr PackedDate kFirstDateShown = -39990101;
 constexpr PackedDate kLastDateShown = 39991231;
 
-// Days that keys and buttons lead to, beside the reform in force and the Republican epoch (core/republican.h).
+// Days that keys and buttons lead to, beside the reform in force and the Republican epoch
+// (core/republican.h).
 constexpr PackedDate kFirstDayOfEra = 10101;
 constexpr PackedDate kFirstJulianDay = -440101;  // astronomical: 1 January 45 BC
 

@@ -8,6 +8,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cerrno>
@@ -23,7 +24,7 @@ constexpr int kAttempts = 40;  // the first may hold the lock and not listen yet
 constexpr std::chrono::milliseconds kPause(25);
 
 constexpr std::size_t kLongestToken = 4096;
-constexpr int kTokenWait = 100;  // milliseconds
+constexpr std::chrono::milliseconds kLongestHearing(100);
 
 // What is cleared out of runtime folders spares files with this bit.
 constexpr mode_t kLockMode = 01600;
@@ -69,12 +70,18 @@ bool Call(const std::string& path, const std::string& token) {
   return false;
 }
 
-// What a caller says before it hangs up.
-std::string Hear(int caller) {
+using Moment = std::chrono::steady_clock::time_point;
+
+// What a caller says before it hangs up, or until then.
+std::string Hear(int caller, Moment end) {
   std::string text;
   std::array<char, 512> piece{};
   pollfd waiting{caller, POLLIN, 0};
-  while (text.size() < kLongestToken && poll(&waiting, 1, kTokenWait) > 0) {
+  const auto left = [&] {
+    const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(end - Moment::clock::now());
+    return std::max(static_cast<int>(rest.count()), 0);
+  };
+  while (text.size() < kLongestToken && poll(&waiting, 1, left()) > 0) {
     const ssize_t length = recv(caller, piece.data(), piece.size(), MSG_DONTWAIT);
     if (length <= 0) break;
     text.append(piece.data(), static_cast<std::size_t>(length));
@@ -98,7 +105,12 @@ std::string RuntimeFolder() { return FindRuntimeFolder(Variable, getuid()); }
 
 std::string DisplayName() {
   std::string name = Variable("WAYLAND_DISPLAY");
-  if (name.empty()) name = Variable("DISPLAY");
+  if (name.empty()) {
+    name = Variable("DISPLAY");
+    // ":0.1" is another screen of display ":0".
+    if (const auto screen = name.find('.', name.rfind(':') + 1); screen != std::string::npos)
+      name.erase(screen);
+  }
   for (char& c : name)
     if (std::isalnum(static_cast<unsigned char>(c)) == 0 && c != '-') c = '_';
   return name;
@@ -147,13 +159,14 @@ bool CSingleInstance::Listen(const std::string& path) {
 
 std::optional<std::string> CSingleInstance::TakeCall() {
   std::optional<std::string> token;
+  const Moment end = Moment::clock::now() + kLongestHearing;
   while (m_socket >= 0) {
     const int caller = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
     if (caller < 0) {
       if (errno == EINTR || errno == ECONNABORTED) continue;
       break;
     }
-    token = Hear(caller);
+    token = Hear(caller, end);
     close(caller);
   }
   return token;

@@ -47,7 +47,7 @@ class CSingleInstance {
   int Descriptor() const { return m_socket; }
 
   // The token of the last start since this was asked before, empty when it had none; nothing when there was
-  // no start. Waits a tenth of a second at most, for a caller that has not said all yet.
+  // no start. Waits a tenth of a second at most, for callers that have not said all yet.
   std::optional<std::string> TakeCall();
 
  private:

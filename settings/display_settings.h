@@ -42,7 +42,7 @@ enum ColorIndex : int {
   kHolidaysFontColor,  // a vacation period
   kHolidaysBgColor,
   kCircleColor,     // the mark of the active day
-  kGrayTextColor,   // days of the neighbouring months
+  kGrayTextColor,   // days of the neighboring months
   kColorCalHeader,  // the title of the month
   kColorBgCal,      // behind the calendar
   kColorWeekNumber,
@@ -63,9 +63,9 @@ struct WindowLayout {
   Rect rect{50, 50, 900, 450};  // screen coordinates with the frame; of the main window always with its pane
   std::uint8_t maximized = 0;
   std::uint8_t statusBarShown = 1;
-  std::uint8_t reserved = 1;  // carried along
+  std::uint8_t reserved = 1;        // carried along
   std::uint8_t rightPaneShown = 0;  // a fresh window shows the month alone
-  int rightPaneWidth = 0;  // pixels; informative, measured anew at every start
+  int rightPaneWidth = 0;           // pixels; informative, measured anew at every start
 
   bool operator==(const WindowLayout&) const = default;
 };
@@ -87,7 +87,7 @@ struct DisplaySettings {
   std::array<Color, kColorCount> colors{};
   bool circleTheDay = false;        // mark the active day with a circle, not a rectangle
   int circleWidth = 2;              // 1 thin .. 3 thick; out of range as stored, clamped where used
-  bool collapseCells = true;        // backgrounds of neighbouring days touch
+  bool collapseCells = true;        // backgrounds of neighboring days touch
   bool fullCellBackground = false;  // over the whole cell, not a band
   int backgroundAlpha = 128;        // 16..255, opaque; out of range as stored, clamped where used
   bool grid = true;

@@ -44,7 +44,7 @@ void ReadNumbers(const StoredValues& values, DisplaySettings& display) {
   }
 }
 
-// False for one turned inside out, as only a damaged value has it.
+// False for an empty one, and for one turned inside out, as a damaged value may have it.
 bool HasRoom(const Rect& rect) { return rect.right > rect.left && rect.bottom > rect.top; }
 
 void ReadLayout(const StoredValues& values, const char* name, const Rect& ifAbsent, const Rect& screen,

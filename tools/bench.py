@@ -157,7 +157,7 @@ def scaled(times, name, factor):
     return times[name] * factor if name in times else None
 
 
-# Identifier ("-": a law that has none), what is measured, the figure made of the measurements, limit, unit.
+# Identifier ("-": none, a limit beside the numbered budgets), what is measured, the figure made of the measurements, limit, unit.
 BUDGETS = [
     ("B1", "date to day number, beside std::chrono",
      lambda t: ratio(t, ["DateToNumber_Orbisol"], ["DateToNumber_Chrono"]), 1.7, ""),

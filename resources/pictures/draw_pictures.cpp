@@ -80,8 +80,8 @@ Tone Mix(const Tone& a, const Tone& b, double t) {
 
 // Even noise in 0..1, the same at every run.
 double Noise(int x, int y, int channel) {
-  auto n = static_cast<std::uint32_t>(x * 73856093) ^ static_cast<std::uint32_t>(y * 19349663) ^
-           static_cast<std::uint32_t>(channel * 83492791);
+  const auto whole = [](int number) { return static_cast<std::uint32_t>(number); };
+  std::uint32_t n = (whole(x) * 73856093U) ^ (whole(y) * 19349663U) ^ (whole(channel) * 83492791U);
   n = (n ^ (n >> 15)) * 0x2C1B3C6DU;
   n = (n ^ (n >> 12)) * 0x297A2D39U;
   return ((n ^ (n >> 15)) & 0xFFFFU) / 65536.0;
