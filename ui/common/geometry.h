@@ -18,4 +18,8 @@ inline QPoint Cut(const QPointF& position) {
   return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
 }
 
+inline Rect ToRect(const QRect& rect) {
+  return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
+}
+
 }  // namespace orbisol

@@ -13,6 +13,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 #include "content/selected_date.h"
 #include "core/civil_year.h"
@@ -138,9 +139,17 @@ void CHeaderWnd::FitTitle() {
         std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
 }
 
+// The font of the year editor, which is as large as the title's where its frame leaves room for that.
+void CHeaderWnd::FitEditor() {
+  constexpr int kFieldFrame = 4;  // above and below the text together
+  const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
+  m_year->setFont(FontOfHeight(m_fittedFace, std::max(1, room)));
+}
+
 void CHeaderWnd::LayOut() {
   m_band = HeaderBandHeight(QFontInfo(font()).pixelSize());
   FitTitle();
+  if (IsEditingYear()) FitEditor();
   const QFontMetrics metrics(m_titleFont);
   HeaderMeasures measures;
   measures.width = width();
@@ -158,7 +167,6 @@ void CHeaderWnd::LayOut() {
   m_monthPart->setGeometry(ToQRect(m_layout.month));
   m_yearPart->setGeometry(ToQRect(m_layout.year));
   m_nextPart->setGeometry(ToQRect(m_layout.next));
-  UpdateNames();
 }
 
 // What a screen reader says.
@@ -334,9 +342,8 @@ void CHeaderWnd::SelectMonth(int month) {
 void CHeaderWnd::OpenYearEditor() {
   if (IsEditingYear()) return;
   m_focusBefore = QApplication::focusWidget();
-  constexpr int kFieldFrame = 4;  // above and below the text together
-  const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
-  m_year->setFont(FontOfHeight(m_fittedFace, std::max(1, room)));
+  m_isTyping = false;
+  FitEditor();
   LayOut();
   m_year->Open(CivilYearOf(Selected()));
   update(ToQRect(m_layout.year));
@@ -345,7 +352,7 @@ void CHeaderWnd::OpenYearEditor() {
 void CHeaderWnd::SetYear(int year) {
   SetCivilYear(Selected(), year);
   ClampToBounds(Selected());
-  Changed(DateMove::kTyping);
+  Changed(std::exchange(m_isTyping, true) ? DateMove::kTyping : DateMove::kTypingBegins);
 }
 
 void CHeaderWnd::CloseYearEditor() {

@@ -67,6 +67,7 @@ class CHeaderWnd : public QWidget {
  private:
   void TakeDate();
   void FitTitle();
+  void FitEditor();
   void LayOut();
   void Press(HeaderPart part, Qt::KeyboardModifiers modifiers);
   void Step(bool isForward, Qt::KeyboardModifiers modifiers);
@@ -96,6 +97,7 @@ class CHeaderWnd : public QWidget {
   CHeaderPart* m_nextPart = nullptr;
   CYearEdit* m_year = nullptr;
   QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
+  bool m_isTyping = false;          // a year was entered since the editor was opened
   bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet
 };
 

@@ -246,7 +246,7 @@ QString CMonthItem::text(QAccessible::Text kind) const {
     if (IsHeader()) return m_table->columnDescription(m_index - CMonthAccessible::kFirstName);
     return ToQString(TipText(Day(), false)).replace(QLatin1Char('\n'), QLatin1String(", "));
   }
-  // Grey days: what is pressed there leads to another month.
+  // Gray days: what is pressed there leads to another month.
   if (kind != QAccessible::Description || IsHeader() || Day().day == 0) return {};
   if (Day().month == window.Month().month) return {};
   return TablePiece(kTextHeaderNames, window.Places().IsInFirstRow(Cell()) ? kNamePrevious : kNameNext);

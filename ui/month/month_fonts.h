@@ -18,7 +18,7 @@ QFont CalendarFont(const DisplaySettings& settings, const QFont& dialogFont);
 
 struct MonthFonts {
   QFont upright;
-  QFont italic;  // days of the neighbouring months
+  QFont italic;  // days of the neighboring months
   QFont names;   // upright, in the largest size at which all weekday names fit their columns
   QFont small;   // week numbers and their title, likewise
 };

@@ -173,20 +173,20 @@ void CMonthWindow::SelectCell(int cell, bool byYear) {
   CancelRange();
   if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return;
   const Date before = Selected();
-  TakeCell(cell, byYear);
-  Moved(before, DateMove::kLeap);
+  Moved(before, TakeCell(cell, byYear));
 }
 
-// Selects a cell's day. `byYear` turns a day of a neighbouring month into a step of a year.
-void CMonthWindow::TakeCell(int cell, bool byYear) {
+// Selects a cell's day. `byYear` turns a day of a neighboring month into a step of a year.
+DateMove CMonthWindow::TakeCell(int cell, bool byYear) {
   Date& date = Selected();
   const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
   if (byYear && day.month != date.month) {
     StepYears(date, Places().IsInFirstRow(cell) ? -1 : 1);
-  } else {
-    const YearMonthDay taken = Unpack(day.ymd);
-    SelectDate(date, taken.year, taken.month, taken.day);
+    return DateMove::kStep;
   }
+  const YearMonthDay taken = Unpack(day.ymd);
+  SelectDate(date, taken.year, taken.month, taken.day);
+  return DateMove::kLeap;
 }
 
 void CMonthWindow::mouseMoveEvent(QMouseEvent* event) {

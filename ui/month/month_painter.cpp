@@ -19,7 +19,7 @@ namespace {
 
 // On one line in the middle of a rectangle; what is too wide is cut at both sides. Returns the rectangle of
 // the text.
-QRect DrawCentred(QPainter& painter, const QRect& rect, const QString& text) {
+QRect DrawCentered(QPainter& painter, const QRect& rect, const QString& text) {
   const QFontMetrics metrics = painter.fontMetrics();
   const int textWidth = metrics.horizontalAdvance(text);
   const QRect box(rect.x() + (rect.width() - textWidth) / 2,
@@ -128,10 +128,10 @@ void CMonthPainter::PaintHeader(QPainter& painter) const {
   painter.setPen(ToQColor(m_settings.ColorAt(kHeaderTextColor)));
   painter.setFont(m_fonts.names);
   for (int column = 0; column < kColumns; ++column)
-    DrawCentred(painter, ToQRect(m_layout.NameRect(column)), ColumnName(column, m_layout.firstCell));
+    DrawCentered(painter, ToQRect(m_layout.NameRect(column)), ColumnName(column, m_layout.firstCell));
   if (m_settings.showWeekNumber) {
     painter.setFont(m_fonts.small);
-    DrawCentred(painter, ToQRect(m_layout.WeekHeaderRect()), TableText(kTextWeek));
+    DrawCentered(painter, ToQRect(m_layout.WeekHeaderRect()), TableText(kTextWeek));
   }
 }
 
@@ -150,7 +150,7 @@ double CMonthPainter::Ratio(const QPainter& painter) const {
 }
 
 // A thin line of the grid. It is whole device pixels wide at every ratio, so that none is thicker than its
-// neighbour.
+// neighbor.
 void CMonthPainter::FillLine(QPainter& painter, const QRect& line) const {
   const double ratio = Ratio(painter);
   const auto snapped = [&](int position) { return std::round(position * ratio) / ratio; };
@@ -171,7 +171,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
   const QColor ink = ToQColor(day.textColor);
   painter.setFont(day.month == month.month ? m_fonts.upright : m_fonts.italic);
   painter.setPen(ink);
-  const QRect number = DrawCentred(painter, ToQRect(m_layout.CellRect(cell)), QString::number(day.day));
+  const QRect number = DrawCentered(painter, ToQRect(m_layout.CellRect(cell)), QString::number(day.day));
   if (m_medium == kScreen && marks.today != 0 && day.ymd == marks.today) {
     const int descent = painter.fontMetrics().descent();
     const int thickness = std::max(1, number.height() / 20);
@@ -219,7 +219,7 @@ void CMonthPainter::PaintWeekNumber(QPainter& painter, int row, int week) const 
   if (week == 0) return;
   painter.setFont(m_fonts.small);
   painter.setPen(ToQColor(m_settings.ColorAt(kColorWeekNumber)));
-  DrawCentred(painter, ToQRect(m_layout.WeekNumberRect(row)), QString::number(week));
+  DrawCentered(painter, ToQRect(m_layout.WeekNumberRect(row)), QString::number(week));
 }
 
 void CMonthPainter::PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const {

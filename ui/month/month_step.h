@@ -8,7 +8,7 @@
 namespace orbisol {
 
 // `steps` of a month, or of `years` each where that is not 0; back when negative. Months are made one by one:
-// two from 31 January end on 29 March.
+// two from 31 January 2024 end on 29 March.
 inline void StepMonthsOrYears(Date& date, int steps, int years) {
   if (years != 0) {
     StepYears(date, steps * years);

@@ -101,8 +101,7 @@ bool CMonthWindow::event(QEvent* event) {
 }
 
 void CMonthWindow::paintEvent(QPaintEvent* event) {
-  // Nobody has given it a size yet, or there is no picture to stretch.
-  if (m_isStretched ? !m_isCanvasPainted : Places().width != width() || Places().height != height()) LayOut();
+  if (m_isStretched && !m_isCanvasPainted) LayOut();  // There is no picture to stretch yet.
   const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
   const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == devicePixelRatioF();
   if (!fits && !(m_isStretched && m_isCanvasPainted)) {

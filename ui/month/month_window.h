@@ -49,7 +49,7 @@ class CMonthWindow : public QWidget {
   bool HasRange() const { return m_isRangeActive; }
   // Whether a cell's day is the selected one, or lies in the range where there is one.
   bool IsSelected(int cell);
-  // As a click on a cell; `byYear` turns a day of a neighbouring month into a step of a year.
+  // As a click on a cell; `byYear` turns a day of a neighboring month into a step of a year.
   void SelectCell(int cell, bool byYear = false);
 
   QSize sizeHint() const override { return {560, 392}; }
@@ -82,7 +82,7 @@ class CMonthWindow : public QWidget {
 
   // Hands (month_input.cpp).
   bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
-  void TakeCell(int cell, bool byYear);
+  DateMove TakeCell(int cell, bool byYear);
   bool BeginRange();
   void CancelRange();
   void OpenRangeOrDay();

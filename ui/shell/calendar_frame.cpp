@@ -46,12 +46,8 @@ bool IsWithinReach(const QRect& frame) {
   const QList<QScreen*> screens = QGuiApplication::screens();
   return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
     const QRect seen = grip & screen->availableGeometry();
-    return seen.width() >= std::min(kGripWidth, frame.width()) && seen.height() > 0;
+    return seen.width() >= std::min(kGripWidth, frame.width()) && seen.height() == kGripHeight;
   });
-}
-
-Rect ToRect(const QRect& rect) {
-  return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
 }
 
 }  // namespace
@@ -195,8 +191,8 @@ void CCalendarFrame::changeEvent(QEvent* event) {
 
 void CCalendarFrame::SettleNormalWidth() {
   if (!HasNormalSize()) return;
+  CorrectFrame();  // as it was opened; what the pane changed since comes on top
   if (const int owed = std::exchange(m_owedWidth, 0); owed != 0) resize(width() + owed, height());
-  CorrectFrame();
 }
 
 ClosingFrame CCalendarFrame::State() const {
@@ -223,11 +219,13 @@ void CCalendarFrame::closeEvent(QCloseEvent* event) {
 
 void CCalendarFrame::Raise(const std::string& token) {
   // The toolkit looks for it there when a window asks to be activated.
-  if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
+  constexpr char kToken[] = "XDG_ACTIVATION_TOKEN";
+  if (!token.empty()) qputenv(kToken, QByteArray::fromStdString(token));
   setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
   show();
   raise();
   activateWindow();
+  qunsetenv(kToken);  // it is good for one time
 }
 
 QString CCalendarFrame::StatusText() const { return m_description->text(); }

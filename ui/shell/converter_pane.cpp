@@ -115,7 +115,6 @@ QGroupBox* CConverterPane::MakeJulianGroup() {
   m_dayNumber->setFocusPolicy(Qt::StrongFocus);  // no command copies it: the keyboard must get there
   m_proleptic = new CSelectableLabel;
   KeepRoom(m_proleptic);
-  m_proleptic->setMinimumWidth(ProlepticWidth(m_proleptic->fontMetrics()));
   auto* const column = new QVBoxLayout;
   for (QLabel* const line : {m_julian, m_dayNumber, m_proleptic}) column->addWidget(line);
   return MakeGroup(kTextJulianGroup, column);
@@ -123,7 +122,6 @@ QGroupBox* CConverterPane::MakeJulianGroup() {
 
 QGroupBox* CConverterPane::MakeRepublicanGroup() {
   m_republican = new CSelectableLabel;
-  m_republican->setMinimumHeight(2 * m_republican->fontMetrics().lineSpacing());
   m_entry = new QCheckBox(TableText(kTextRepublicanEntry));
   KeepRoom(m_entry);
   connect(m_entry, &QCheckBox::clicked, this, &CConverterPane::ShowRepublicanEntry);
@@ -143,14 +141,11 @@ QGroupBox* CConverterPane::MakeRepublicanGroup() {
   m_year->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[+-]?[0-9]{0,9}")), m_year));
   m_year->setAlignment(Qt::AlignRight);
-  m_year->setFixedWidth(FieldWidth(*m_year, QStringLiteral("-00000")));
   connect(m_year, &QLineEdit::textChanged, this, &CConverterPane::FillRepublicanDays);
   connect(m_year, &QLineEdit::returnPressed, this, &CConverterPane::GoToRepublicanDate);
-  auto* const go = new QPushButton(TableText(kTextGo));
-  go->setAutoDefault(true);          // Enter presses it
-  constexpr int kNarrowMargin = 10;  // styles make a button of one word far too wide for this row
-  go->setFixedWidth(go->fontMetrics().horizontalAdvance(go->text()) + 2 * kNarrowMargin);
-  connect(go, &QPushButton::clicked, this, &CConverterPane::GoToRepublicanDate);
+  m_go = new QPushButton(TableText(kTextGo));
+  m_go->setAutoDefault(true);  // Enter presses it
+  connect(m_go, &QPushButton::clicked, this, &CConverterPane::GoToRepublicanDate);
 
   m_entryRow = new QWidget;
   auto* const row = new QHBoxLayout(m_entryRow);
@@ -159,7 +154,7 @@ QGroupBox* CConverterPane::MakeRepublicanGroup() {
   row->addWidget(m_day);
   row->addWidget(m_month, 1);
   row->addWidget(m_year);
-  row->addWidget(go);
+  row->addWidget(m_go);
   KeepRoom(m_entryRow);
   m_entryRow->hide();
 
@@ -183,7 +178,6 @@ QGroupBox* CConverterPane::MakeDifferenceGroup() {
   m_difference->setReadOnly(true);
   m_difference->setAlignment(Qt::AlignRight);
   NameField(m_difference, kNameDifference);
-  m_difference->setFixedWidth(FieldWidth(*m_difference, QStringLiteral("-0 000 000")));
   auto* const row = new QHBoxLayout;
   row->addWidget(m_keep);
   row->addWidget(m_kept, 1);
@@ -228,7 +222,24 @@ QString CConverterPane::RepublicanText() const { return m_republican->text(); }
 
 bool CConverterPane::IsEntry() const { return m_entry->isChecked(); }
 
-void CConverterPane::SettingsChanged() { ShowKeepButton(); }
+void CConverterPane::SettingsChanged() {
+  FitToFont();
+  ShowKeepButton();
+}
+
+void CConverterPane::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitToFont();
+}
+
+void CConverterPane::FitToFont() {
+  m_proleptic->setMinimumWidth(ProlepticWidth(m_proleptic->fontMetrics()));
+  m_republican->setMinimumHeight(2 * m_republican->fontMetrics().lineSpacing());
+  m_year->setFixedWidth(FieldWidth(*m_year, QStringLiteral("-00000")));
+  m_difference->setFixedWidth(FieldWidth(*m_difference, QStringLiteral("-0 000 000")));
+  constexpr int kNarrowMargin = 10;  // styles make a button of one word far too wide for its row
+  m_go->setFixedWidth(m_go->fontMetrics().horizontalAdvance(m_go->text()) + 2 * kNarrowMargin);
+}
 
 void CConverterPane::Refresh() {
   const Date& date = Selected();

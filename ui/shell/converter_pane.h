@@ -14,6 +14,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QToolButton;
 
 namespace orbisol {
@@ -52,6 +53,7 @@ class CConverterPane : public QWidget {
   QGroupBox* MakeDifferenceGroup();
   QWidget* MakeButtons();
 
+  void FitToFont();
   void ShowRepublicanEntry(bool isShown);
   void LoadRepublicanDate();
   void FillRepublicanDays();
@@ -64,6 +66,7 @@ class CConverterPane : public QWidget {
 
   bool IsEntry() const;  // a Republican date can be entered
 
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   PaneHost* m_host;
@@ -78,6 +81,7 @@ class CConverterPane : public QWidget {
   QComboBox* m_day = nullptr;
   QComboBox* m_month = nullptr;
   QLineEdit* m_year = nullptr;
+  QPushButton* m_go = nullptr;
   QToolButton* m_keep = nullptr;
   QLineEdit* m_kept = nullptr;
   QLineEdit* m_difference = nullptr;

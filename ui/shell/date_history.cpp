@@ -10,10 +10,11 @@ void CDateHistory::Visit(PackedDate date, DateMove move) {
   if (date == m_dates[m_present]) return;
   m_dates.resize(m_present + 1);
 
-  if (move == DateMove::kLeap || move != m_reachedBy) {
+  const bool goesOn = move == m_reachedBy && move != DateMove::kLeap;
+  if (!goesOn) {
     m_dates.push_back(date);
     if (m_dates.size() > kMostDates) m_dates.erase(m_dates.begin());
-    m_reachedBy = move;
+    m_reachedBy = move == DateMove::kTypingBegins ? DateMove::kTyping : move;
   } else if (m_present > 0 && m_dates[m_present - 1] == date) {
     m_dates.pop_back();  // back where the walk began
     m_reachedBy = DateMove::kLeap;

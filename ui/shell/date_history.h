@@ -6,7 +6,7 @@
 //
 // Steps in a row are a walk, and a walk counts once: where it began and where it is now are both kept, the
 // days between are not. So one step back after a hundred days with the arrow keys returns to where they
-// began. What is typed in a row is a walk of its own.
+// began. What is typed is a walk of its own.
 #pragma once
 
 #include <cstddef>

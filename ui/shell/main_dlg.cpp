@@ -124,6 +124,7 @@ void CMainDlg::SettingsChanged() {
   ApplyColors();
   m_month->SettingsChanged();
   m_pane->SettingsChanged();
+  Measure();
   LayOut();
   Refresh(true);
   update();

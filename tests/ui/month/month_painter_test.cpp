@@ -178,7 +178,7 @@ TEST(MonthPainterTest, FillsHaveTheFormAndTheOpacityOfTheSettings) {
   }
 }
 
-TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighbouringMonthsDay) {
+TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighboringMonthsDay) {
   Page page;
   page.settings.circleTheDay = true;
   page.settings.circleWidth = 3;

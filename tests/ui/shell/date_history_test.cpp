@@ -26,9 +26,13 @@ TEST(DateHistoryTest, AWalkCountsOnceWithItsBeginningAndItsEnd) {
   CDateHistory history;
   history.Visit(20240501, DateMove::kLeap);
   for (const PackedDate date : {20240502, 20240503, 20240603, 20250603}) history.Visit(date, DateMove::kStep);
-  for (const PackedDate date : {10603, 150603, 1580603, 15820603}) history.Visit(date, DateMove::kTyping);
+  history.Visit(10603, DateMove::kTypingBegins);
+  for (const PackedDate date : {150603, 1580603, 15820603}) history.Visit(date, DateMove::kTyping);
+  history.Visit(10603, DateMove::kTypingBegins);  // another year is typed
+  history.Visit(190603, DateMove::kTyping);
+  history.Visit(19140603, DateMove::kTyping);
   history.Visit(20240515, DateMove::kLeap);
-  for (const PackedDate date : {15820603, 20250603, 20240501, 0}) EXPECT_EQ(history.Back(), date);
+  for (const PackedDate date : {19140603, 15820603, 20250603, 20240501, 0}) EXPECT_EQ(history.Back(), date);
 
   history.Visit(20240502, DateMove::kStep);
   history.Visit(20240501, DateMove::kStep);  // there and back leaves nothing behind

@@ -286,6 +286,17 @@ TEST_F(FrameTest, TheTextsAreFrenchAndTheNamesOfTheLocale) {
   EXPECT_EQ(frame->menuBar()->actions().first()->text(), QStringLiteral("&Fichier"));
 }
 
+TEST_F(FrameTest, ThePaneGrowsWithTheFont) {
+  Open();
+  const int pane = Dialog().PaneWidth();
+  QFont large = Dialog().font();
+  large.setPointSizeF(large.pointSizeF() * 1.5);
+  Dialog().setFont(large);
+  Settle();
+  EXPECT_GT(Dialog().PaneWidth(), pane);
+  EXPECT_GE(Dialog().PaneWidth(), Dialog().Pane().minimumSizeHint().width());
+}
+
 TEST_F(FrameTest, SelectionsFollowTheThemeOfTheDesktop) {
   Open();
   const QPalette before = QApplication::palette();
