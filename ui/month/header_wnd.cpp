@@ -369,6 +369,7 @@ void CHeaderWnd::YearEditorClosed(bool byEnter) {
   if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
   m_year->hide();
   if (hadFocus && !m_isEnterDown) GiveFocusBack();
+  TakeDate();  // the title stood still under the editor
   LayOut();
   update();
 }

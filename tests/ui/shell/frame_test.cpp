@@ -248,6 +248,7 @@ TEST_F(FrameTest, WithThePaneHiddenTheKeyboardBelongsToTheMonthOrTheHeader) {
   QTest::keyPress(editor, Qt::Key_Return);
   QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(Dialog().Month().hasFocus());
+  EXPECT_EQ(Dialog().Header().TitleText(), QStringLiteral("Mai 1789"));
   EXPECT_TRUE(Dialog().History().CanGoBack());
   frame->RunCommand(kCmdGoBack);
   EXPECT_EQ(Now(), 20240515);  // not a year passed while typing
