@@ -136,12 +136,8 @@ void CMonthPainter::PaintHeader(QPainter& painter) const {
 }
 
 void CMonthPainter::PaintGrid(QPainter& painter) const {
-  const int thin = m_layout.lineScale;
-  // On purpose: the closing lines lie just outside of the canvas; drawn at its edge they are seen.
-  for (const int x : m_layout.VerticalLines(m_settings.grid))
-    FillLine(painter, {std::min(x, m_layout.width - thin), 0, thin, m_layout.height});
-  for (const int y : m_layout.HorizontalLines(m_settings.grid))
-    FillLine(painter, {0, std::min(y, m_layout.height - thin), m_layout.width, thin});
+  for (const int x : m_layout.VerticalLines(m_settings.grid)) FillLine(painter, x, Qt::Vertical);
+  for (const int y : m_layout.HorizontalLines(m_settings.grid)) FillLine(painter, y, Qt::Horizontal);
 }
 
 // Device pixels a unit of the layout; a printer's unit is its pixel.
@@ -149,16 +145,25 @@ double CMonthPainter::Ratio(const QPainter& painter) const {
   return m_medium == kScreen ? painter.device()->devicePixelRatio() : 1;
 }
 
-// A thin line of the grid. It is whole device pixels wide at every ratio, so that none is thicker than its
-// neighbor.
-void CMonthPainter::FillLine(QPainter& painter, const QRect& line) const {
+// A thin line of the grid, from edge to edge. It is whole device pixels wide at every ratio, so that none is
+// thicker than its neighbor.
+void CMonthPainter::FillLine(QPainter& painter, int position, Qt::Orientation orientation) const {
   const double ratio = Ratio(painter);
-  const auto snapped = [&](int position) { return std::round(position * ratio) / ratio; };
-  const auto thickness = [&](int size) {
-    return size > m_layout.lineScale ? size : std::max(1.0, std::floor(size * ratio)) / ratio;
+  // A canvas may have a pixel more or less than its size in units says.
+  const auto extent = [&](int units, int pixels) {
+    const double all = std::ceil(units * ratio);
+    return m_medium == kScreen ? std::min<double>(all, pixels) : all;
   };
+  const double width = extent(m_layout.width, painter.device()->width());
+  const double height = extent(m_layout.height, painter.device()->height());
+  const double thickness = std::max(1.0, std::floor(m_layout.lineScale * ratio));
+  // On purpose: the closing lines lie just outside of the canvas; drawn at its edge they are seen.
+  const double end = orientation == Qt::Vertical ? width : height;
+  const double first = std::min(std::round(position * ratio), end - thickness);
+  const QRectF pixels =
+      orientation == Qt::Vertical ? QRectF(first, 0, thickness, height) : QRectF(0, first, width, thickness);
   painter.fillRect(
-      QRectF(snapped(line.x()), snapped(line.y()), thickness(line.width()), thickness(line.height())),
+      QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio),
       ToQColor(kGreyTextColor));
 }
 

@@ -67,7 +67,7 @@ class CMonthPainter {
   void PaintWeekNumber(QPainter& painter, int row, int week) const;
   void PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const;
   void PaintMark(QPainter& painter, int cell) const;
-  void FillLine(QPainter& painter, const QRect& line) const;
+  void FillLine(QPainter& painter, int position, Qt::Orientation orientation) const;
   double Ratio(const QPainter& painter) const;
 
   MonthLayout m_layout;

@@ -102,22 +102,27 @@ bool CMonthWindow::event(QEvent* event) {
 
 void CMonthWindow::paintEvent(QPaintEvent* event) {
   if (m_isStretched && !m_isCanvasPainted) LayOut();  // There is no picture to stretch yet.
-  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-  const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == devicePixelRatioF();
+  QPainter painter(this);
+  // The device pixels that are this window's. At a fractional ratio it may begin in the middle of one, and
+  // then takes one more or less than its size alone would say.
+  const double ratio = devicePixelRatioF();
+  const QRectF exact = painter.deviceTransform().mapRect(QRectF(rect()));
+  const QPoint begin(qRound(exact.left()), qRound(exact.top()));
+  const QSize pixels(qRound(exact.right()) - begin.x(), qRound(exact.bottom()) - begin.y());
+  const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == ratio;
   if (!fits && !(m_isStretched && m_isCanvasPainted)) {
     // A new size, or the window came to a screen of another resolution.
     m_canvas = QImage(pixels, QImage::Format_RGB32);
-    m_canvas.setDevicePixelRatio(devicePixelRatioF());
+    m_canvas.setDevicePixelRatio(ratio);
     m_isCanvasPainted = false;
   }
   if (!m_isStretched || !m_isCanvasPainted) RenderCanvas(m_isCanvasPainted ? event->region() : QRegion());
 
-  QPainter painter(this);
   if (m_isStretched) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(rect(), m_canvas);
   } else {
-    painter.drawImage(0, 0, m_canvas);
+    painter.drawImage((begin - exact.topLeft()) / ratio, m_canvas);
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include "tests/support/warnings.h"
 #include "tests/ui/month/month_fixture.h"
+#include "ui/common/colors.h"
 #include "ui/common/plain_text.h"
 
 namespace orbisol {
@@ -302,6 +303,28 @@ TEST_F(MonthWindowTest, IsSharpOnAScreenOfAnotherRatioAndPaintableInAnySize) {
     window->grab();
   }
   EXPECT_EQ(warnings.Texts(), std::vector<std::string>());
+}
+
+// Windows begin in the middle of a device pixel there, and end in one.
+TEST_F(MonthWindowTest, ClosingLinesAreSeenWhereverTheWindowLiesAtAFractionalRatio) {
+  QWidget parent;
+  auto* const month = new CMonthWindow(nullptr, &parent);
+  parent.resize(720, 440);
+  parent.show();
+  QScreen* const screen = QGuiApplication::screens()[1];
+  parent.windowHandle()->setScreen(screen);
+  const double ratio = screen->devicePixelRatio();
+  Display().grid = true;
+  month->SettingsChanged();
+  for (const QRect& place : {QRect(0, 0, 700, 420), QRect(0, 0, 701, 421), QRect(1, 1, 700, 420),
+                             QRect(1, 1, 701, 421), QRect(2, 2, 701, 421)}) {
+    month->setGeometry(place);
+    const QImage picture = parent.grab().toImage();
+    const int right = qRound((place.x() + place.width()) * ratio) - 1;
+    const int bottom = qRound((place.y() + place.height()) * ratio) - 1;
+    EXPECT_EQ(picture.pixelColor(75, bottom), ToQColor(kGreyTextColor)) << place.x() << ' ' << place.width();
+    EXPECT_EQ(picture.pixelColor(right, 600), ToQColor(kGreyTextColor)) << place.x() << ' ' << place.width();
+  }
 }
 
 }  // namespace
