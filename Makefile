@@ -23,7 +23,7 @@ help:
 	@echo 'make test        build and test (PRESET=dev, ci, sanitize, release-test; CTEST_FLAGS=-R name)'
 	@echo 'make screenshot  pictures of the windows in build/screenshots, at scale 1 and 2'
 	@echo 'make bench       measure, beside the peers (FILTER=name)'
-	@echo 'make coverage    which lines and branches the tests reach, floor by floor (LINES=1: which not)'
+	@echo 'make coverage    which lines and branches the tests reach, layer by layer (LINES=1: which not)'
 	@echo 'make fuzz        each fuzzer for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make lint        clang-tidy and clang-format over all sources'
 	@echo 'make format      let clang-format settle the spaces'

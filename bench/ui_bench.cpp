@@ -14,7 +14,7 @@
 #include "content/selected_date.h"
 #include "files/calendar_file.h"
 #include "settings/display_settings.h"
-#include "ui/month/month_fonts.h"
+#include "ui/painting/month_fonts.h"
 #include "ui/month/month_window.h"
 
 namespace orbisol {

@@ -1,4 +1,4 @@
-# How every target of the house is built: language, warnings, sanitizers, coverage, compiler cache.
+# How every target is built: language, warnings, sanitizers, coverage, compiler cache.
 
 option(ORBISOL_TESTS "Build the tests" ON)
 option(ORBISOL_BENCH "Build the benches" OFF)
@@ -48,21 +48,21 @@ if(ORBISOL_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# orbisol_floor(NAME SOURCES ... [PUBLIC lib ...] [PRIVATE lib ...])
+# orbisol_layer(NAME SOURCES ... [PUBLIC lib ...] [PRIVATE lib ...])
 #
-# One static library a floor. Includes go by path from the root, so the root is its only include
-# folder; the floors without Qt never see a Qt header because no Qt target is linked to them.
-function(orbisol_floor name)
-  cmake_parse_arguments(FLOOR "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
-  add_library(${name} STATIC ${FLOOR_SOURCES})
+# One static library a layer. Includes go by path from the root, so the root is its only include
+# folder; the layers without Qt never see a Qt header because no Qt target is linked to them.
+function(orbisol_layer name)
+  cmake_parse_arguments(LAYER "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  add_library(${name} STATIC ${LAYER_SOURCES})
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
-  target_link_libraries(${name} PUBLIC ${FLOOR_PUBLIC} PRIVATE ${FLOOR_PRIVATE})
+  target_link_libraries(${name} PUBLIC ${LAYER_PUBLIC} PRIVATE ${LAYER_PRIVATE})
   if(ORBISOL_PCH AND name MATCHES "^orbisol_ui_")
     orbisol_precompiled_qt(${name})
   endif()
 endfunction()
 
-# The Qt headers that nearly every window includes, compiled once for all floors of windows.
+# The Qt headers that nearly every window includes, compiled once for all layers of windows.
 function(orbisol_precompiled_qt name)
   if(NOT TARGET orbisol_qt_headers)
     set(source "${PROJECT_BINARY_DIR}/qt_headers.cpp")

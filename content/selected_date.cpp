@@ -1,5 +1,7 @@
 #include "content/selected_date.h"
 
+#include <cstdlib>
+
 namespace orbisol {
 namespace {
 
@@ -68,6 +70,14 @@ void SelectDate(Date& date, int year, int month, int day) {
   date.month = month;
   date.day = day;
   ClampToBounds(date);
+}
+
+void StepMonthsOrYears(Date& date, int steps, int years) {
+  if (years != 0) {
+    StepYears(date, steps * years);
+    return;
+  }
+  for (int i = 0; i < std::abs(steps); ++i) StepMonths(date, steps < 0 ? -1 : 1);
 }
 
 }  // namespace orbisol

@@ -5,6 +5,7 @@
 //
 //   Date& selected = Selected();
 //   StepDays(selected, -1);
+//   StepMonthsOrYears(selected, 2, 0);
 #pragma once
 
 #include "core/date.h"
@@ -23,6 +24,14 @@ constexpr bool IsYearShown(int year) {
   return year >= Unpack(kFirstDateShown).year && year <= Unpack(kLastDateShown).year;
 }
 
+// In what way a hand moved the selected date.
+enum class DateMove {
+  kStep,          // by days, months or years: keys, wheel, a drag, the arrows of the header
+  kTypingBegins,  // to the first of the dates through which typing passes, as a year is typed digit by digit
+  kTyping,        // to the next of them
+  kLeap,          // to a day that was named: a click on it, a button, a menu
+};
+
 // The selected date. Today until something else is selected; the first call asks the clock.
 Date& Selected();
 
@@ -34,5 +43,9 @@ void StepDays(Date& date, int days);      // back when negative; a step back of 
 void StepMonths(Date& date, int months);  // the day is pulled back into a shorter month
 void StepYears(Date& date, int years);    // month and day unchanged, also where that day does not exist
 void SelectDate(Date& date, int year, int month, int day);  // keeps dateOrder
+
+// Moves by `steps` months, or by `steps` times `years` where `years` is not 0; back when negative. Months are
+// made one by one: two from 31 January 2024 end on 29 March.
+void StepMonthsOrYears(Date& date, int steps, int years);
 
 }  // namespace orbisol

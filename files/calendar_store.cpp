@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "files/kept_copy.h"
+#include "files/backup.h"
 
 namespace orbisol {
 

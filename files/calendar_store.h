@@ -19,7 +19,7 @@
 #include <vector>
 
 #include "files/calendar_file.h"
-#include "files/files.h"
+#include "files/file_system.h"
 
 namespace orbisol {
 

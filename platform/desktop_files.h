@@ -6,7 +6,7 @@
 
 #include <utility>
 
-#include "files/files.h"
+#include "files/file_system.h"
 #include "platform/folders.h"
 
 namespace orbisol {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "files/calendar_store.h"
-#include "files/kept_copy.h"
+#include "files/backup.h"
 #include "platform/desktop_files.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"

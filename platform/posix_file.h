@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "files/files.h"
+#include "files/file_system.h"
 
 namespace orbisol {
 

@@ -4,7 +4,7 @@
 
 #include "core/packed_date.h"
 #include "settings/legacy_settings.h"
-#include "settings/screen_fit.h"
+#include "settings/window_layout.h"
 
 namespace orbisol {
 namespace {

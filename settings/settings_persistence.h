@@ -19,7 +19,7 @@
 #include "core/rect.h"
 #include "files/calendar_store.h"
 #include "settings/display_settings.h"
-#include "settings/first_start.h"
+#include "files/first_start.h"
 #include "settings/settings_store.h"
 
 namespace orbisol {

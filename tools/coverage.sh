@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs the tests in the coverage build and prints, floor by floor, which part of the lines and branches
+# Runs the tests in the coverage build and prints, layer by layer, which part of the lines and branches
 # they reach. Branches that only an exception takes, and those the compiler cannot reach, do not count.
 #
 #   tools/coverage.sh [--lines]     --lines: also every file with the lines that no test reached

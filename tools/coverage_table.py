@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints the result of gcovr as one row for each floor.
+"""Prints the result of gcovr as one row for each layer.
 
     tools/coverage_table.py build/coverage/coverage.json [--lines]
 
@@ -9,7 +9,7 @@ With --lines every file follows that has lines or branches which no test reached
 import json
 import sys
 
-FLOORS = ["core", "content", "files", "settings", "platform", "ui"]
+LAYERS = ["core", "content", "files", "settings", "platform", "ui"]
 
 
 class Count:
@@ -50,14 +50,14 @@ def main(path, *options):
     with open(path, encoding="utf-8") as source:
         files = json.load(source)["files"]
 
-    print(f"\n{'floor':10} {'lines':>25}    {'branches':>25}")
-    for floor in FLOORS:
+    print(f"\n{'layer':10} {'lines':>25}    {'branches':>25}")
+    for layer in LAYERS:
         count = Count()
         for file in files:
-            if file["file"].startswith(floor + "/"):
+            if file["file"].startswith(layer + "/"):
                 count.add(file)
         if count.lines:
-            print(count.row(floor))
+            print(count.row(layer))
 
     if "--lines" not in options:
         return

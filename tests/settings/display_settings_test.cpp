@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <set>
 
-#include "settings/screen_fit.h"
+#include "settings/window_layout.h"
 
 namespace orbisol {
 namespace {

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "files/files.h"
+#include "files/file_system.h"
 
 namespace orbisol {
 

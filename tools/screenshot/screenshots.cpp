@@ -22,7 +22,7 @@
 #include "tests/support/fakes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "ui/common/french_toolkit.h"
+#include "ui/toolkit/french_toolkit.h"
 #include "ui/shell/calendar_frame.h"
 
 namespace orbisol {

@@ -7,10 +7,10 @@
 #include "core/date_text.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
-#include "ui/common/geometry.h"
-#include "ui/common/plain_text.h"
-#include "ui/month/month_texts.h"
-#include "ui/month/tip_text.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/painting/month_texts.h"
+#include "content/tip_text.h"
 
 namespace orbisol {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/date.h"
-#include "ui/month/date_move.h"
+#include "content/selected_date.h"
 
 namespace orbisol {
 

@@ -14,12 +14,12 @@
 #include <utility>
 
 #include "core/republican.h"
-#include "ui/common/geometry.h"
-#include "ui/common/plain_text.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/plain_text.h"
 #include "ui/month/month_accessible.h"
-#include "ui/month/month_step.h"
+#include "content/selected_date.h"
 #include "ui/month/month_window.h"
-#include "ui/month/tip_text.h"
+#include "content/tip_text.h"
 
 namespace orbisol {
 namespace {

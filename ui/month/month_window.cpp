@@ -9,9 +9,9 @@
 #include <utility>
 
 #include "core/platform.h"
-#include "ui/common/geometry.h"
+#include "ui/toolkit/geometry.h"
 #include "ui/month/month_accessible.h"
-#include "ui/month/month_pictures.h"
+#include "ui/painting/month_pictures.h"
 
 namespace orbisol {
 namespace {

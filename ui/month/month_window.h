@@ -16,9 +16,9 @@
 #include "content/month_model.h"
 #include "content/selected_date.h"
 #include "ui/month/month_host.h"
-#include "ui/month/month_layout.h"
-#include "ui/month/month_painter.h"
-#include "ui/month/today_timer.h"
+#include "ui/painting/month_layout.h"
+#include "ui/painting/month_painter.h"
+#include "platform/today_timer.h"
 
 namespace orbisol {
 

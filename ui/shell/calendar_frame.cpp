@@ -19,12 +19,12 @@
 #include "core/date_text.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
-#include "settings/screen_fit.h"
-#include "ui/common/elided_label.h"
-#include "ui/common/geometry.h"
-#include "ui/common/messages.h"
-#include "ui/common/plain_text.h"
-#include "ui/common/tool_icons.h"
+#include "settings/window_layout.h"
+#include "ui/toolkit/elided_label.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/messages.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/window/tool_icons.h"
 
 namespace orbisol {
 namespace {
@@ -251,7 +251,7 @@ void CCalendarFrame::OnDateShown(const QString& description) {
   UpdateCommands();
 }
 
-// The editors stand on a floor of their own, which is not built yet: the action is refused.
+// The editors are a layer of their own, which is not built yet: the action is refused.
 void CCalendarFrame::OpenPeriods(const Date&, const Date&) { Messages().Beep(); }
 void CCalendarFrame::OpenEvents(const Date&) { Messages().Beep(); }
 

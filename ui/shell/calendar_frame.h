@@ -13,10 +13,10 @@
 
 #include "files/calendar_store.h"
 #include "resources/command_ids.h"
-#include "settings/first_start.h"
+#include "files/first_start.h"
 #include "settings/settings_persistence.h"
 #include "settings/settings_store.h"
-#include "ui/common/command_table.h"
+#include "ui/window/command_table.h"
 #include "ui/shell/main_dlg.h"
 
 namespace orbisol {

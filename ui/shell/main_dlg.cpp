@@ -7,11 +7,11 @@
 
 #include "content/selected_date.h"
 #include "resources/strings.h"
-#include "ui/common/colors.h"
-#include "ui/common/geometry.h"
-#include "ui/common/plain_text.h"
-#include "ui/month/tip_text.h"
-#include "ui/shell/calendar_group.h"
+#include "ui/toolkit/colors.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/plain_text.h"
+#include "content/tip_text.h"
+#include "ui/toolkit/calendar_group.h"
 
 namespace orbisol {
 namespace {

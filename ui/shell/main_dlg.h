@@ -8,11 +8,11 @@
 
 #include <QWidget>
 
-#include "ui/month/header_wnd.h"
+#include "ui/header/header_wnd.h"
 #include "ui/month/month_host.h"
 #include "ui/month/month_window.h"
-#include "ui/shell/converter_pane.h"
-#include "ui/shell/date_history.h"
+#include "ui/converter/converter_pane.h"
+#include "content/date_history.h"
 #include "ui/shell/main_layout.h"
 
 namespace orbisol {

@@ -11,10 +11,10 @@
 #include "platform/desktop_locale.h"
 #include "platform/desktop_store.h"
 #include "platform/folders.h"
-#include "ui/common/french_toolkit.h"
-#include "ui/common/messages.h"
-#include "ui/common/plain_text.h"
-#include "ui/common/space_key.h"
+#include "ui/toolkit/french_toolkit.h"
+#include "ui/toolkit/messages.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/space_key.h"
 #include "ui/shell/calendar_frame.h"
 
 namespace orbisol {

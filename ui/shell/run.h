@@ -1,9 +1,9 @@
 // The body of the program.
 #pragma once
 
-#include "files/files.h"
+#include "files/file_system.h"
 #include "platform/single_instance.h"
-#include "settings/first_start.h"
+#include "files/first_start.h"
 #include "settings/settings_store.h"
 
 class QApplication;

@@ -15,7 +15,7 @@
 #include "settings/display_settings.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
-#include "ui/common/geometry.h"
+#include "ui/toolkit/geometry.h"
 #include "ui/month/month_window.h"
 
 namespace orbisol {

@@ -9,8 +9,8 @@
 
 #include "tests/support/warnings.h"
 #include "tests/ui/month/month_fixture.h"
-#include "ui/common/colors.h"
-#include "ui/common/plain_text.h"
+#include "ui/toolkit/colors.h"
+#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {

@@ -13,7 +13,7 @@
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
 #include "tests/support/rules.h"
-#include "ui/common/messages.h"
+#include "ui/toolkit/messages.h"
 #include "ui/shell/calendar_frame.h"
 
 namespace orbisol {

@@ -11,7 +11,7 @@
 #include <QWindow>
 
 #include "tests/ui/shell/frame_fixture.h"
-#include "ui/month/year_edit.h"
+#include "ui/header/year_edit.h"
 
 namespace orbisol {
 namespace {

@@ -1,0 +1,248 @@
+// The header, with real events to a real window.
+
+#include "ui/header/header_wnd.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QToolTip>
+
+#include "tests/ui/month/month_fixture.h"
+#include "ui/header/year_edit.h"
+
+namespace orbisol {
+namespace {
+
+struct SpyHeaderHost : HeaderHost {
+  int changes = 0;
+  void OnHeaderDateChanged(DateMove) override { ++changes; }
+};
+
+class HeaderWndTest : public SelectedDateTest {
+ protected:
+  HeaderWndTest() {
+    window.resize(600, 130);
+    header.setGeometry(0, 0, 600, 62);
+    window.show();
+    window.activateWindow();
+    other.setFocus();
+    Show(20240229);
+    Settle();
+  }
+
+  void Show(PackedDate date) {
+    Select(date);
+    header.Refresh();
+  }
+  void Click(const Rect& rect, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+             Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(&header, button, modifiers, ToQRect(rect).center());
+  }
+  CYearEdit* OpenYear() {
+    Click(header.Places().year);
+    return header.findChild<CYearEdit*>();
+  }
+  static QMenu* OpenMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+  std::string TipAt(QPoint point) {
+    QToolTip::hideText();
+    QHelpEvent event(QEvent::ToolTip, point, header.mapToGlobal(point));
+    QApplication::sendEvent(&header, &event);
+    return event.isAccepted() ? QToolTip::text().toStdString() : "none";
+  }
+  static std::string Focused() { return QApplication::focusWidget()->accessibleName().toStdString(); }
+  static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  }
+  static void RepeatEnter() {
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(QApplication::focusWidget(), &repeat);
+  }
+
+  SpyHeaderHost host;
+  QWidget window;
+  QLineEdit other{&window};  // has the focus at first, like the month
+  CHeaderWnd header{&host, &window};
+};
+
+TEST_F(HeaderWndTest, ArrowsStepAsTheirKeysSayAndTheRightButtonGoesToTheEnds) {
+  const struct {
+    PackedDate from;
+    bool isNext;
+    Qt::KeyboardModifiers modifiers;
+    PackedDate to;
+    Qt::MouseButton button = Qt::LeftButton;
+  } kSteps[] = {
+      {20240229, false, Qt::NoModifier, 20240129},
+      {20240131, true, Qt::NoModifier, 20240229},
+      {20240229, false, Qt::ControlModifier, 20230229},  // On purpose: a day that does not exist is kept.
+      {20240229, true, Qt::ControlModifier, 20250229},
+      {20240501, false, Qt::ShiftModifier, 20140501},
+      {20240501, true, Qt::ShiftModifier, 20340501},
+      {39950301, true, Qt::ShiftModifier, 39991231},
+      {20240501, true, Qt::ControlModifier | Qt::ShiftModifier, 21240501},
+      {20240501, false, Qt::NoModifier, -39990101, Qt::RightButton},
+      {20240501, true, Qt::ShiftModifier, 39991231, Qt::RightButton},
+  };
+  for (const auto& step : kSteps) {
+    Show(step.from);
+    host.changes = 0;
+    Click(step.isNext ? header.Places().next : header.Places().previous, step.modifiers, step.button);
+    EXPECT_EQ(Now(), step.to);
+    EXPECT_EQ(host.changes, 1) << step.to;
+  }
+}
+
+TEST_F(HeaderWndTest, TheMonthMenuKeepsTheDay) {
+  FakeLocale odd;
+  odd.months = std::vector<std::u16string>(12, u"mois & co");
+  const ScopedPlatform inForce(odd);
+  Show(20240531);
+  Click(header.Places().month);
+  ASSERT_NE(OpenMenu(), nullptr);
+  const QList<QAction*> months = OpenMenu()->actions();
+  EXPECT_EQ(months[7]->text(), QStringLiteral("Mois && co"));
+  EXPECT_EQ(months[7]->data().toInt(), 1058);
+  months[3]->trigger();
+  OpenMenu()->close();
+  EXPECT_EQ(Now(), 20240431);  // On purpose: 31 April is kept.
+  EXPECT_EQ(host.changes, 1);
+}
+
+TEST_F(HeaderWndTest, TheYearEditorReadsEachChange) {
+  CYearEdit* const editor = OpenYear();
+  QTest::keyClicks(editor, QStringLiteral("1582"));
+  EXPECT_EQ(Now(), 15820229);
+  const int changes = host.changes;
+  editor->selectAll();
+  QTest::keyClicks(editor, QStringLiteral("-"));  // nothing to read yet
+  EXPECT_EQ(host.changes, changes);
+  QTest::keyClicks(editor, QStringLiteral("5000x"));
+  EXPECT_EQ(Selected().year, -3999);
+  EXPECT_EQ(editor->Text(), QStringLiteral("-5000"));  // never rewritten while it is typed in
+
+  QTest::keyClick(editor, Qt::Key_Up);
+  EXPECT_EQ(editor->Text(), QStringLiteral("-3998"));
+  QAccessibleValueInterface& value = *QAccessible::queryAccessibleInterface(editor)->valueInterface();
+  EXPECT_EQ(value.minimumValue().toInt(), -3999);
+  EXPECT_EQ(value.maximumValue().toInt(), 3999);
+  value.setCurrentValue(1789);
+  EXPECT_EQ(Selected().year, 1789);
+  EXPECT_EQ(value.currentValue().toInt(), 1789);
+}
+
+TEST_F(HeaderWndTest, TheYearEditorGivesTheFocusBackUnlessItWasTaken) {
+  QTest::keyPress(OpenYear(), Qt::Key_Return);
+  EXPECT_FALSE(header.IsEditingYear());
+  EXPECT_FALSE(other.hasFocus());  // Enter's repetitions must not reach the month, where it means today
+  QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(other.hasFocus());
+
+  OpenYear();
+  QWidget another;
+  another.show();
+  another.activateWindow();
+  Settle();
+  EXPECT_FALSE(header.IsEditingYear());
+  window.activateWindow();
+  Settle();
+  EXPECT_TRUE(other.hasFocus());
+
+  for (const auto& [key, taker] :
+       {std::pair{Qt::Key_Tab, "Mois suivant"}, {Qt::Key_Backtab, "Année : 2024"}}) {
+    OpenYear();
+    Key(key);
+    EXPECT_FALSE(header.IsEditingYear());
+    EXPECT_EQ(Focused(), taker);
+  }
+}
+
+TEST_F(HeaderWndTest, TheYearIsTheCivilOne) {
+  for (const auto& [rules, start] : {std::pair{11000325, "Année civile débutant le 25 mars"},
+                                     {11000301, "Année civile débutant le 1er mars"}}) {
+    const ScopedRules byStart(RulesWith(kRomanReform, {.rows = {{rules, false}}}));
+    Show(15000210);
+    EXPECT_EQ(header.TitleText(), QString::fromUtf8("Février 1499"));
+    EXPECT_EQ(header.CivilYearText(), QString::fromUtf8(start));
+    QTest::keyClicks(OpenYear(), QStringLiteral("1400"));
+    EXPECT_EQ(Now(), 14010210);  // 10 February 1401 lies in the civil year 1400
+    header.CloseYearEditor();
+  }
+}
+
+TEST_F(HeaderWndTest, TheBandsSayWhatBelongsThere) {
+  Display().showWeekNumber = false;
+  Show(20240101);
+  EXPECT_EQ(header.LeftText(), QStringLiteral("Lundi 1 janvier 2024"));
+  EXPECT_EQ(header.RightText(), QString::fromUtf8("[s. 1] 1 • 365"));
+  EXPECT_EQ(header.CivilYearText(), QString());
+  Display().showWeekNumber = true;
+  EXPECT_EQ(header.RightText(), QString::fromUtf8("1 • 365"));
+  Show(10101);
+  EXPECT_EQ(header.EraText(), QString());
+}
+
+TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
+  Show(101);
+  const HeaderLayout& places = header.Places();
+  for (const auto& [point, text] : {std::pair{QPoint(3, 3), "Clic=mois précédent"},
+                                    {QPoint(597, 3), "Clic=mois suivant"},
+                                    {ToQRect(places.year).center(), "753 AUC | 1 av. JC"},
+                                    {QPoint(100, 3), "none"}})
+    EXPECT_NE(TipAt(point).find(text), std::string::npos) << TipAt(point);
+
+  for (const auto& [point, isHand] : {std::pair{QPointF(0, 20), true},
+                                      {QPointF(19.6, 40.6), true},
+                                      {QPointF(ToQRect(places.year).center()), true},
+                                      {QPointF(20, 30), false}}) {
+    QMouseEvent event(QEvent::MouseMove, point, header.mapToGlobal(point), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&header, &event);
+    EXPECT_EQ(header.cursor().shape() == Qt::PointingHandCursor, isHand) << point.x();
+  }
+}
+
+TEST_F(HeaderWndTest, TheKeyboardReachesAndPressesAllParts) {
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(Focused(), "Mois précédent");
+  Key(Qt::Key_Return, Qt::ShiftModifier);
+  Key(Qt::Key_Space);
+  RepeatEnter();
+  EXPECT_EQ(Now(), 20131229);
+  Key(Qt::Key_Left);  // there is nothing
+  EXPECT_EQ(Focused(), "Mois précédent");
+
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Focused(), "Mois : Décembre");
+  RepeatEnter();
+  EXPECT_EQ(OpenMenu(), nullptr);
+  Key(Qt::Key_Return);
+  ASSERT_NE(OpenMenu(), nullptr);
+  OpenMenu()->close();
+
+  Key(Qt::Key_Right);
+  RepeatEnter();
+  EXPECT_FALSE(header.IsEditingYear());
+  Key(Qt::Key_Return);
+  RepeatEnter();
+  EXPECT_TRUE(header.IsEditingYear());
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Focused(), "Année : 2013");  // back where it came from
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Focused(), "Mois suivant");
+}
+
+TEST_F(HeaderWndTest, EveryTitleFitsBetweenTheArrows) {
+  Show(-39990901);
+  for (const QSize size : {QSize(150, 20), QSize(150, 200), QSize(300, 60), QSize(900, 200)}) {
+    header.resize(size);
+    const HeaderLayout& places = header.Places();
+    EXPECT_GE(places.month.left, places.previous.right) << size.width();
+    EXPECT_LE(places.year.right, places.next.left) << size.width();
+    EXPECT_LE(std::abs(places.month.left + places.year.right - size.width()), 1) << "centered together";
+  }
+}
+
+}  // namespace
+}  // namespace orbisol

@@ -1,0 +1,47 @@
+#include "ui/painting/month_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace orbisol {
+namespace {
+
+// In ordinary sizes, and where divisions leave rests, columns of one pixel or nothing at all.
+TEST(MonthLayoutTest, EveryPixelBelongsToTheCellWhoseRectangleHoldsIt) {
+  for (const auto& [width, height] :
+       {std::pair{900, 420}, {97, 61}, {29, 48}, {7, 7}, {6, 300}, {300, 6}, {0, 0}})
+    for (const bool weekNumbers : {false, true}) {
+      const MonthLayout layout(width, height, weekNumbers, true);
+      for (int y = -3; y < height + 3; ++y)
+        for (int x = -3; x < width + 3; ++x) {
+          int cell = 1;
+          while (cell <= kDayPlaces && !layout.CellRect(cell).Contains(x, y)) ++cell;
+          ASSERT_EQ(layout.CellAt(x, y), cell <= kDayPlaces ? cell : kNoCell) << x << ", " << y;
+        }
+    }
+}
+
+TEST(MonthLayoutTest, ColumnsShareTheWidthWithTheWeekNumbers) {
+  const MonthLayout without(900, 423, false, true);
+  EXPECT_EQ(without.CellRect(14), (Rect{6 * 128, 120, 7 * 128, 180}));
+  const MonthLayout with(900, 423, true, false);
+  EXPECT_EQ(with.CellRect(0), (Rect{0, 60, 124, 120}));
+  EXPECT_EQ(with.WeekHeaderRect(), (Rect{869, 0, 900, 60}));  // from 28/29 of the width
+  EXPECT_EQ(with.WeekNumberRect(6), (Rect{869, 360, 899, 420}));
+  EXPECT_EQ(with.GlyphRect(0, 40, 48), (Rect{82, 84, 94, 96}));
+  const MonthLayout paper(700, 420, false, true, 6);
+  EXPECT_EQ(paper.RoundedRect(1), (Rect{24, 84, 76, 96}));
+}
+
+// On purpose: some stand right of 28/29 of the width.
+TEST(MonthLayoutTest, WeekNumbersStandRightOfTheLineThatPartsThem) {
+  for (int width = 60; width < 2000; ++width) {
+    const MonthLayout layout(width, 400, true, true);
+    const int line = kColumns * layout.columnWidth;
+    ASSERT_EQ(layout.WeekNumberRect(1).left, std::max(MulDiv(28, width, 29), line + 1)) << width;
+  }
+}
+
+}  // namespace
+}  // namespace orbisol

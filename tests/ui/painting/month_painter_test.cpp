@@ -1,0 +1,294 @@
+#include "ui/painting/month_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <set>
+
+#include "core/calendar_config.h"
+#include "ui/toolkit/colors.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/painting/month_pictures.h"
+#include "ui/painting/month_texts.h"
+
+namespace orbisol {
+namespace {
+
+constexpr Color kBlue = Rgb(0x20, 0x60, 0xE0);
+constexpr Color kYellow = Rgb(0xFF, 0xF0, 0x80);
+constexpr Color kMagenta = Rgb(0xFF, 0, 0xFF);  // stands where nothing was painted
+
+// May 2024, painted as a window does. Plain and without a grid, so that a pixel has one reason for its color.
+struct Page {
+  CalendarContent content;
+  DisplaySettings settings;
+  QImage picture;
+  MonthMarks marks;
+  int width = 700, height = 420;
+  double ratio = 1;
+  CMonthPainter::Medium medium = CMonthPainter::kScreen;
+
+  Page() {
+    settings.grid = false;
+    settings.fullCellBackground = true;
+    settings.backgroundAlpha = 255;
+    settings.colors[kHolidaysBgColor] = kYellow;
+    settings.colors[kCircleColor] = kBlue;
+    marks.month = 5;
+  }
+
+  MonthLayout Layout() const { return {width, height, settings.showWeekNumber, Rules().iso8601}; }
+  MonthModel Model() const {
+    MonthModel model;
+    model.year = 2024;
+    model.month = 5;
+    model.Build(content, settings.colors, MonthModel::kWithMoon);
+    return model;
+  }
+
+  Rect Cell(int day) const { return Layout().CellRect(Model().CellOf(5, day)); }
+
+  void FillDays(PackedDate from, PackedDate to) { content.holidays.push_back({from, to, {}}); }
+
+  void PaintOn(QImage& canvas, const QRegion& region = {}) const {
+    CMonthPainter painter;
+    painter.SetUp(Layout(), settings, QFont(), medium);
+    painter.SetBackground(picture);
+    QPainter ink(&canvas);
+    painter.Paint(ink, Model(), marks, region);
+  }
+  QImage Paint() const {
+    QImage canvas((QSizeF(width, height) * ratio).toSize(), QImage::Format_RGB32);
+    canvas.setDevicePixelRatio(ratio);
+    canvas.fill(ToQColor(kMagenta));
+    PaintOn(canvas);
+    return canvas;
+  }
+};
+
+Color PixelAt(const QImage& image, int x, int y) {
+  const QRgb pixel = image.pixel(x, y);
+  return Rgb(static_cast<unsigned>(qRed(pixel)), static_cast<unsigned>(qGreen(pixel)),
+             static_cast<unsigned>(qBlue(pixel)));
+}
+
+// How wide the stripes of a color are that a line of the image crosses, from left to right or down.
+std::set<int> Widths(const QImage& image, Color color, int at, bool isDown) {
+  std::set<int> widths;
+  int wide = 0;
+  for (int i = 0; i < (isDown ? image.height() : image.width()); ++i) {
+    const bool isIn = PixelAt(image, isDown ? at : i, isDown ? i : at) == color;
+    if (!isIn && wide > 0) widths.insert(wide);
+    wide = isIn ? wide + 1 : 0;
+  }
+  if (wide > 0) widths.insert(wide);
+  return widths;
+}
+
+QImage Plain(const QColor& color) {
+  QImage picture(2, 2, QImage::Format_ARGB32);
+  picture.fill(color);
+  return picture;
+}
+
+TEST(MonthPainterTest, HeaderEndsAPixelBelowItsRowAndAPictureBeginsThere) {
+  Page page;
+  page.settings.colors[kHeaderBgColor] = kMagenta;
+  page.settings.colors[kStandardBgColor] = kYellow;
+  for (const auto& [picture, ground] :
+       {std::pair{QImage(), kYellow}, {Plain(ToQColor(kBlue)), kBlue}, {Plain(Qt::transparent), kYellow}}) {
+    page.picture = picture;
+    const QImage image = page.Paint();
+    EXPECT_EQ(PixelAt(image, 699, 60), kMagenta);
+    EXPECT_EQ(PixelAt(image, 1, 61), ground);
+    EXPECT_EQ(PixelAt(image, 699, 419), ground);
+  }
+}
+
+// On purpose: the lines that close the grid are drawn a pixel before their places.
+TEST(MonthPainterTest, GridLinesStandAtTheCellsEdgesAndNumbersBesideWeeksWithDays) {
+  Page page;
+  page.settings.grid = true;
+  const QImage grid = page.Paint();
+  for (const int x : {0, 100, 600, 699}) EXPECT_EQ(PixelAt(grid, x, 65), kGreyTextColor) << x;
+  for (const int y : {0, 60, 360, 419}) EXPECT_EQ(PixelAt(grid, 5, y), kGreyTextColor) << y;
+  page.width = 725;
+  page.settings.grid = false;
+  page.settings.showWeekNumber = true;
+  const QImage weeks = page.Paint();
+  EXPECT_EQ(PixelAt(weeks, 700, 5), kGreyTextColor);
+  EXPECT_EQ(PixelAt(weeks, 100, 65), kWindowColor);
+  EXPECT_NE(Widths(weeks.copy(701, 300, 23, 60), kWindowColor, 30, false), std::set{23});
+  EXPECT_EQ(Widths(weeks.copy(701, 360, 23, 60), kWindowColor, 30, false), std::set{23}) << "a week too many";
+}
+
+// In device pixels, at ratios where those of the layout are none of the screen.
+TEST(MonthPainterTest, LinesAndFramesAreEquallyWideAtEveryRatio) {
+  Page page;
+  page.width = 713;
+  page.settings.grid = true;
+  page.settings.circleWidth = 2;
+  for (const auto& [ratio, line, stroke] :
+       {std::tuple{1.0, 1, 2}, {1.25, 1, 3}, {1.5, 1, 3}, {1.75, 1, 4}, {2.0, 2, 4}, {3.0, 3, 6}})
+    for (int day = 13; day <= 19; ++day) {
+      SCOPED_TRACE(testing::Message() << "ratio " << ratio << ", the " << day);
+      page.ratio = ratio;
+      page.marks.day = day;
+      const QImage image = page.Paint();
+      const auto pixel = [ratio = ratio](int place) { return static_cast<int>((place + 8) * ratio); };
+      EXPECT_EQ(Widths(image, kBlue, pixel(page.Cell(day).top), false), std::set{stroke});
+      EXPECT_EQ(Widths(image, kBlue, pixel(page.Cell(day).left), true), std::set{stroke});
+      EXPECT_EQ(Widths(image, kGreyTextColor, pixel(60), false), std::set{line});
+    }
+}
+
+TEST(MonthPainterTest, FillsHaveTheFormAndTheOpacityOfTheSettings) {
+  const struct {
+    const char* what;
+    bool isFull, isCollapsed;
+    int alpha;
+    Color fill;
+    Color edge, rounded, below;  // what is seen at the cell's edge, in the corner, and under a band
+  } kFills[] = {
+      {"a band", false, true, 255, kBlue, kBlue, kBlue, kYellow},
+      {"a rounded rectangle", true, false, 255, kBlue, kYellow, kYellow, kBlue},
+      {"the whole cell, more than opaque", true, true, 1000, kBlue, kBlue, kBlue, kBlue},
+      {"half", true, false, 128, 0, kYellow, kYellow, Rgb(0x7F, 0x78, 0x40)},
+      {"less than nothing", true, true, -5, kBlue, kYellow, kYellow, kYellow},
+      // On purpose: the window's color is not filled, though the ground has another.
+      {"white", true, true, 255, kWindowColor, kYellow, kYellow, kYellow},
+  };
+  for (const auto& row : kFills) {
+    Page page;
+    page.FillDays(20240514, 20240514);
+    page.settings.fullCellBackground = row.isFull;
+    page.settings.collapseCells = row.isCollapsed;
+    page.settings.backgroundAlpha = row.alpha;
+    page.settings.colors[kHolidaysBgColor] = row.fill;
+    page.settings.colors[kStandardBgColor] = kYellow;
+    const QImage image = page.Paint();  // the cell's corner is 100, 180
+    EXPECT_EQ(PixelAt(image, 150, 180), row.edge) << row.what;
+    EXPECT_EQ(PixelAt(image, 104, 184), row.rounded) << row.what;
+    EXPECT_EQ(PixelAt(image, 106, 192), row.below) << row.what;
+  }
+}
+
+TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighboringMonthsDay) {
+  Page page;
+  page.settings.circleTheDay = true;
+  page.settings.circleWidth = 3;
+  page.marks.month = 4;
+  page.marks.day = 30;  // five pixels inside the sides, three inside top and bottom, a twentieth of the cell
+  EXPECT_EQ(PixelAt(page.Paint(), 105, 90), kBlue);
+  EXPECT_EQ(PixelAt(page.Paint(), 150, 63), kBlue);
+  EXPECT_EQ(PixelAt(page.Paint(), 101, 61), kWindowColor);
+}
+
+TEST(MonthPainterTest, RangeInvertsItsCellsAndNothingElseAndNothingOnPaper) {
+  Page page;
+  page.picture = LoadBackground(DisplaySettings());
+  QImage expected = page.Paint();
+  const QRect cells(100, 60, 300, 60);  // of 30 April to 2 May
+  QImage inverted = expected.copy(cells);
+  inverted.invertPixels();
+  QPainter(&expected).drawImage(cells, inverted);
+  Page ranged = page;
+  ranged.marks.hasRange = true;
+  ranged.marks.firstDayNumber = Date(20240430).DayNumber();
+  ranged.marks.lastDayNumber = Date(20240502).DayNumber();
+  EXPECT_EQ(ranged.Paint(), expected);
+  ranged.medium = page.medium = CMonthPainter::kPaper;
+  EXPECT_EQ(ranged.Paint(), page.Paint());
+}
+
+// The law that lets the window repaint two cells only. No pixel is left out in either painting.
+TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
+  for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
+    for (const bool isCircle : {false, true}) {
+      SCOPED_TRACE(testing::Message() << "ratio " << ratio << (isCircle ? ", circle" : ", frame"));
+      Page page;
+      page.ratio = ratio;
+      page.width = 711;
+      page.height = 433;
+      if (isCircle) page.picture = LoadBackground(DisplaySettings());
+      page.settings.showWeekNumber = true;
+      page.settings.circleTheDay = isCircle;
+      page.settings.circleWidth = 3;
+      page.FillDays(20240506, 20240526);
+      page.marks.day = 12;  // the last of its row
+      QImage canvas = page.Paint();
+      page.marks.day = 20;
+      const auto dirty = [&](int day) {
+        return ToQRect(page.Layout().DirtyRect(page.Model().CellOf(5, day)));
+      };
+      page.PaintOn(canvas, QRegion(dirty(12)) + dirty(20));
+      EXPECT_EQ(canvas, page.Paint());
+      for (int y = 0; y < canvas.height(); ++y) EXPECT_TRUE(Widths(canvas, kMagenta, y, false).empty());
+    }
+}
+
+TEST(MonthPainterTest, WeekdayNamesFitTheirColumns) {
+  for (const int width : {1400, 700, 350, 170}) {
+    const MonthLayout layout(width, 392, true, true);
+    const QFontMetrics names(MakeMonthFonts(layout, DisplaySettings(), QFont()).names);
+    for (int column = 0; column < kColumns; ++column)
+      EXPECT_LE(names.horizontalAdvance(ColumnName(column, 1)), layout.NameRect(0).Width()) << width;
+  }
+}
+
+TEST(MonthPicturesTest, BackgroundIsThePictureOfThePathOrNone) {
+  const QTemporaryDir folder;
+  const QString broken = folder.filePath(QStringLiteral("broken.png"));
+  std::ofstream(broken.toStdString()) << "no picture";
+  const QString renamed = folder.filePath(QStringLiteral("bitmap.gif"));
+  ASSERT_TRUE(QImage(8000, 30, QImage::Format_RGB32).save(renamed, "BMP"));
+  DisplaySettings settings;
+  for (const auto& [path, size] : {std::pair{QString(), QSize(336, 248)},
+                                   {broken, QSize(0, 0)},
+                                   {renamed, QSize(3840, 14)}}) {  // wider than any screen
+    settings.backgroundImagePath.Set(path.toStdU16String());
+    EXPECT_EQ(LoadBackground(settings).size(), size) << path.toStdString();
+  }
+}
+
+// In the north the waxing moon is lit at its right.
+TEST(MonthPicturesTest, GlyphsAreLitAsSeenFromEuropeOnScreenAndPaper) {
+  for (const auto& [phase, left, right] : {std::tuple{kNewMoon, false, false},
+                                           {kFirstQuarter, false, true},
+                                           {kFullMoon, true, true},
+                                           {kLastQuarter, true, false}})
+    for (const int side : {8, 12, 48, 200})
+      for (const bool isPaper : {false, true}) {
+        QImage glyph = Plain(Qt::white).scaled(side, side);
+        QPainter painter(&glyph);
+        if (isPaper) DrawMoonOnPaper(painter, glyph.rect(), phase, side / 16.0);
+        if (!isPaper) painter.drawImage(0, 0, MoonGlyph(phase, side));
+        const auto gray = [&](int x) { return qGray(glyph.pixel(x, side / 2)); };
+        EXPECT_EQ(gray(side * 3 / 10) > 128, left) << phase << " at " << side;
+        EXPECT_EQ(gray(side * 7 / 10) > 128, right) << phase << " at " << side;
+        EXPECT_LT(std::min(gray(0), gray(side / 12)), 160) << "the rim of " << phase << " at " << side;
+      }
+}
+
+TEST(MonthPicturesTest, AreThoseThatTheirProgramDraws) {
+  const QTemporaryDir folder;
+  ASSERT_EQ(QProcess::execute(QStringLiteral(ORBISOL_DRAW_PICTURES), {folder.path()}), 0);
+  const QString kept = QStringLiteral(ORBISOL_SOURCE_DIR "/resources/pictures/");
+  EXPECT_EQ(QImage(folder.filePath("moon.png")), QImage(kept + "moon.png"));
+  const QImage drawn(folder.filePath("background.jpg"));
+  const QImage shipped(kept + "background.jpg");
+  ASSERT_EQ(drawn.size(), shipped.size());
+  for (qsizetype i = 0; i < shipped.sizeInBytes(); ++i)
+    ASSERT_LE(std::abs(drawn.constBits()[i] - shipped.constBits()[i]), 1) << i;
+  // A tone darker, and grey or red numbers would have too little contrast.
+  for (int y = 0; y < shipped.height(); ++y)
+    for (int x = 0; x < shipped.width(); ++x) ASSERT_GE(qGray(shipped.pixel(x, y)), 0xEC);
+}
+
+}  // namespace
+}  // namespace orbisol

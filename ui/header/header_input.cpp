@@ -1,0 +1,165 @@
+// Mouse, keys, month menu and year editor of the header.
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include <utility>
+
+#include "content/selected_date.h"
+#include "core/civil_year.h"
+#include "core/date_text.h"
+#include "resources/command_ids.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/keys.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/header/header_part.h"
+#include "ui/header/header_wnd.h"
+#include "ui/header/year_edit.h"
+
+namespace orbisol {
+
+void CHeaderWnd::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint point = Cut(event->position());
+  const bool isOnPart = m_layout.PartAt(point.x(), point.y()) != HeaderPart::kNone;
+  setCursor(isOnPart ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+// Taken, so that the release comes here too.
+void CHeaderWnd::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
+  const QPoint point = Cut(event->position());
+  const HeaderPart part = m_layout.PartAt(point.x(), point.y());
+  if (event->button() == Qt::LeftButton) {
+    if (part == HeaderPart::kNone) CloseYearEditor();
+    Press(part, event->modifiers());
+  } else if (event->button() == Qt::RightButton &&
+             (part == HeaderPart::kPrevious || part == HeaderPart::kNext)) {
+    CloseYearEditor();
+    Selected().SetPacked(part == HeaderPart::kPrevious ? kFirstDateShown : kLastDateShown);
+    Changed(DateMove::kLeap);
+  }
+}
+
+void CHeaderWnd::Press(HeaderPart part, Qt::KeyboardModifiers modifiers) {
+  switch (part) {
+    case HeaderPart::kPrevious:
+    case HeaderPart::kNext:
+      Step(part == HeaderPart::kNext, modifiers);
+      break;
+    case HeaderPart::kMonth:
+      OpenMonthMenu();
+      break;
+    case HeaderPart::kYear:
+      OpenYearEditor();
+      break;
+    case HeaderPart::kNone:
+      break;
+  }
+}
+
+void CHeaderWnd::Step(bool isForward, Qt::KeyboardModifiers modifiers) {
+  CloseYearEditor();
+  const bool hasCtrl = modifiers & Qt::ControlModifier;
+  const bool hasShift = modifiers & Qt::ShiftModifier;
+  const int years = hasCtrl && hasShift ? 100 : hasShift ? 10 : hasCtrl ? 1 : 0;
+  StepMonthsOrYears(Selected(), isForward ? 1 : -1, years);
+  Changed(DateMove::kStep);
+}
+
+void CHeaderWnd::OpenMonthMenu() {
+  CloseYearEditor();
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (int month = 1; month <= 12; ++month) {
+    QAction* const item = menu->addAction(MenuText(UpperFirst(MonthName(month))));
+    item->setData(kCmdFirstMonth + month - 1);
+    connect(item, &QAction::triggered, this, [this, month] { SelectMonth(month); });
+    if (month == Selected().month) menu->setActiveAction(item);
+  }
+  constexpr int kOverlap = 5;
+  menu->popup(mapToGlobal(QPoint(m_layout.month.left, m_layout.month.bottom - kOverlap)));
+}
+
+// On purpose: the day stays as it is, also where the month has no such day.
+void CHeaderWnd::SelectMonth(int month) {
+  Selected().month = month;
+  ClampToBounds(Selected());
+  Changed(DateMove::kLeap);
+}
+
+void CHeaderWnd::OpenYearEditor() {
+  if (IsEditingYear()) return;
+  m_focusBefore = QApplication::focusWidget();
+  m_isTyping = false;
+  FitEditor();
+  LayOut();
+  m_year->Open(CivilYearOf(Selected()));
+  update(ToQRect(m_layout.year));
+}
+
+void CHeaderWnd::SetYear(int year) {
+  SetCivilYear(Selected(), year);
+  ClampToBounds(Selected());
+  Changed(std::exchange(m_isTyping, true) ? DateMove::kTyping : DateMove::kTypingBegins);
+}
+
+void CHeaderWnd::CloseYearEditor() {
+  if (IsEditingYear()) YearEditorClosed(false);
+}
+
+void CHeaderWnd::YearEditorClosed(bool byEnter) {
+  if (!IsEditingYear()) return;
+  const QSignalBlocker closesOnce(m_year);  // losing the focus closes it too
+  // In its window, which may have lost the focus as a whole.
+  const bool hadFocus = window()->focusWidget() == m_year;
+  // Enter means "today" in the month below: until the key is up its repetitions end here.
+  m_isEnterDown = byEnter && hadFocus;
+  if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
+  m_year->hide();
+  if (hadFocus && !m_isEnterDown) GiveFocusBack();
+  TakeDate();  // the title stood still under the editor
+  LayOut();
+  update();
+}
+
+void CHeaderWnd::GiveFocusBack() {
+  if (m_focusBefore && m_focusBefore->isVisible()) {
+    m_focusBefore->setFocus(Qt::OtherFocusReason);
+  } else {
+    m_yearPart->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void CHeaderWnd::keyPressEvent(QKeyEvent* event) {
+  if (m_isEnterDown && !IsEnter(event->key())) {
+    // A key was typed before Enter was up: it is meant for what had the focus.
+    m_isEnterDown = false;
+    GiveFocusBack();
+    if (QWidget* const receiver = QApplication::focusWidget(); receiver && receiver != this)
+      QCoreApplication::sendEvent(receiver, event);
+    return;
+  }
+  if (m_isEnterDown) return;
+  QWidget::keyPressEvent(event);
+}
+
+void CHeaderWnd::keyReleaseEvent(QKeyEvent* event) {
+  if (m_isEnterDown && IsEnter(event->key()) && !event->isAutoRepeat()) {
+    m_isEnterDown = false;
+    GiveFocusBack();
+    return;
+  }
+  QWidget::keyReleaseEvent(event);
+}
+
+void CHeaderWnd::Changed(DateMove move) {
+  Refresh();
+  if (m_host) m_host->OnHeaderDateChanged(move);
+}
+
+}  // namespace orbisol

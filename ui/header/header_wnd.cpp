@@ -1,0 +1,262 @@
+#include "ui/header/header_wnd.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+#include "content/selected_date.h"
+#include "core/civil_year.h"
+#include "core/date_text.h"
+#include "core/week_number.h"
+#include "resources/strings.h"
+#include "settings/display_settings.h"
+#include "ui/toolkit/colors.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/header/header_part.h"
+#include "ui/painting/month_fonts.h"
+#include "ui/painting/month_texts.h"
+#include "ui/header/year_edit.h"
+
+namespace orbisol {
+namespace {
+
+const QLatin1String kWidestYear("-0000");
+
+constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
+
+}  // namespace
+
+CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent) : QWidget(parent), m_host(host) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAccessibleName(TablePiece(kTextHeaderNames, kNameHeader));
+
+  const auto press = [this](HeaderPart part, Qt::KeyboardModifiers modifiers) { Press(part, modifiers); };
+  // Made in the order of Tab: the editor comes behind the year.
+  m_previousPart = new CHeaderPart(HeaderPart::kPrevious, press, this);
+  m_monthPart = new CHeaderPart(HeaderPart::kMonth, press, this);
+  m_yearPart = new CHeaderPart(HeaderPart::kYear, press, this);
+  m_year = new CYearEdit(this);
+  m_nextPart = new CHeaderPart(HeaderPart::kNext, press, this);
+  m_previousPart->setAccessibleName(TablePiece(kTextHeaderNames, kNamePrevious));
+  m_previousPart->setAccessibleDescription(TableText(kTextPrevious));
+  m_nextPart->setAccessibleName(TablePiece(kTextHeaderNames, kNameNext));
+  m_nextPart->setAccessibleDescription(TableText(kTextNext));
+
+  m_year->hide();
+  m_year->setAccessibleName(TablePiece(kTextHeaderNames, kNameYearEditor));
+  connect(m_year, &CYearEdit::YearEntered, this, &CHeaderWnd::SetYear);
+  connect(m_year, &CYearEdit::Closed, this, &CHeaderWnd::YearEditorClosed);
+
+  TakeDate();
+}
+
+bool CHeaderWnd::IsEditingYear() const { return m_year->isVisible(); }
+
+QString CHeaderWnd::TitleText() const { return MonthAndYear(m_monthName, m_shownYear); }
+
+QString CHeaderWnd::LeftText() const { return ToQString(LongDate(Selected(), false)); }
+
+QString CHeaderWnd::RightText() const {
+  const Date& date = Selected();
+  const int day = DayOfCivilYear(date);
+  const int left = DaysLeftInCivilYear(date);
+  if (Display().showWeekNumber) return TableText(kTextDayCounts, {day, left});
+  return TableText(kTextWeekAndDayCounts, {StringText(kTextWeek), WeekNumber(date), day, left});
+}
+
+QString CHeaderWnd::EraText() const {
+  const int year = CivilYearOf(Selected());
+  return year < 1 ? TableText(kTextEras, {YearOfRome(year), YearBeforeEra(year)}) : QString();
+}
+
+QString CHeaderWnd::CivilYearText() const {
+  constexpr int kFirstOfJanuary = 101;
+  const int start = CivilYearStartDay(Selected());
+  if (start == kFirstOfJanuary) return {};
+  const std::u16string month = MonthName(start / 100);
+  const std::u16string_view texts = StringText(kTextCivilYearStart);
+  return ToQString(start % 100 == 1 ? FormatText(Piece(texts, u'|', 1), {month})
+                                    : FormatText(Piece(texts, u'|', 0), {start % 100, month}));
+}
+
+void CHeaderWnd::Refresh() {
+  m_year->SetPosition(CivilYearOf(Selected()));
+  if (IsEditingYear() && MonthTitle(Selected().month) == m_monthName) {
+    // The title stands still under the editor.
+    UpdateNames();
+    update(ToQRect(m_layout.topBand));
+    update(ToQRect(m_layout.bottomBand));
+    return;
+  }
+  TakeDate();
+  if (!m_hasSize) return;
+  LayOut();
+  update();
+}
+
+void CHeaderWnd::TakeDate() {
+  m_monthName = MonthTitle(Selected().month);
+  m_shownYear = CivilYearOf(Selected());
+  UpdateNames();
+}
+
+// The font of the title, by the size of the header and the face; a date changes neither.
+void CHeaderWnd::FitTitle() {
+  QFont face = CalendarFont(Display(), font());
+  face.setBold(true);
+  if (m_fittedSize == size() && m_fittedFace == face) return;
+  m_fittedSize = size();
+  m_fittedFace = face;
+
+  m_titleFont = FontOfHeight(face, HeaderLayout::TitleHeight(height(), m_band));
+  const auto widest = [&] {
+    const QFontMetrics metrics(m_titleFont);
+    int name = 0;
+    for (int month = 1; month <= 12; ++month)
+      name = std::max(name, metrics.horizontalAdvance(MonthTitle(month)));
+    return name + metrics.horizontalAdvance(QLatin1Char(' ') + kWidestYear);
+  };
+  // In a narrow and high window every title must still fit between the arrows.
+  const int room = HeaderLayout::TitleRoom(width(), height());
+  for (int needed = widest(); needed > room && m_titleFont.pixelSize() > 1; needed = widest())
+    m_titleFont.setPixelSize(
+        std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
+}
+
+// The font of the year editor, which is as large as the title's where its frame leaves room for that.
+void CHeaderWnd::FitEditor() {
+  constexpr int kFieldFrame = 4;  // above and below the text together
+  const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
+  m_year->setFont(FontOfHeight(m_fittedFace, std::max(1, room)));
+}
+
+void CHeaderWnd::LayOut() {
+  m_band = HeaderBandHeight(QFontInfo(font()).pixelSize());
+  FitTitle();
+  if (IsEditingYear()) FitEditor();
+  const QFontMetrics metrics(m_titleFont);
+  HeaderMeasures measures;
+  measures.width = width();
+  measures.height = height();
+  measures.band = m_band;
+  measures.space = metrics.horizontalAdvance(QLatin1Char(' '));
+  measures.month = metrics.horizontalAdvance(m_monthName);
+  measures.year = metrics.horizontalAdvance(QString::number(m_shownYear));
+  measures.widestYear = metrics.horizontalAdvance(kWidestYear);
+  measures.spinButtons = m_year->ButtonsWidth();
+  m_layout = HeaderLayout(measures);
+
+  m_year->setGeometry(ToQRect(m_layout.yearEditor));
+  m_previousPart->setGeometry(ToQRect(m_layout.previous));
+  m_monthPart->setGeometry(ToQRect(m_layout.month));
+  m_yearPart->setGeometry(ToQRect(m_layout.year));
+  m_nextPart->setGeometry(ToQRect(m_layout.next));
+}
+
+// What a screen reader says.
+void CHeaderWnd::UpdateNames() {
+  const std::u16string month = UpperFirst(MonthName(Selected().month));
+  setAccessibleDescription(LeftText() + QLatin1Char('\n') + RightText());
+  m_monthPart->setAccessibleName(
+      ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameMonth), {month})));
+  m_yearPart->setAccessibleName(
+      ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameYear), {CivilYearOf(Selected())})));
+  m_monthPart->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
+  m_yearPart->setAccessibleDescription(YearTip());
+}
+
+void CHeaderWnd::paintEvent(QPaintEvent*) {
+  const DisplaySettings& settings = Display();
+  const QColor ink = ToQColor(settings.ColorAt(kColorCalHeader));
+  QPainter painter(this);
+  painter.fillRect(rect(), ToQColor(settings.ColorAt(kColorBgCal)));
+
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ink, 1));
+  painter.setBrush(ink);
+  for (const auto& arrow : {m_layout.previousArrow, m_layout.nextArrow}) {
+    QPolygonF corners;
+    for (const HeaderLayout::Point& point : arrow) corners << QPointF(point.x, point.y);
+    painter.drawConvexPolygon(corners);
+  }
+  painter.setBrush(Qt::NoBrush);
+
+  painter.setFont(m_titleFont);
+  const auto drawPart = [&](const Rect& place, const QString& text) {
+    painter.drawText(ToQRect(place), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, text);
+  };
+  drawPart(m_layout.month, m_monthName);
+  if (!IsEditingYear()) drawPart(m_layout.year, QString::number(m_shownYear));
+
+  painter.setFont(font());
+  // The right text is never cut; the left one gives way to it.
+  const auto drawBand = [&](const Rect& band, const QString& left, const QString& right, bool isLeftCut) {
+    const QRect area = ToQRect(band);
+    const int rightWidth = right.isEmpty() ? 0 : painter.fontMetrics().horizontalAdvance(right) + kBandGap;
+    const int room = area.width() - rightWidth;
+    painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, right);
+    if (isLeftCut || painter.fontMetrics().horizontalAdvance(left) <= room)
+      painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                       painter.fontMetrics().elidedText(left, Qt::ElideRight, room));
+  };
+  drawBand(m_layout.topBand, CivilYearText(), EraText(), false);
+  drawBand(m_layout.bottomBand, LeftText(), RightText(), true);
+}
+
+void CHeaderWnd::resizeEvent(QResizeEvent*) {
+  m_hasSize = true;
+  LayOut();
+}
+
+void CHeaderWnd::changeEvent(QEvent* event) {
+  if (m_hasSize && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+    m_fittedSize = QSize();
+    LayOut();
+  }
+  QWidget::changeEvent(event);
+}
+
+QString CHeaderWnd::YearTip() const {
+  QStringList lines{ToQString(CenturyText(CivilYearOf(Selected())))};
+  lines << EraText() << CivilYearText() << TablePiece(kTextHeaderTips, 1);
+  lines.removeAll(QString());
+  return lines.join(QLatin1Char('\n'));
+}
+
+// The text that belongs to a point, and the area in which it is the same.
+QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
+  const auto isIn = [&](const Rect& place) {
+    if (!place.Contains(position.x(), position.y())) return false;
+    *area = ToQRect(place);
+    return true;
+  };
+  if (isIn(m_layout.month)) return TablePiece(kTextHeaderTips, 0);
+  if (isIn(m_layout.year)) return YearTip();
+  if (isIn(m_layout.previousTip)) return TableText(kTextPrevious);
+  if (isIn(m_layout.nextTip)) return TableText(kTextNext);
+  return {};
+}
+
+bool CHeaderWnd::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    QRect area;
+    const QString tip = TipAt(help->pos(), &area);
+    if (tip.isEmpty()) {
+      QToolTip::hideText();
+      event->ignore();
+    } else {
+      QToolTip::showText(help->globalPos(), TipMarkup(tip), this, area);
+    }
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+}  // namespace orbisol

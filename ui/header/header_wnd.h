@@ -1,0 +1,104 @@
+// The header above the month: month and year of the selected date between two arrows, its long form and its
+// place in the civil year below, the eras of years before the first above.
+//
+//   CHeaderWnd header(host, parent);
+//   Selected() = …;     // somebody else moved the date:
+//   header.Refresh();
+//
+// A click on an arrow steps by a month, with Ctrl by a year, with Shift by ten, with both by a hundred; the
+// right button goes to the end of the range. The month opens a menu, the year an editor with a spin control.
+// With the keyboard, Tab and the left and right arrows reach the four, Enter and Space press them.
+#pragma once
+
+#include <QFont>
+#include <QPointer>
+#include <QWidget>
+
+#include "content/selected_date.h"
+#include "ui/header/header_layout.h"
+
+namespace orbisol {
+
+class CHeaderPart;
+class CYearEdit;
+
+struct HeaderHost {
+  virtual ~HeaderHost() = default;
+
+  // The selected date was changed by the user's hand, in the header.
+  virtual void OnHeaderDateChanged(DateMove move) = 0;
+};
+
+class CHeaderWnd : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The host outlives the window.
+  explicit CHeaderWnd(HeaderHost* host, QWidget* parent = nullptr);
+
+  // The selected date, the colors, the font or the calendar rules were changed elsewhere. While the year is
+  // being typed its box is left alone.
+  void Refresh();
+
+  bool IsEditingYear() const;
+  void CloseYearEditor();
+
+  const HeaderLayout& Places() const { return m_layout; }
+
+  // As the bands and the title show them, for tests and for whoever cannot see them.
+  QString TitleText() const;
+  QString LeftText() const;   // bottom left: the long date
+  QString RightText() const;  // bottom right: week, day of the civil year, days left in it
+  QString EraText() const;    // top right; empty from year 1 on
+  // Empty where civil years begin on 1 January.
+  QString CivilYearText() const;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  void TakeDate();
+  void FitTitle();
+  void FitEditor();
+  void LayOut();
+  void Press(HeaderPart part, Qt::KeyboardModifiers modifiers);
+  void Step(bool isForward, Qt::KeyboardModifiers modifiers);
+  void OpenMonthMenu();
+  void SelectMonth(int month);
+  void OpenYearEditor();
+  void SetYear(int year);
+  void YearEditorClosed(bool byEnter);
+  void GiveFocusBack();
+  void Changed(DateMove move);
+  QString YearTip() const;
+  QString TipAt(QPoint position, QRect* area) const;
+  void UpdateNames();
+
+  HeaderHost* m_host;
+  HeaderLayout m_layout;
+  bool m_hasSize = false;  // one was given to it; until then nothing is laid out
+  QFont m_titleFont;
+  QFont m_fittedFace;  // what the font of the title was made for
+  QSize m_fittedSize;
+  int m_band = 0;  // height of the bands
+  QString m_monthName;
+  int m_shownYear = 0;  // as the title shows it
+  CHeaderPart* m_previousPart = nullptr;
+  CHeaderPart* m_monthPart = nullptr;
+  CHeaderPart* m_yearPart = nullptr;
+  CHeaderPart* m_nextPart = nullptr;
+  CYearEdit* m_year = nullptr;
+  QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
+  bool m_isTyping = false;          // a year was entered since the editor was opened
+  bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet
+};
+
+}  // namespace orbisol

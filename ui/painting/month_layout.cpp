@@ -1,0 +1,130 @@
+#include "ui/painting/month_layout.h"
+
+#include <algorithm>
+
+namespace orbisol {
+namespace {
+
+constexpr int kNameMargin = 3;  // around a weekday name
+
+}  // namespace
+
+MonthLayout::MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale)
+    : width(std::max(totalWidth, 0)),
+      height(std::max(totalHeight, 0)),
+      // Seven columns take 280 of 290 parts beside the week numbers.
+      columnWidth(weekNumbers ? MulDiv(40, width, 290) : width / kColumns),
+      rowHeight(height / (kWeekRows + 1)),
+      lineScale(std::max(scale, 1)),
+      showWeekNumber(weekNumbers),
+      firstCell(mondayFirst ? 1 : 0) {}
+
+int MonthLayout::WeekOfRow(const MonthModel& month, int row) const {
+  const auto cell = [&](int index) -> const DayCell& { return month.cells[static_cast<std::size_t>(index)]; };
+  const int end = firstCell + row * kColumns - 1;
+  // On purpose: 0 where the last cell but one is empty, in the first row shown, where the range begins.
+  if (cell(end).day != 0) return cell(end - 1).week;
+  const int last = month.LastCell();
+  return last != kNoCell && RowOf(last) == row ? cell(last).week : 0;
+}
+
+Rect MonthLayout::CellRect(int cell) const {
+  const int left = ColumnOf(cell) * columnWidth;
+  const int top = RowOf(cell) * rowHeight;
+  return {left, top, left + columnWidth, top + rowHeight};
+}
+
+int MonthLayout::CellAt(int x, int y) const {
+  if (x < 0 || y < 0 || columnWidth == 0 || rowHeight == 0) return kNoCell;
+  const int column = x / columnWidth;
+  const int row = y / rowHeight;
+  if (column >= kColumns || row < 1 || row > kWeekRows) return kNoCell;
+  return firstCell + (row - 1) * kColumns + column;
+}
+
+Rect MonthLayout::NameRect(int column) const {
+  return Rect{column * columnWidth, 0, (column + 1) * columnWidth, rowHeight}.Shrunk(kNameMargin);
+}
+
+Rect MonthLayout::WeekHeaderRect() const { return {WeekNumbersLeft(), 0, width, rowHeight}; }
+
+Rect MonthLayout::WeekNumberRect(int row) const {
+  return {WeekNumbersLeft(), row * rowHeight, width - 1, (row + 1) * rowHeight};
+}
+
+// On purpose: not always at 28/29 of the width. Where the columns of days are rounded up they reach up to
+// three pixels into that part, and the numbers, which fill it, would be crossed by the line behind the
+// columns.
+int MonthLayout::WeekNumbersLeft() const {
+  return std::max(MulDiv(28, width, 29), kColumns * columnWidth + lineScale);
+}
+
+std::vector<int> MonthLayout::VerticalLines(bool grid) const {
+  std::vector<int> lines;
+  if (grid) {
+    const int count = showWeekNumber ? kColumns + 1 : kColumns;
+    for (int j = 0; j < count; ++j) lines.push_back(j * columnWidth);
+    lines.push_back(width);
+  } else if (showWeekNumber) {
+    lines.push_back(kColumns * columnWidth);
+  }
+  return lines;
+}
+
+std::vector<int> MonthLayout::HorizontalLines(bool grid) const {
+  std::vector<int> lines;
+  if (!grid) return lines;
+  if (rowHeight > 0)
+    for (int j = 0; j < height / rowHeight; ++j) lines.push_back(j * rowHeight);
+  lines.push_back(height);
+  return lines;
+}
+
+Rect MonthLayout::BandRect(int cell) const {
+  Rect band = CellRect(cell);
+  band.bottom = band.top + band.Height() / 5;
+  return band;
+}
+
+int MonthLayout::RoundedDiameter() const { return std::min(columnWidth, rowHeight) / (5 * lineScale); }
+
+Rect MonthLayout::GlyphRect(int cell, int textWidth, int textHeight) const {
+  const Rect rect = CellRect(cell);
+  const int side = textHeight / 4;
+  const int left = rect.left + (columnWidth + textWidth) / 2;
+  return {left, rect.top + (rowHeight - side) / 2, left + side, rect.top + (rowHeight + side) / 2};
+}
+
+Rect MonthLayout::CircleRect(int cell) const {
+  return CellRect(cell).Shrunk(columnWidth / 20, rowHeight / 20);
+}
+
+Rect MonthLayout::FrameRect(int cell, int penWidth) const {
+  Rect frame = CellRect(cell);
+  // The strokes follow the cell shrunk by half the pen. One of an odd width ends a pixel behind the cell, but
+  // never outside of the canvas.
+  frame.right = std::min(frame.right + penWidth % 2, width);
+  frame.bottom = std::min(frame.bottom + penWidth % 2, height);
+  return frame;
+}
+
+std::vector<Rect> MonthLayout::FrameStrokes(const Rect& frame, int thickness) {
+  const Rect inner = frame.Shrunk(thickness);
+  if (inner.Width() <= 0 || inner.Height() <= 0) return {frame};
+  return {{frame.left, frame.top, frame.right, inner.top},
+          {frame.left, inner.bottom, frame.right, frame.bottom},
+          {frame.left, inner.top, inner.left, inner.bottom},
+          {inner.right, inner.top, frame.right, inner.bottom}};
+}
+
+Rect MonthLayout::DirtyRect(int cell) const {
+  constexpr int kWidestStroke = 3;  // of a mark, which leaves small cells by up to that
+  return CellRect(cell).Shrunk(-std::max(columnWidth / 10, kWidestStroke),
+                               -std::max(rowHeight / 8, kWidestStroke));
+}
+
+int MonthLayout::FontHeight() const { return std::min(columnWidth / 2, rowHeight); }
+
+int MonthLayout::SmallFontHeight() const { return MulDiv(FontHeight(), 40, 100); }
+
+}  // namespace orbisol

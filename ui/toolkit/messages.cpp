@@ -1,0 +1,47 @@
+#include "ui/toolkit/messages.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace orbisol {
+namespace {
+
+struct DesktopMessages : MessageDoor {
+  void ShowError(QWidget* parent, const QString& text) override {
+    QMessageBox box(QMessageBox::Critical, QString(), text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+  }
+
+  int Choose(QWidget* parent, const QString& text, const QStringList& buttons) override {
+    QMessageBox box(QMessageBox::Question, QString(), text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton*> made;
+    for (const QString& button : buttons) made.append(box.addButton(button, QMessageBox::ActionRole));
+    if (!made.isEmpty()) box.setDefaultButton(static_cast<QPushButton*>(made.first()));
+    // Nothing of the list means "leave it": Escape and the frame's own button do that.
+    QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    return static_cast<int>(made.indexOf(box.clickedButton()));
+  }
+
+  void Beep() override { QApplication::beep(); }
+};
+
+MessageDoor*& Door() {
+  static DesktopMessages desktop;
+  static MessageDoor* door = &desktop;
+  return door;
+}
+
+}  // namespace
+
+MessageDoor& Messages() { return *Door(); }
+
+ScopedMessages::ScopedMessages(MessageDoor& door) : m_saved(Door()) { Door() = &door; }
+
+ScopedMessages::~ScopedMessages() { Door() = m_saved; }
+
+}  // namespace orbisol

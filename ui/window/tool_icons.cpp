@@ -1,0 +1,122 @@
+#include "ui/window/tool_icons.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include "resources/pictures/icons/icons.h"
+
+namespace orbisol {
+namespace {
+
+// As they stand in the drawings.
+constexpr char kInk[] = "#000000";
+constexpr char kAccent[] = "#22496B";
+// The accent on a dark ground, the same blue as light as it must be to be read there.
+constexpr char kLightAccent[] = "#86B9E2";
+
+// Drawings come on a grid of 22 units, and again on one of 16, whose lines fall on whole pixels at 16, 32
+// and 48.
+constexpr int kSmallGrid = 16;
+
+QByteArray Drawing(const QString& name) {
+  QFile file(IconPath(name));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class CDrawnIcon : public QIconEngine {
+ public:
+  CDrawnIcon(const QString& name, const QColor& ink) : m_name(name), m_ink(ink) {}
+
+  QIconEngine* clone() const override { return new CDrawnIcon(*this); }
+  QString key() const override { return QStringLiteral("orbisol"); }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return scaledPixmap(size, mode, state, 1);
+  }
+
+  QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal scale) override {
+    const int side = qMin(size.width(), size.height());
+    if (side <= 0) return {};
+    const QColor ink = Ink(mode);
+    const QString cached = QStringLiteral("orbisol-%1-%2-%3-%4-%5")
+                               .arg(m_name)
+                               .arg(ink.rgba())
+                               .arg(mode == QIcon::Disabled)
+                               .arg(size.width())
+                               .arg(size.height());
+    QPixmap pixmap;
+    if (!QPixmapCache::find(cached, &pixmap)) {
+      pixmap = Draw(size, side, ink, mode == QIcon::Disabled);
+      QPixmapCache::insert(cached, pixmap);
+    }
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+  }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    const qreal scale = painter->device()->devicePixelRatioF();
+    painter->drawPixmap(rect, scaledPixmap((QSizeF(rect.size()) * scale).toSize(), mode, state, scale));
+  }
+
+ private:
+  QColor Ink(QIcon::Mode mode) const {
+    if (mode == QIcon::Disabled)
+      return QGuiApplication::palette().color(QPalette::Disabled, QPalette::WindowText);
+    if (m_ink.isValid()) return m_ink;
+    return QGuiApplication::palette().color(
+        QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
+  }
+
+  QPixmap Draw(const QSize& size, int side, const QColor& ink, bool isDisabled) const {
+    const QColor accent = ink.lightnessF() > 0.5F ? QColor(kLightAccent) : QColor(kAccent);
+    QByteArray drawing;
+    if (side % kSmallGrid == 0) drawing = Drawing(m_name + QStringLiteral("-16"));
+    if (drawing.isEmpty()) drawing = Drawing(m_name);
+    drawing.replace(kInk, ink.name().toLatin1());
+    drawing.replace(kAccent, (isDisabled ? ink : accent).name().toLatin1());
+
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setOpacity(ink.alphaF());
+    const int left = (size.width() - side) / 2;  // whole pixels, so that lines stay sharp
+    const int top = (size.height() - side) / 2;
+    QSvgRenderer(drawing).render(&painter, QRectF(left, top, side, side));
+    return pixmap;
+  }
+
+  QString m_name;
+  QColor m_ink;  // invalid: that of the palette
+};
+
+// Sizes between are scaled from the largest drawing.
+QPixmap ProgramPixmap(const char* name, int side) {
+  QPixmap pixmap(side, side);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  QSvgRenderer(Drawing(QLatin1String(name))).render(&painter);
+  return pixmap;
+}
+
+}  // namespace
+
+QIcon ToolIcon(std::string_view name, const QColor& ink) {
+  const QString text = QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+  if (!QFile::exists(IconPath(text))) return {};
+  return QIcon(new CDrawnIcon(text, ink));
+}
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  icon.addPixmap(ProgramPixmap("orbisol-16", 16));
+  icon.addPixmap(ProgramPixmap("orbisol-22", 22));
+  for (const int side : {32, 48, 64, 128}) icon.addPixmap(ProgramPixmap("orbisol", side));
+  return icon;
+}
+
+}  // namespace orbisol
