@@ -125,6 +125,10 @@ constexpr Entry kStrings[] = {
      u"Des options avancées se contredisent. Voulez-vous les corriger ?|"
      u"Les réglages de recto verso se contredisent. Voulez-vous les corriger ?|"
      u"Les options « Pages par feuille » et « Jeu de pages » ne vont pas ensemble.|Disque|Dossier"},
+    {kTextPictureFaults,
+     u"Ce fichier n'existe pas ou ne peut pas être lu.|Ce n'est pas un fichier, ou il est vide.|"
+     u"Ce n'est pas une image TIFF, JPEG, PNG, GIF ou BMP.|Cette image est trop grande.|"
+     u"Cette image est endommagée."},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},

@@ -52,6 +52,7 @@ enum TextId : int {
   kTextToolBarName = 5125,
   kTextToolkitSource = 5130,  // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
+  kTextPictureFaults = 5160,  // why a file is no picture, in the order of PictureFault, kNone left out
 };
 
 // Empty for a number that the table does not hold.
