@@ -117,13 +117,13 @@ Color At(const std::array<Color, kColorCount>& colors, ColorIndex index) {
 void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     ColorIndex text = kStandardTextColor;
-    if ((cell.marks & kVacationCell) != 0) text = kHolidaysFontColor;
-    if ((cell.marks & kEventCell) != 0) text = kEventFgColor;
-    if ((cell.marks & kHolidayCell) != 0) text = kHolidayFontColor;
+    if ((cell.marks & kVacationCell) != 0) text = kVacationText;
+    if ((cell.marks & kEventCell) != 0) text = kEventText;
+    if ((cell.marks & kHolidayCell) != 0) text = kHolidayText;
     ColorIndex back = kStandardBgColor;
-    if ((cell.marks & kEventCell) != 0) back = kEventBgColor;
-    if ((cell.marks & kHolidayCell) != 0) back = kHolidayBgColor;
-    if ((cell.marks & kVacationCell) != 0) back = kHolidaysBgColor;
+    if ((cell.marks & kEventCell) != 0) back = kEventBack;
+    if ((cell.marks & kHolidayCell) != 0) back = kHolidayBack;
+    if ((cell.marks & kVacationCell) != 0) back = kVacationBack;
     cell.textColor = At(colors, text);
     cell.backColor = At(colors, back);
   }
@@ -132,7 +132,7 @@ void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& c
 void ColorNeighbors(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     cell.textColor = At(colors, kGrayTextColor);
-    cell.backColor = At(colors, (cell.marks & kVacationCell) != 0 ? kHolidaysBgColor : kStandardBgColor);
+    cell.backColor = At(colors, (cell.marks & kVacationCell) != 0 ? kVacationBack : kStandardBgColor);
   }
 }
 

@@ -3,7 +3,7 @@
 //   MonthModel model;
 //   model.year = 2024;
 //   model.month = 5;
-//   model.Build(content, settings.colors, MonthModel::kWithMoon);
+//   model.Build(content, look.colors, MonthModel::kWithMoon);
 //   for (int i = model.FirstCell(); i <= model.LastCell(); ++i) …
 //
 // A row holds seven consecutive cells. Monday-first weeks (iso8601) begin at index 1 and leave index 0 empty,
@@ -15,7 +15,7 @@
 #include <string>
 
 #include "content/calendar_content.h"
-#include "settings/display_settings.h"
+#include "content/calendar_look.h"
 
 namespace orbisol {
 

@@ -19,14 +19,12 @@ std::string_view WithoutMark(std::string_view bytes) {
   return bytes.starts_with(kByteOrderMark) ? bytes.substr(kByteOrderMark.size()) : bytes;
 }
 
-CalendarFile ReadText(std::u16string_view text, const DisplaySettings& before) {
+CalendarFile ReadText(std::u16string_view text) {
   CalendarFile calendar;
-  calendar.display = before;
-  calendar.display.ResetToDefaults();
   std::ptrdiff_t position = 0;
   calendar.info = GetElement(text, u"info", position);
   position = 0;
-  ReadCalendarParams(FindElement(text, u"CalendarParams", position), calendar.display, calendar.rules);
+  ReadCalendarParams(FindElement(text, u"CalendarParams", position), calendar.look, calendar.rules);
 
   // Which dates exist depends on the calendar's own rules, wherever in the file they stand.
   const ScopedRules inForce(calendar.rules);
@@ -38,7 +36,7 @@ std::u16string CalendarText(const CalendarFile& calendar, CalendarForm form) {
   std::u16string out = u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n";
   if (!calendar.info.empty()) out += MakeElement(calendar.info, u"info");
   out += u"<CalendarParams>\r\n";
-  if (form == CalendarForm::kUser) out += CalendarParamsText(calendar.display, calendar.rules);
+  if (form == CalendarForm::kUser) out += CalendarParamsText(calendar.look, calendar.rules);
   out += u"</CalendarParams>\r\n<CalendarEvents>\r\n";
   AppendCalendarEvents(out, calendar.content);
   out += u"</CalendarEvents>\r\n";
@@ -86,9 +84,7 @@ bool ComesBack(std::u16string_view blockTag, std::u16string_view read, std::u16s
 
 }  // namespace
 
-CalendarFile ReadCalendar(std::string_view bytes, const DisplaySettings& before) {
-  return ReadText(FromUtf8(WithoutMark(bytes)), before);
-}
+CalendarFile ReadCalendar(std::string_view bytes) { return ReadText(FromUtf8(WithoutMark(bytes))); }
 
 std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form) {
   return ToUtf8(CalendarText(calendar, form));
@@ -102,7 +98,7 @@ bool HoldsMore(std::string_view bytes, CalendarForm form) {
   std::u16string_view elements = Trimmed(text);
   if (elements.starts_with(u"<?xml "))
     if (const std::size_t end = elements.find(u"?>"); end != kNotFound) elements.remove_prefix(end + 2);
-  return !ComesBack({}, elements, CalendarText(ReadText(text, {}), form));
+  return !ComesBack({}, elements, CalendarText(ReadText(text), form));
 }
 
 }  // namespace orbisol

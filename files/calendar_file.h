@@ -1,6 +1,6 @@
 // A calendar as its file holds it, and the file's bytes.
 //
-//   CalendarFile calendar = ReadCalendar(bytes, Display());  // touches nothing that is in force
+//   CalendarFile calendar = ReadCalendar(bytes);  // touches nothing that is in force
 //   calendar.content.dayEvents.push_back(rule);
 //   bytes = WriteCalendar(calendar, CalendarForm::kUser);
 //
@@ -14,13 +14,13 @@
 #include <string_view>
 
 #include "content/calendar_content.h"
+#include "content/calendar_look.h"
 #include "core/calendar_config.h"
-#include "settings/display_settings.h"
 
 namespace orbisol {
 
 struct CalendarFile {
-  DisplaySettings display;  // font, background picture and colors are the file's, all else the reader's
+  CalendarLook look;
   CalendarRules rules;
   CalendarContent content;
   std::u16string info;  // what a public calendar says about itself; empty in most files
@@ -33,9 +33,8 @@ enum class CalendarForm {
   kPublic,  // holidays alone: the block of parameters stays empty
 };
 
-// `before` gives what no file sets: layouts, switches, names. What a file may set and does not is at its
-// default.
-CalendarFile ReadCalendar(std::string_view bytes, const DisplaySettings& before = {});
+// Returns what the bytes hold; what they do not set is as in a fresh calendar.
+CalendarFile ReadCalendar(std::string_view bytes);
 
 std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form);
 

@@ -76,12 +76,12 @@ void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
   }
 }
 
-void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, CalendarRules& rules) {
-  display.backgroundImage = Value(block, u"bgImage", u"1") == u"1";
-  display.backgroundImagePath.Set(Value(block, u"bgImagePath"));
-  display.fontName.Set(Value(block, u"fontName"));
-  display.fontWeight = ParseDecimal(Value(block, u"fontWeight", u"400"));
-  ReadColors(Value(block, u"colorTable"), display.colors);
+void ReadCalendarParams(std::u16string_view block, CalendarLook& look, CalendarRules& rules) {
+  look.backgroundImage = Value(block, u"bgImage", u"1") == u"1";
+  look.backgroundImagePath.Set(Value(block, u"bgImagePath"));
+  look.fontName.Set(Value(block, u"fontName"));
+  look.fontWeight = ParseDecimal(Value(block, u"fontWeight", u"400"));
+  ReadColors(Value(block, u"colorTable"), look.colors);
 
   rules = DefaultCalendarRules();
   rules.proleptic = Value(block, u"proleptic") == u"1";
@@ -92,18 +92,18 @@ void ReadCalendarParams(std::u16string_view block, DisplaySettings& display, Cal
   ReadCivilYears(Value(block, u"firstDayOfYear"), rules);
 }
 
-std::u16string CalendarParamsText(const DisplaySettings& display, const CalendarRules& rules) {
+std::u16string CalendarParamsText(const CalendarLook& look, const CalendarRules& rules) {
   std::u16string out;
   const auto line = [&](std::u16string_view tag, std::u16string_view value) {
     out += u'\t';
     out += MakeElement(value, tag);
   };
   const auto flag = [](bool on) { return on ? u"1" : u"0"; };
-  line(u"bgImage", flag(display.backgroundImage));
-  line(u"bgImagePath", display.backgroundImagePath.View());
-  line(u"fontName", display.fontName.View());
-  line(u"fontWeight", DecimalText(display.fontWeight));
-  line(u"colorTable", ColorsText(display.colors));
+  line(u"bgImage", flag(look.backgroundImage));
+  line(u"bgImagePath", look.backgroundImagePath.View());
+  line(u"fontName", look.fontName.View());
+  line(u"fontWeight", DecimalText(look.fontWeight));
+  line(u"colorTable", ColorsText(look.colors));
   line(u"proleptic", flag(rules.proleptic));
   line(u"startGregorian", DecimalText(rules.startGregorian));
   line(u"iso8601", flag(rules.iso8601));

@@ -125,11 +125,10 @@ std::u16string CCalendarStore::FreeName(std::u16string_view name) const {
   }
 }
 
-LoadResult CCalendarStore::Load(std::u16string_view name, const DisplaySettings& before,
-                                CalendarFile& calendar) {
+LoadResult CCalendarStore::Load(std::u16string_view name, CalendarFile& calendar) {
   const std::u16string path = PathOf(name);
   const std::optional<FileBytes> file = path.empty() ? std::nullopt : m_files.Read(path);
-  calendar = ReadCalendar(file ? std::string_view(file->bytes) : std::string_view(), before);
+  calendar = ReadCalendar(file ? std::string_view(file->bytes) : std::string_view());
   if (path.empty()) return LoadResult::kMissing;
   m_stamps[path] = file ? file->stamp : FileStamp();
   if (file) return LoadResult::kLoaded;

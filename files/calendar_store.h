@@ -2,7 +2,7 @@
 //
 //   CCalendarStore store(files);
 //   CalendarFile calendar;
-//   store.Load(u"Famille", Display(), calendar);
+//   store.Load(u"Famille", calendar);
 //   …
 //   switch (store.Save(u"Famille", calendar, IfChanged::kRefuse)) …   // kChanged: ask, then save again with
 //                                                                     // kOverwrite, or SaveBeside
@@ -73,8 +73,8 @@ class CCalendarStore {
   // A name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)".
   std::u16string FreeName(std::u16string_view name) const;
 
-  // Sets the whole of `calendar`; what files do not set is taken from `before` (ReadCalendar).
-  LoadResult Load(std::u16string_view name, const DisplaySettings& before, CalendarFile& calendar);
+  // Sets the whole of `calendar`.
+  LoadResult Load(std::u16string_view name, CalendarFile& calendar);
 
   // kChanged: the file was changed by somebody else since it was last loaded or saved here, or was never
   // loaded and stands there already; it is as it was. kFailed: it is as it was, or already new where only the

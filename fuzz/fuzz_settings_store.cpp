@@ -59,12 +59,12 @@ void CheckStarts(const std::string& bytes) {
   const Rect screen{0, 0, 1920, 1080};
   const StoredSettings first = ReadSettings(store, calendars, screen, {u"fr", u"FR"});
   Check(first.keyFound);
-  Check(IsCalendarName(first.calendar.display.calendarName.View()));
+  Check(IsCalendarName(first.display.calendarName.View()));
   store.written.clear();
   const StoredSettings second = ReadSettings(store, calendars, screen, {u"fr", u"FR"});
   Check(store.written.empty());
-  Check(second.calendar.display.mainLayout == first.calendar.display.mainLayout);
-  Check(second.calendar.display.calendarName == first.calendar.display.calendarName);
+  Check(second.display.mainLayout == first.display.mainLayout);
+  Check(second.display.calendarName == first.display.calendarName);
   Check(second.calendar.rules == first.calendar.rules);
 }
 

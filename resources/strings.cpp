@@ -40,7 +40,7 @@ constexpr Entry kStrings[] = {
     {283, u"Pleine lune"},
     {284, u"Dernier quartier de lune"},
     {kTextWeek, u"s."},
-    {297,
+    {kTextColorCaptions,
      u"Couleur du texte d'en-tête|Couleur du fond d'en-tête|Couleur de jour normal|Couleur d'arrière-plan|"
      u"Couleur du jour férié|Couleur d'arrière-plan du jour férié|Couleur du jour de l'événement|"
      u"Couleur d'arrière-plan de l'événement|Couleur du jour de vacances|"

@@ -14,6 +14,7 @@ enum TextId : int {
   kTextEras = 280,     // of a year before the first
   kTextNewMoon = 281,  // the other phases follow
   kTextWeek = 295,
+  kTextColorCaptions = 297,  // one for each color, in the order of ColorTable()
 
   kTextFrenchMonths = 5001,
   kTextFrenchMonthAbbrevs = 5002,

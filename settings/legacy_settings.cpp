@@ -36,30 +36,28 @@ std::u16string TableOfFiles(std::u16string_view table) {
   return text;
 }
 
-// Takes every old value over where `calendar` still is as `before`.
-void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, CalendarFile& calendar) {
+// Takes every old value over where `look` and `rules` still are as `before`.
+void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, CalendarLook& look,
+                      CalendarRules& rules) {
   const auto take = [](auto& field, const auto& fieldBefore, const auto& old) {
     if (field == fieldBefore) field = old;
   };
-  DisplaySettings& display = calendar.display;
-  const DisplaySettings& displayBefore = before.display;
-  using Text = decltype(display.fontName);
+  using Text = decltype(look.fontName);
   if (const auto name = TextOf(values, kFontName, kMaxPathUnits))
-    take(display.fontName, displayBefore.fontName, Text(*name));
+    take(look.fontName, before.look.fontName, Text(*name));
   if (const auto weight = DwordOf(values, kBoldFont))
-    take(display.fontWeight, displayBefore.fontWeight, static_cast<int>(*weight));
+    take(look.fontWeight, before.look.fontWeight, static_cast<int>(*weight));
   for (const ColorInfo& row : ColorTable()) {
     if (row.index == kColorWeekNumber) continue;  // On purpose: deleted with the others and not taken over.
     const auto i = static_cast<std::size_t>(row.index);
     if (const auto color = DwordOf(values, row.name))
-      take(display.colors[i], displayBefore.colors[i], *color & kColorMask);
+      take(look.colors[i], before.look.colors[i], *color & kColorMask);
   }
   if (const auto shown = DwordOf(values, kBackgroundImage))
-    take(display.backgroundImage, displayBefore.backgroundImage, *shown != 0);
+    take(look.backgroundImage, before.look.backgroundImage, *shown != 0);
   if (const auto path = TextOf(values, kBgImagePath, kMaxPathUnits))
-    take(display.backgroundImagePath, displayBefore.backgroundImagePath, Text(*path));
+    take(look.backgroundImagePath, before.look.backgroundImagePath, Text(*path));
 
-  CalendarRules& rules = calendar.rules;
   if (const auto proleptic = DwordOf(values, kProlepticJulian))
     take(rules.proleptic, before.rules.proleptic, *proleptic != 0);
   PackedDate start = rules.startGregorian;
@@ -85,16 +83,17 @@ std::vector<StoreChange> Deletions() {
 
 void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCalendarStore& calendars,
                            StoredSettings& stored) {
-  CalendarFile& calendar = stored.calendar;
+  CalendarLook& look = stored.display.Look();
   if (stored.file == LoadResult::kMissing)
-    for (const ColorInfo& row : ColorTable())
-      calendar.display.colors[static_cast<std::size_t>(row.index)] = row.migrated;
-  const CalendarFile before = stored.file == LoadResult::kLoaded ? CalendarFile() : calendar;
-  ReadLegacyValues(values, before, calendar);
+    for (const ColorInfo& row : ColorTable()) look.colors[static_cast<std::size_t>(row.index)] = row.migrated;
+  CalendarFile before;
+  if (stored.file != LoadResult::kLoaded) before = {look, stored.rules, {}, {}};
+  ReadLegacyValues(values, before, look, stored.rules);
 
   // No file is made of old values that could not be deleted afterwards.
   if (!store.Write({})) return;
-  const std::u16string_view name = calendar.display.calendarName.View();
+  const std::u16string_view name = stored.display.calendarName.View();
+  const CalendarFile calendar{look, stored.rules, stored.content, u""};
   if (calendars.Save(name, calendar, IfChanged::kRefuse) != WriteResult::kWritten) return;
 
   // Before the key says that all is done, so that a start interrupted here is not the last that tries.
@@ -102,7 +101,7 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
     if (IsFirstStartName(other)) calendars.Delete(other);
 
   std::vector<StoreChange> changes = Deletions();
-  for (StoreChange& change : KeyChanges(calendar.display)) changes.push_back(std::move(change));
+  for (StoreChange& change : KeyChanges(stored.display)) changes.push_back(std::move(change));
   store.Write(changes);
 }
 

@@ -75,7 +75,7 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, con
   const std::optional<StoredValues> values = store.Read();
   stored.keyFound = values.has_value();
 
-  DisplaySettings display;
+  DisplaySettings& display = stored.display;
   std::optional<std::u16string> name;
   if (values) {
     ReadLayout(*values, kMainLayout, kMainRect, screen, display.mainLayout);
@@ -86,9 +86,13 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, con
   const bool migrates = values && !name;
   SetName(display, calendars, CalendarNameOrDefault(name.value_or(u"")));
 
-  stored.file = calendars.Load(display.calendarName.View(), display, stored.calendar);
+  CalendarFile calendar;
+  stored.file = calendars.Load(display.calendarName.View(), calendar);
+  display.Look() = calendar.look;
+  stored.rules = calendar.rules;
+  stored.content = std::move(calendar.content);
   if (stored.file == LoadResult::kMissing && (migrates || IsFirstStart(calendars)))
-    stored.calendar.content = FirstStartContent(calendars, locale);
+    stored.content = FirstStartContent(calendars, locale);
   if (migrates) MigrateLegacySettings(*values, store, calendars, stored);
   return stored;
 }
@@ -101,7 +105,7 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
 
   // An empty name of the key reads as the default one, and so does that of a record never filled.
   std::u16string name = CalendarNameOrDefault(display.calendarName.View());
-  const CalendarFile calendar{display, rules, content, u""};
+  const CalendarFile calendar{display.Look(), rules, content, u""};
   outcome.calendar = calendars.Save(
       name, calendar, whenChanged == WhenChanged::kOverwrite ? IfChanged::kOverwrite : IfChanged::kRefuse);
   if (outcome.calendar != WriteResult::kWritten && whenChanged == WhenChanged::kKeepBoth)

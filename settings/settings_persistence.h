@@ -1,7 +1,7 @@
 // Settings read at start and written when a change is confirmed.
 //
 //   StoredSettings stored = ReadSettings(store, calendars, screen, locale);
-//   Display() = stored.calendar.display;  // reading alone touches nothing that is in force
+//   Display() = stored.display;  // reading alone touches nothing that is in force
 //   …
 //   SaveOutcome outcome = SaveSettings(store, calendars, Display(), Rules(), Content());
 //   if (outcome.calendar == WriteResult::kChanged) …  // ask
@@ -18,15 +18,17 @@
 
 #include "core/rect.h"
 #include "files/calendar_store.h"
-#include "settings/display_settings.h"
 #include "files/first_start.h"
+#include "settings/display_settings.h"
 #include "settings/settings_store.h"
 
 namespace orbisol {
 
 struct StoredSettings {
-  bool keyFound = false;                   // without a key the installation is broken
-  CalendarFile calendar;                   // display settings with name and path, rules, content
+  bool keyFound = false;    // without a key the installation is broken
+  DisplaySettings display;  // with name and path of the calendar
+  CalendarRules rules;
+  CalendarContent content;
   LoadResult file = LoadResult::kMissing;  // of the calendar, before a migration wrote it
 };
 

@@ -16,7 +16,6 @@ import sys
 LAYERS = [
     [("texts", False, ["resources/strings.", "resources/command_ids.", "resources/menus.", "resources/legals/"])],
     [("core", False, ["core/"])],
-    [("settings record", False, ["settings/display_settings.", "settings/window_layout."])],
     [("content", False, ["content/"])],
     [("files", False, ["files/"])],
     [("settings", False, ["settings/"])],

@@ -38,10 +38,13 @@ MonthModel Built(const YearMonthDay& date, const CalendarContent& content) {
 
 // Text and background of a day by its marks. On purpose: they have different precedences.
 constexpr Color kColorsOf[][2] = {
-    {kStandardTextColor, kStandardBgColor}, {kHolidayFontColor, kHolidayBgColor},
-    {kEventFgColor, kEventBgColor},         {},  // on purpose: a holiday hides the events of its day
-    {kHolidaysFontColor, kHolidaysBgColor}, {kHolidayFontColor, kHolidaysBgColor},
-    {kEventFgColor, kHolidaysBgColor},
+    {kStandardTextColor, kStandardBgColor},
+    {kHolidayText, kHolidayBack},
+    {kEventText, kEventBack},
+    {},  // on purpose: a holiday hides the events of its day
+    {kVacationText, kVacationBack},
+    {kHolidayText, kVacationBack},
+    {kEventText, kVacationBack},
 };
 
 // The judge of one cell. On purpose: the weekday is that of the day's number, not of the column.

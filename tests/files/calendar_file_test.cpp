@@ -23,14 +23,14 @@ const char* Fate(std::string_view bytes) { return HoldsMore(bytes, CalendarForm:
 TEST(CalendarFileTest, AKnownCalendarIsReadAndWrittenToTheByte) {
   const std::string bytes = KnownFile("whole.xml");
   const CalendarFile calendar = ReadCalendar(bytes);
-  DisplaySettings display;
-  display.backgroundImage = false;
-  display.backgroundImagePath.Set(u"/home/ana/photo d'été.jpg"sv);
-  display.fontName.Set(u"DejaVu Sans & C'"sv);
-  display.fontWeight = 700;
-  display.colors = {0x000000, 0x000001, 0x00ff00, 0xff0000, 0x0000ff, 0x123456, 0xabcdef, 0xfedcba,
-                    0x010203, 0xffffff, 0xc0c0c0, 0x800000, 0x008000, 0x000080, 0x7f7f7f};
-  EXPECT_EQ(calendar.display, display);
+  CalendarLook look;
+  look.backgroundImage = false;
+  look.backgroundImagePath.Set(u"/home/ana/photo d'été.jpg"sv);
+  look.fontName.Set(u"DejaVu Sans & C'"sv);
+  look.fontWeight = 700;
+  look.colors = {0x000000, 0x000001, 0x00ff00, 0xff0000, 0x0000ff, 0x123456, 0xabcdef, 0xfedcba,
+                 0x010203, 0xffffff, 0xc0c0c0, 0x800000, 0x008000, 0x000080, 0x7f7f7f};
+  EXPECT_EQ(calendar.look, look);
   const std::vector<CivilYearStart> years = {{17000101, false}, {11550325, true}};
   EXPECT_EQ(calendar.rules, RulesWith(17520914, {.proleptic = true, .rows = years, .iso8601 = false}));
   ASSERT_EQ(calendar.content.dayEvents.size(), 8u);
@@ -84,16 +84,6 @@ TEST(CalendarFileTest, WhateverIsCutOffAFileIsNoticed) {
     const bool isBetweenBlocks = seen.ends_with("?>") || seen.ends_with("</CalendarParams>");
     ASSERT_STREQ(Fate(part), isBetweenBlocks ? "whole" : "lost") << part;
   }
-}
-
-TEST(CalendarFileTest, WhatNoFileSetsIsKeptAndTheRestIsReset) {
-  DisplaySettings before;
-  before.grid = false;
-  before.fontName.Set(u"Serif"sv);
-  before.colors[0] = 0x123456;
-  DisplaySettings expected = before;
-  expected.ResetToDefaults();
-  EXPECT_EQ(ReadCalendar("", before).display, expected);
 }
 
 // What is written where a parameter was read.
@@ -179,11 +169,11 @@ TEST(CalendarFileTest, EveryCalendarComesBackEqualInEveryField) {
   for (int round = 0; round < 300; ++round) {
     CalendarFile calendar;
     calendar.info = text();
-    calendar.display.backgroundImage = between(0, 1) == 1;
-    calendar.display.backgroundImagePath.Set(text());
-    calendar.display.fontName.Set(text());
-    calendar.display.fontWeight = static_cast<int>(random());
-    for (Color& color : calendar.display.colors) color = random() & 0xFFFFFF;
+    calendar.look.backgroundImage = between(0, 1) == 1;
+    calendar.look.backgroundImagePath.Set(text());
+    calendar.look.fontName.Set(text());
+    calendar.look.fontWeight = static_cast<int>(random());
+    for (Color& color : calendar.look.colors) color = random() & 0xFFFFFF;
     RuleOptions options{.proleptic = between(0, 1) == 1, .iso8601 = between(0, 1) == 1};
     for (int row = between(0, 4); row > 0; --row)
       options.rows.push_back({between(1, 9) * 1000000 + 101, between(0, 1) == 1});

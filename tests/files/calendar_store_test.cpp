@@ -41,7 +41,7 @@ TEST_F(CalendarStoreTest, ANameIsOneFileName) {
                                      u"\x85"s, u"\0"s, u"\xD83C"s, longest + u"a"}) {
     EXPECT_FALSE(IsCalendarName(name)) << testing::PrintToString(name);
     EXPECT_EQ(CalendarNameOrDefault(name), u"Calendar");
-    EXPECT_EQ(store.Load(name, {}, calendar), LoadResult::kMissing);
+    EXPECT_EQ(store.Load(name, calendar), LoadResult::kMissing);
     EXPECT_EQ(store.Save(name, calendar, IfChanged::kOverwrite), WriteResult::kFailed);
     EXPECT_FALSE(store.Delete(name));
   }
@@ -91,7 +91,7 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
   const std::string odd[] = {"<x>0</x>", "<x>1</x>", "<x>2</x>", "<x>3</x>"};
   for (int i = 0; i < 3; ++i) {
     files.Put(kPath, odd[i]);
-    store.Load(u"A", {}, calendar);
+    store.Load(u"A", calendar);
     EXPECT_EQ(Save(u"new"), WriteResult::kWritten);
     EXPECT_EQ(Save(u"newer"), WriteResult::kWritten) << "the file of now loses nothing";
   }
@@ -100,7 +100,7 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
   EXPECT_EQ(Bytes(kPath + u".bak.2"), odd[1]);
 
   files.Put(kPath, odd[3]);
-  store.Load(u"A", {}, calendar);
+  store.Load(u"A", calendar);
   files.failingWrites = {kPath + u".bak.3"};
   EXPECT_EQ(Save(u"new"), WriteResult::kFailed);
   files.failingWrites.clear();
@@ -111,7 +111,7 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
 
 TEST_F(CalendarStoreTest, TheDescriptionOfAFileSurvivesASave) {
   files.Put(kPath, "<info>d'ici</info>" + BytesWithRule(u"mine"));
-  store.Load(u"A", {}, calendar);
+  store.Load(u"A", calendar);
   EXPECT_EQ(Save(u"two"), WriteResult::kWritten);
   EXPECT_EQ(store.Description(kPath), u"d'ici");
   std::u16string beside;

@@ -175,7 +175,7 @@ TEST(FaultTest, WhatASaveDropsStandsInACopy) {
     CDesktopFiles files(folders);
     CCalendarStore calendars(files);
     CalendarFile calendar;
-    return calendars.Load(kDefaultCalendarName, {}, calendar) == LoadResult::kLoaded &&
+    return calendars.Load(kDefaultCalendarName, calendar) == LoadResult::kLoaded &&
            calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse) == WriteResult::kWritten;
   };
   ForEachFault({EIO, ENOSPC, kShortFault, kKillFault}, step, prepare, check);
@@ -189,9 +189,9 @@ void CheckMigration(bool hasFile) {
   const std::string trashed = folders.trash + "/files/fr_public.xml";
   CalendarFile migrated;
   const std::string before = hasFile ? WriteCalendar(migrated, CalendarForm::kUser) : "(none)";
-  migrated.display.fontName.Set(u"Georgia");
+  migrated.look.fontName.Set(u"Georgia");
   for (const ColorInfo& row : ColorTable())
-    if (!hasFile) migrated.display.colors[static_cast<std::size_t>(row.index)] = row.migrated;
+    if (!hasFile) migrated.look.colors[static_cast<std::size_t>(row.index)] = row.migrated;
   const std::string after = WriteCalendar(migrated, CalendarForm::kUser);
   CDesktopStore store(folders.stores);
   const auto prepare = [&] {

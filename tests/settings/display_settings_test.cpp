@@ -3,40 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 
 #include "settings/window_layout.h"
 
 namespace orbisol {
 namespace {
-
-TEST(DisplaySettingsTest, EveryColorHasItsOwnCaption) {
-  std::set<std::u16string_view> captions = {u""};
-  for (const ColorInfo& info : ColorTable()) captions.insert(info.text);
-  EXPECT_EQ(captions.size(), 1 + 15u);
-  EXPECT_EQ(ColorTable()[kHolidaysBgColor].text, u"Couleur d'arrière-plan du jour de vacances");
-}
-
-TEST(DisplaySettingsTest, AResetTouchesWhatIsTheCalendarsAndNothingElse) {
-  EXPECT_EQ(DisplaySettings().ColorAt(kHolidayFontColor), 0x0000FFu) << "red stands in the low byte";
-  DisplaySettings expected;
-  expected.mainLayout.rect = expected.printLayout.rect = {1, 2, 3, 4};
-  expected.showWeekNumber = expected.circleTheDay = expected.fullCellBackground = expected.magnetMouse = true;
-  expected.collapseCells = expected.grid = expected.tipsForEventsOnly = false;
-  expected.circleWidth = 3;
-  expected.backgroundAlpha = 16;
-  expected.calendarName.Set(u"Été");
-  expected.calendarPath = u"/tmp/Été.xml";
-  DisplaySettings edited = expected;
-  edited.changed = true;
-  edited.fontWeight = 700;
-  edited.fontName.Set(u"Serif");
-  edited.backgroundImage = false;
-  edited.backgroundImagePath.Set(u"/a.png");
-  edited.colors.fill(0x123456);
-  edited.ResetToDefaults();
-  EXPECT_EQ(edited, expected);
-}
 
 TEST(DisplaySettingsTest, StoredNumbersOutOfRangeAreClampedWhereTheyAreUsed) {
   constexpr struct { int stored, width, alpha; } kRows[] = {{-5, 1, 0}, {2, 2, 2}, {9, 3, 9}, {1000, 3, 255}};

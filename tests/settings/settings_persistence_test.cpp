@@ -40,6 +40,10 @@ class SettingsTest : public testing::Test {
   }
   static std::string Known(const std::string& file) { return BytesOf(ORBISOL_TEST_DATA "/settings/" + file); }
   StoredSettings Read() { return ReadSettings(store, calendars, kScreen, {u"fr", u"FR"}); }
+  // What of the settings a calendar's file holds.
+  static CalendarFile Session(const StoredSettings& stored) {
+    return {stored.display.Look(), stored.rules, stored.content, u""};
+  }
   std::optional<std::u16string> StoredName() { return TextOf(*store.Read(), "CalendarName", 260); }
   static std::u16string FirstRule(const CalendarContent& content) {
     return content.dayEvents.empty() ? u"(none)" : std::u16string(content.dayEvents[0].name.View());
@@ -55,17 +59,17 @@ TEST_F(SettingsTest, WhatIsMissingOrMalformedTakesItsDefault) {
   expected.calendarPath = kOwnPath;
   store.text.reset();
   EXPECT_FALSE(Read().keyFound);
-  EXPECT_EQ(Read().calendar.display, expected) << "as constructed";
+  EXPECT_EQ(Read().display, expected) << "as constructed";
 
   expected.showWeekNumber = expected.magnetMouse = true;
   expected.printLayout.rect = {50, 50, 800, 600};
   for (const char* name : {"hex(1):", "\"../x\""}) {
     store = CMemoryStore("\"CalendarName\"=" + std::string(name) + "\n");
     EXPECT_TRUE(Read().keyFound);
-    EXPECT_EQ(Read().calendar.display, expected);
+    EXPECT_EQ(Read().display, expected);
   }
   store.text = Known("wrong_types.reg");
-  EXPECT_EQ(Read().calendar.display, expected);
+  EXPECT_EQ(Read().display, expected);
   EXPECT_TRUE(store.written.empty()) << "a name that can be read is no reason to migrate";
   EXPECT_TRUE(files.files.empty());
 }
@@ -81,12 +85,12 @@ TEST_F(SettingsTest, StoredValuesReachTheirFields) {
   expected.backgroundAlpha = -1;
   expected.mainLayout = {{60, 70, 900, 450}, 1, 0, 7, 0, 300};
   expected.printLayout.rect = {0, 10, 800, 500};  // moved in; 16 bytes hold no more
-  EXPECT_EQ(Read().calendar.display, expected);
+  EXPECT_EQ(Read().display, expected);
 }
 
 TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
   const auto first = [&](const UserLocale& locale) {
-    return FirstRule(ReadSettings(store, calendars, kScreen, locale).calendar.content);
+    return FirstRule(ReadSettings(store, calendars, kScreen, locale).content);
   };
   files.Put(u"/user/fr_public.xml", "");  // a copy that an older release made is no calendar of the user's
   EXPECT_EQ(first({u"sv", u"SE"}), u"(none)");
@@ -102,7 +106,7 @@ TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
 }
 
 TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
-  DisplaySettings display = Read().calendar.display;
+  DisplaySettings display = Read().display;
   display.changed = true;
   display.backgroundAlpha = -1;
   SaveOutcome outcome;
@@ -114,7 +118,7 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
   EXPECT_EQ(outcome.calendar, WriteResult::kFailed);
   EXPECT_TRUE(outcome.key && display.changed);
   EXPECT_EQ(StoredName(), u"Calendar");
-  EXPECT_EQ(Read().calendar.display.backgroundAlpha, -1) << "the switches are stored all the same";
+  EXPECT_EQ(Read().display.backgroundAlpha, -1) << "the switches are stored all the same";
   files.failingWrites.clear();
   save(u"../x");
   EXPECT_EQ(outcome.calendar, WriteResult::kFailed);
@@ -128,11 +132,11 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
   EXPECT_FALSE(files.Exists(u"/user/Famille.xml"));
   store.readOnly = false;
   save(u"Travail");
-  EXPECT_EQ(Read().calendar.display, display);
+  EXPECT_EQ(Read().display, display);
 }
 
 TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
-  DisplaySettings display = Read().calendar.display;
+  DisplaySettings display = Read().display;
   const auto save = [&](WhenChanged whenChanged, std::optional<std::u16string_view> newName = {}) {
     return SaveSettings(store, calendars, display, {}, WithRule(u"Mine").content, whenChanged, newName)
         .calendar;
@@ -185,45 +189,45 @@ TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
 TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   store.text = Known("legacy.reg");  // its name cannot be read
   PutShipped(u"France");
-  const CalendarFile calendar = Read().calendar;
+  const CalendarFile calendar = Session(Read());
   EXPECT_EQ(files.files[kOwnPath].bytes, Known("migrated.xml"));
   EXPECT_EQ(*store.text, Known("migrated.reg"));
   store.written.clear();
-  EXPECT_EQ(Read().calendar, calendar) << "the next start reads what this one wrote";
+  EXPECT_EQ(Session(Read()), calendar) << "the next start reads what this one wrote";
   EXPECT_TRUE(store.written.empty());
 }
 
 // On purpose: the file may hold what the user chose since, while the key may have lost no more than its name.
 TEST_F(SettingsTest, AMigrationKeepsWhatAnExistingFileHolds) {
   CalendarFile own = WithRule(u"Anniversaire");
-  own.display.colors[kHolidayFontColor] = 0x123456;
-  own.display.backgroundImagePath.Set(u"/mine.png");
+  own.look.colors[kHolidayText] = 0x123456;
+  own.look.backgroundImagePath.Set(u"/mine.png");
   own.rules = RulesWith(19180214);
   PutCalendar(kOwnPath, own);
   PutShipped(u"France");
   store.text = Known("legacy.reg");  // an old export dropped in
-  const CalendarFile read = Read().calendar;
+  const CalendarFile read = Session(Read());
   EXPECT_EQ(read.content, own.content);
-  EXPECT_EQ(read.display.fontName.View(), u"Georgia");
-  own.display.colors[kHeaderTextColor] = 0x010203;
-  EXPECT_EQ(read.display.colors, own.display.colors) << "those chosen in this calendar, and no old defaults";
-  EXPECT_EQ(read.display.backgroundImagePath.View(), u"/mine.png");
+  EXPECT_EQ(read.look.fontName.View(), u"Georgia");
+  own.look.colors[kHeaderTextColor] = 0x010203;
+  EXPECT_EQ(read.look.colors, own.look.colors) << "those chosen in this calendar, and no old defaults";
+  EXPECT_EQ(read.look.backgroundImagePath.View(), u"/mine.png");
   EXPECT_EQ(read.rules.startGregorian, 19180214);
-  EXPECT_EQ(ReadCalendar(files.files[kOwnPath].bytes, read.display), read);
+  EXPECT_EQ(ReadCalendar(files.files[kOwnPath].bytes), read);
 }
 
 TEST_F(SettingsTest, WhereOldValuesCannotBeDeletedLaterChangesStay) {
   store.text = Known("legacy.reg");
   store.readOnly = true;
-  CalendarFile session = Read().calendar;
+  StoredSettings session = Read();
   EXPECT_EQ(session.display.fontName.View(), u"Georgia") << "this session has the old settings";
   EXPECT_FALSE(files.Exists(kOwnPath)) << "and keeps them nowhere but where they were";
   session.display.fontName.Set(u"Chosen since");
   session.display.colors[kHeaderTextColor] = 0x445566;
   SaveSettings(store, calendars, session.display, session.rules, session.content);
-  EXPECT_EQ(Read().calendar, session);
+  EXPECT_EQ(Session(Read()), Session(session));
   store.readOnly = false;
-  EXPECT_EQ(Read().calendar, session) << "also once the key can be written again";
+  EXPECT_EQ(Session(Read()), Session(session)) << "also once the key can be written again";
   EXPECT_EQ(store.Read()->count("FontName"), 0u);
 }
 

@@ -22,8 +22,8 @@
 #include "tests/support/fakes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "ui/toolkit/french_toolkit.h"
 #include "ui/shell/calendar_frame.h"
+#include "ui/toolkit/french_toolkit.h"
 
 namespace orbisol {
 namespace {
@@ -54,9 +54,9 @@ void ColorTheDays() {
   AddPeriod(20240506, 20240519);
   AddEvent(5, 14);
   AddEvent(5, 23);
-  Display().colors[kHolidayBgColor] = Rgb(0xFF, 0xD8, 0xD0);
-  Display().colors[kEventBgColor] = Rgb(0xFF, 0xF2, 0xA8);
-  Display().colors[kHolidaysBgColor] = Rgb(0xC8, 0xE0, 0xC0);
+  Display().colors[kHolidayBack] = Rgb(0xFF, 0xD8, 0xD0);
+  Display().colors[kEventBack] = Rgb(0xFF, 0xF2, 0xA8);
+  Display().colors[kVacationBack] = Rgb(0xC8, 0xE0, 0xC0);
 }
 
 QString DarkPicture(const QTemporaryDir& folder) {

@@ -118,9 +118,9 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
 // What is stored goes into the live records here, and nowhere else at start-up.
 void CCalendarFrame::TakeSettings() {
   StoredSettings stored = ReadSettings(m_doors.store, m_doors.calendars, VirtualScreen(), m_doors.locale);
-  Display() = std::move(stored.calendar.display);
-  Rules() = stored.calendar.rules;
-  Content() = std::move(stored.calendar.content);
+  Display() = std::move(stored.display);
+  Rules() = stored.rules;
+  Content() = std::move(stored.content);
 }
 
 void CCalendarFrame::UpdateTitle() {

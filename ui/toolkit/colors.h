@@ -3,7 +3,7 @@
 
 #include <QColor>
 
-#include "settings/display_settings.h"
+#include "content/calendar_look.h"
 
 namespace orbisol {
 

@@ -11,10 +11,10 @@
 #include <set>
 
 #include "core/calendar_config.h"
-#include "ui/toolkit/colors.h"
-#include "ui/toolkit/geometry.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/painting/month_texts.h"
+#include "ui/toolkit/colors.h"
+#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 namespace {
@@ -37,7 +37,7 @@ struct Page {
     settings.grid = false;
     settings.fullCellBackground = true;
     settings.backgroundAlpha = 255;
-    settings.colors[kHolidaysBgColor] = kYellow;
+    settings.colors[kVacationBack] = kYellow;
     settings.colors[kCircleColor] = kBlue;
     marks.month = 5;
   }
@@ -169,7 +169,7 @@ TEST(MonthPainterTest, FillsHaveTheFormAndTheOpacityOfTheSettings) {
     page.settings.fullCellBackground = row.isFull;
     page.settings.collapseCells = row.isCollapsed;
     page.settings.backgroundAlpha = row.alpha;
-    page.settings.colors[kHolidaysBgColor] = row.fill;
+    page.settings.colors[kVacationBack] = row.fill;
     page.settings.colors[kStandardBgColor] = kYellow;
     const QImage image = page.Paint();  // the cell's corner is 100, 180
     EXPECT_EQ(PixelAt(image, 150, 180), row.edge) << row.what;
