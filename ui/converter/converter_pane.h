@@ -1,7 +1,8 @@
 // The pane right of the month: the selected date in other calendars, the distance to a remembered date, and
 // buttons to notable days.
 //
-//   CConverterPane pane(host, parent);
+//   CConverterPane pane(parent);
+//   connect(&pane, &CConverterPane::dateChanged, …);
 //   pane.Refresh();  // the selected date was changed, here or elsewhere
 #pragma once
 
@@ -9,82 +10,43 @@
 
 #include "core/date.h"
 
-class QCheckBox;
-class QComboBox;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QToolButton;
-
 namespace orbisol {
 
-struct PaneHost {
-  virtual ~PaneHost() = default;
+class CJulianGroup;
+class CKeptDateGroup;
+class CRepublicanGroup;
 
-  // The selected date was changed by a control of the pane.
-  virtual void OnPaneDateChanged() = 0;
-  // A control has done its work, and the keyboard belongs to the month again.
-  virtual void FocusMonth() = 0;
-};
-
-// "14 octobre 1582", for the day that the calendar in force calls 4 October 1582: as if the Gregorian
-// calendar had always been in force, years counted from 1 January.
+// Returns "14 octobre 1582" for the day that the calendar in force calls 4 October 1582: its date as if the
+// Gregorian calendar had always been in force, years counted from 1 January.
 std::u16string ProlepticGregorianText(const Date& date);
 
 class CConverterPane : public QWidget {
   Q_OBJECT
 
  public:
-  // The host outlives the pane.
-  CConverterPane(PaneHost* host, QWidget* parent);
+  explicit CConverterPane(QWidget* parent = nullptr);
 
   // Shows the selected date in all its forms. A date before the Republican era ends the entry of one.
   void Refresh();
-  // The colors of the calendar were changed.
+  // Takes over colors and calendar rules that were changed; the dates themselves wait for Refresh().
   void SettingsChanged();
 
+  // Return the dates as the pane shows them, also while it is hidden.
   QString JulianText() const;
   QString RepublicanText() const;  // two lines; empty before the era
 
- private:
-  QGroupBox* MakeJulianGroup();
-  QGroupBox* MakeRepublicanGroup();
-  QGroupBox* MakeDifferenceGroup();
-  QWidget* MakeButtons();
+ signals:
+  // The selected date was changed by a control of the pane.
+  void dateChanged();
+  // A control has done its work or disappears, and the keyboard belongs to the month again.
+  void focusGivenUp();
 
-  void FitToFont();
-  void ShowRepublicanEntry(bool isShown);
-  void LoadRepublicanDate();
-  void FillRepublicanDays();
-  void GoToRepublicanDate();
-  void KeepDate(bool isKept);
-  void ShowKeepButton();
-  void ShowKeptDate();
-  void GoToKeptDate();
+ private:
   void GoTo(PackedDate date);
 
-  bool IsEntry() const;  // a Republican date can be entered
-
-  void changeEvent(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
-  PaneHost* m_host;
-  PackedDate m_keptDate = 0;  // the date to compare with; 0 is none
-
-  QLabel* m_julian = nullptr;
-  QLabel* m_dayNumber = nullptr;
-  QLabel* m_proleptic = nullptr;
-  QLabel* m_republican = nullptr;
-  QCheckBox* m_entry = nullptr;
-  QWidget* m_entryRow = nullptr;
-  QComboBox* m_day = nullptr;
-  QComboBox* m_month = nullptr;
-  QLineEdit* m_year = nullptr;
-  QPushButton* m_go = nullptr;
-  QToolButton* m_keep = nullptr;
-  QLineEdit* m_kept = nullptr;
-  QLineEdit* m_difference = nullptr;
+  CJulianGroup* m_julian;
+  CRepublicanGroup* m_republican;
+  CKeptDateGroup* m_kept;
 };
 
 }  // namespace orbisol

@@ -106,8 +106,11 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
   statusBar()->addWidget(m_description, 1);
   statusBar()->setVisible(Display().mainLayout.statusBarShown != 0);
 
-  m_dialog = new CMainDlg(this, Display().mainLayout.rightPaneShown != 0);
+  m_dialog = new CMainDlg(Display().mainLayout.rightPaneShown != 0);
   setCentralWidget(m_dialog);
+  connect(m_dialog, &CMainDlg::dateShown, this, &CCalendarFrame::OnDateShown);
+  connect(m_dialog, &CMainDlg::periodChosen, this, &CCalendarFrame::OnNotYet);
+  connect(m_dialog, &CMainDlg::dayOpened, this, &CCalendarFrame::OnNotYet);
   for (const Handler& row : kHandlers)
     m_commands->SetEnabled(row.command, row.run != &CCalendarFrame::OnNotYet);
   UpdateTitle();
@@ -250,10 +253,6 @@ void CCalendarFrame::OnDateShown(const QString& description) {
   m_description->setText(description);
   UpdateCommands();
 }
-
-// The editors are a layer of their own, which is not built yet: the action is refused.
-void CCalendarFrame::OpenPeriods(const Date&, const Date&) { Messages().Beep(); }
-void CCalendarFrame::OpenEvents(const Date&) { Messages().Beep(); }
 
 void CCalendarFrame::OnNotYet() { Messages().Beep(); }
 

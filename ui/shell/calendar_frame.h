@@ -12,12 +12,12 @@
 #include <string>
 
 #include "files/calendar_store.h"
-#include "resources/command_ids.h"
 #include "files/first_start.h"
+#include "resources/command_ids.h"
 #include "settings/settings_persistence.h"
 #include "settings/settings_store.h"
-#include "ui/window/command_table.h"
 #include "ui/shell/main_dlg.h"
+#include "ui/window/command_table.h"
 
 namespace orbisol {
 
@@ -35,7 +35,7 @@ Rect VirtualScreen();
 // Puts a text on the clipboard. Where that cannot be had nothing happens, and nothing is said.
 void CopyTextToClipboard(const QString& text);
 
-class CCalendarFrame : public QMainWindow, private MainDlgHost {
+class CCalendarFrame : public QMainWindow {
   Q_OBJECT
 
  public:
@@ -67,9 +67,7 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   static const Handler kHandlers[];
   static const Handler* HandlerOf(CommandId command);
 
-  void OnDateShown(const QString& description) override;
-  void OpenPeriods(const Date& from, const Date& to) override;
-  void OpenEvents(const Date& date) override;
+  void OnDateShown(const QString& description);
 
   void OnCopyDate();
   void OnCopyJulianDate();
@@ -80,7 +78,7 @@ class CCalendarFrame : public QMainWindow, private MainDlgHost {
   void OnGoBack();
   void OnGoForward();
   void OnQuit();
-  void OnNotYet();  // for commands whose windows are not made yet; they are disabled
+  void OnNotYet();  // refuses a command whose window is not built yet
 
   void TakeSettings();
   void UpdateTitle();

@@ -6,12 +6,12 @@
 #include <algorithm>
 
 #include "content/selected_date.h"
+#include "content/tip_text.h"
 #include "resources/strings.h"
+#include "ui/toolkit/calendar_group.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/plain_text.h"
-#include "content/tip_text.h"
-#include "ui/toolkit/calendar_group.h"
 
 namespace orbisol {
 namespace {
@@ -22,19 +22,20 @@ constexpr int kLeastHeight = 300;
 
 }  // namespace
 
-CMainDlg::CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent)
+CMainDlg::CMainDlg(bool isPaneShown, QWidget* parent)
     : QWidget(parent),
-      m_host(host),
       m_isPaneShown(isPaneShown),
       m_group(new CCalendarGroup(TableText(kTextGregorianGroup), this)),
       m_header(new CHeaderWnd(this, this)),
       m_month(new CMonthWindow(this, this)),
       m_separator(new QWidget(this)),
-      m_pane(new CConverterPane(this, this)) {
+      m_pane(new CConverterPane(this)) {
   m_separator->setAutoFillBackground(true);
   setAutoFillBackground(true);
   m_pane->setVisible(isPaneShown);
   m_separator->setVisible(isPaneShown);
+  connect(m_pane, &CConverterPane::dateChanged, this, [this] { Refresh(true); });
+  connect(m_pane, &CConverterPane::focusGivenUp, this, &CMainDlg::FocusMonth);
   ApplyColors();
   Measure();
   setFocusProxy(m_month);
@@ -115,9 +116,7 @@ void CMainDlg::Refresh(bool withMonth, DateMove move) {
   if (withMonth) m_month->Refresh();
   m_header->Refresh();
   m_pane->Refresh();
-  // The keyboard stays where it is while the header is used with it.
-  if (!m_isPaneShown && !m_header->isAncestorOf(QApplication::focusWidget())) FocusMonth();
-  m_host->OnDateShown(Description());
+  emit dateShown(Description());
 }
 
 void CMainDlg::SettingsChanged() {
@@ -134,11 +133,9 @@ void CMainDlg::OnMonthDateChanged(DateMove move) { Refresh(false, move); }
 
 void CMainDlg::OnHeaderDateChanged(DateMove move) { Refresh(true, move); }
 
-void CMainDlg::OnPaneDateChanged() { Refresh(true); }
+void CMainDlg::OpenPeriodEditor(const Date& from, const Date& to) { emit periodChosen(from, to); }
 
-void CMainDlg::OpenPeriodEditor(const Date& from, const Date& to) { m_host->OpenPeriods(from, to); }
-
-void CMainDlg::OpenEventsEditor(const Date& date) { m_host->OpenEvents(date); }
+void CMainDlg::OpenEventsEditor(const Date& date) { emit dayOpened(date); }
 
 void CMainDlg::GoBack() {
   if (const PackedDate date = m_history.Back()) {

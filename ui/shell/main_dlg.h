@@ -1,41 +1,29 @@
 // What fills the main window: the month under its header at the left, the converter pane at the right. Every
 // change of the selected date, whoever made it, ends in its Refresh().
 //
-//   CMainDlg dialog(host, parent);
+//   CMainDlg dialog(isPaneShown, parent);
 //   Selected() = …;
 //   dialog.Refresh(true);
 #pragma once
 
 #include <QWidget>
 
+#include "content/date_history.h"
+#include "ui/converter/converter_pane.h"
 #include "ui/header/header_wnd.h"
 #include "ui/month/month_host.h"
 #include "ui/month/month_window.h"
-#include "ui/converter/converter_pane.h"
-#include "content/date_history.h"
 #include "ui/shell/main_layout.h"
 
 namespace orbisol {
 
 class CCalendarGroup;
 
-struct MainDlgHost {
-  virtual ~MainDlgHost() = default;
-
-  // The selected date may have changed, and with it what commands can be given. `description` says what falls
-  // on it, in one line; empty for nothing.
-  virtual void OnDateShown(const QString& description) = 0;
-
-  virtual void OpenPeriods(const Date& from, const Date& to) = 0;
-  virtual void OpenEvents(const Date& date) = 0;
-};
-
-class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private PaneHost {
+class CMainDlg : public QWidget, private MonthHost, private HeaderHost {
   Q_OBJECT
 
  public:
-  // The host outlives the dialog.
-  CMainDlg(MainDlgHost* host, bool isPaneShown, QWidget* parent = nullptr);
+  explicit CMainDlg(bool isPaneShown, QWidget* parent = nullptr);
 
   // Shows the selected date everywhere, the month included when it was changed outside of it. `move` says
   // how it was changed; a date that is the same counts for nothing.
@@ -53,7 +41,7 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private 
   QString JulianText() const { return m_pane->JulianText(); }
   QString RepublicanText() const { return m_pane->RepublicanText(); }
 
-  void FocusMonth() override;
+  void FocusMonth();
 
   // Through the dates visited; where there is none on that side nothing happens.
   void GoBack();
@@ -64,6 +52,13 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private 
   CHeaderWnd& Header() { return *m_header; }
   CConverterPane& Pane() { return *m_pane; }
 
+ signals:
+  // The selected date may have changed, and with it the commands that can be given. `description` says in one
+  // line which holiday, event, vacation and moon fall on it; empty for none.
+  void dateShown(const QString& description);
+  void periodChosen(const Date& from, const Date& to);  // days were selected to be edited; from <= to
+  void dayOpened(const Date& date);                     // the selected day was opened to be edited
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -73,14 +68,12 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost, private 
   void OpenPeriodEditor(const Date& from, const Date& to) override;
   void OpenEventsEditor(const Date& date) override;
   void OnHeaderDateChanged(DateMove move) override;
-  void OnPaneDateChanged() override;
 
   void LayOut();
   void Measure();
   void ApplyColors();
   QString Description();
 
-  MainDlgHost* m_host;
   bool m_isPaneShown;
   CCalendarGroup* m_group;
   CHeaderWnd* m_header;

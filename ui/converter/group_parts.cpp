@@ -1,0 +1,50 @@
+#include "ui/converter/group_parts.h"
+
+#include <QComboBox>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include "resources/strings.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+
+void SetGroupLayout(QWidget* group, QLayout* layout) {
+  layout->setContentsMargins(8, 4, 8, 6);
+  layout->setSpacing(3);
+  group->setLayout(layout);
+}
+
+void KeepRoomWhenHidden(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+}
+
+int FieldWidth(const QLineEdit& field, const QString& text) {
+  QStyleOptionFrame option;
+  option.initFrom(&field);
+  option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+  constexpr int kTextMargin = 2;  // added by the toolkit at each side
+  constexpr int kCursor = 1;
+  const QSize inside(field.fontMetrics().horizontalAdvance(text) + 2 * kTextMargin + kCursor,
+                     field.fontMetrics().height());
+  return field.style()->sizeFromContents(QStyle::CT_LineEdit, &option, inside, &field).width();
+}
+
+void NameField(QWidget* field, int piece) {
+  const QString name = TablePiece(kTextConverterNames, piece);
+  field->setAccessibleName(name);
+  if (qobject_cast<QComboBox*>(field) != nullptr) field->setAccessibleDescription(name);
+}
+
+QPushButton* MakeButton(int textId) {
+  auto* const button = new QPushButton(TableText(textId));
+  button->setAutoDefault(true);
+  return button;
+}
+
+}  // namespace orbisol

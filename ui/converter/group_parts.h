@@ -1,0 +1,32 @@
+// Small helpers that the groups of the converter pane share.
+#pragma once
+
+#include <QString>
+
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+namespace orbisol {
+
+// Gives a group its layout, with the margins that all groups of the pane have.
+void SetGroupLayout(QWidget* group, QLayout* layout);
+
+// Keeps the room of `widget` free while it is hidden, so that nothing below it moves.
+void KeepRoomWhenHidden(QWidget* widget);
+
+// Returns the width, in pixels, of a field in which `text` is seen whole.
+int FieldWidth(const QLineEdit& field, const QString& text);
+
+// Names a field for screen readers with piece `piece` of kTextConverterNames. A list takes it as its
+// description too, because readers replace the name of a list with the item chosen in it.
+void NameField(QWidget* field, int piece);
+
+// Returns a new button with the text `textId` that Enter presses as well as Space.
+QPushButton* MakeButton(int textId);
+
+// Pieces of kTextConverterNames.
+enum { kNameDay, kNameMonth, kNameYear, kNameKept, kNameDifference };
+
+}  // namespace orbisol

@@ -1,0 +1,45 @@
+// The group "Écart en jours avec le :": a date that the user has remembered, and how many days the selected
+// date lies behind it.
+//
+//   CKeptDateGroup group;
+//   group.Refresh();  // the selected date was changed
+#pragma once
+
+#include "core/date.h"
+#include "ui/toolkit/calendar_group.h"
+
+class QLineEdit;
+class QToolButton;
+
+namespace orbisol {
+
+class CKeptDateGroup : public CCalendarGroup {
+  Q_OBJECT
+
+ public:
+  explicit CKeptDateGroup(QWidget* parent = nullptr);
+
+  // Shows the remembered date, under the rules in force, and its distance to the selected date.
+  void Refresh();
+  // Draws the button in the colors of the calendar, which were changed.
+  void ColorsChanged();
+
+ signals:
+  void dateChosen(PackedDate date);  // the user went to the field of the remembered date
+  void focusGivenUp();               // the button has done its work
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Keep(bool isKept);
+  void FitToFont();
+
+  PackedDate m_keptDate = 0;  // 0 is none
+  QToolButton* m_keep;
+  QLineEdit* m_kept;
+  QLineEdit* m_difference;
+};
+
+}  // namespace orbisol

@@ -1,0 +1,65 @@
+#include "ui/converter/republican_group.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QEvent>
+#include <QVBoxLayout>
+
+#include "content/selected_date.h"
+#include "core/republican.h"
+#include "resources/strings.h"
+#include "ui/converter/group_parts.h"
+#include "ui/converter/republican_entry.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/selectable_label.h"
+
+namespace orbisol {
+
+CRepublicanGroup::CRepublicanGroup(QWidget* parent)
+    : CCalendarGroup(TableText(kTextRepublicanGroup), parent),
+      m_republican(new CSelectableLabel),
+      m_isEntry(new QCheckBox(TableText(kTextRepublicanEntry))),
+      m_entry(new CRepublicanEntry) {
+  KeepRoomWhenHidden(m_isEntry);
+  KeepRoomWhenHidden(m_entry);
+  m_entry->hide();
+  auto* const column = new QVBoxLayout;
+  column->addWidget(m_republican);
+  column->addWidget(m_isEntry);
+  column->addWidget(m_entry);
+  SetGroupLayout(this, column);
+  FitToFont();
+  connect(m_isEntry, &QCheckBox::clicked, this, &CRepublicanGroup::ShowEntry);
+  connect(m_entry, &CRepublicanEntry::dateEntered, this, &CRepublicanGroup::dateEntered);
+}
+
+QString CRepublicanGroup::RepublicanText() const { return m_republican->text(); }
+
+void CRepublicanGroup::changeEvent(QEvent* event) {
+  CCalendarGroup::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitToFont();
+}
+
+void CRepublicanGroup::FitToFont() {
+  m_republican->setMinimumHeight(2 * m_republican->fontMetrics().lineSpacing());
+}
+
+void CRepublicanGroup::Refresh() {
+  const QString republican = ToQString(orbisol::RepublicanText(Selected()));
+  m_republican->setText(republican);
+  if (republican.isEmpty()) {
+    // A control that is hidden with the focus would hand it on to the next one, which nobody chose.
+    QWidget* const focused = QApplication::focusWidget();
+    if (focused == m_isEntry || m_entry->isAncestorOf(focused)) emit focusGivenUp();
+    m_isEntry->setChecked(false);
+  }
+  m_isEntry->setVisible(!republican.isEmpty());
+  ShowEntry(m_isEntry->isChecked());
+}
+
+void CRepublicanGroup::ShowEntry(bool isShown) {
+  if (isShown) m_entry->Load(ToRepublican(Selected()));
+  m_entry->setVisible(isShown);
+}
+
+}  // namespace orbisol
