@@ -7,6 +7,7 @@
 #include <random>
 #include <string>
 
+#include "content/import_holidays.h"
 #include "content/month_model.h"
 #include "files/calendar_file.h"
 
@@ -93,6 +94,29 @@ void CrowdedMonth(benchmark::State& state) {
   }
 }
 BENCHMARK(CrowdedMonth)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// An import in which half of the rules are there already.
+void ImportRules(benchmark::State& state) {
+  const auto number = [](int i) { return std::to_string(i); };
+  CalendarContent mine;
+  CalendarContent theirs;
+  for (int i = 0; i < static_cast<int>(state.range(0)); ++i) {
+    DayEvent event;
+    event.isPublic = true;
+    event.ymdFrom = kAlwaysFrom;
+    event.ymdTo = kAlwaysTo;
+    event.name.Set(FromUtf8("Anniversaire " + number(i)));
+    mine.dayEvents.push_back(event);
+    if (i % 2 != 0) event.name.Set(FromUtf8("Fête " + number(i)));
+    theirs.dayEvents.push_back(event);
+  }
+  for ([[maybe_unused]] auto _ : state) {
+    CalendarContent content = mine;
+    ImportHolidays(content, theirs, false);
+    benchmark::DoNotOptimize(content.dayEvents.size());
+  }
+}
+BENCHMARK(ImportRules)->Arg(10000)->Arg(40000)->Unit(benchmark::kMillisecond);
 
 // A calendar's file of some ten and twenty million bytes.
 void ReadLargeFile(benchmark::State& state) {

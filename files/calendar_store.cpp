@@ -63,15 +63,6 @@ std::u16string_view WithoutNumber(std::u16string_view name) {
   return isNumber ? name.substr(0, open) : name;
 }
 
-template <typename Record>
-void AddMissing(std::vector<Record>& list, const std::vector<Record>& added) {
-  const std::size_t held = list.size();
-  for (const Record& record : added) {
-    const auto end = list.begin() + static_cast<std::ptrdiff_t>(held);
-    if (std::find(list.begin(), end, record) == end) list.push_back(record);
-  }
-}
-
 }  // namespace
 
 bool IsCalendarName(std::u16string_view name) {
@@ -84,14 +75,6 @@ bool IsCalendarName(std::u16string_view name) {
 
 std::u16string CalendarNameOrDefault(std::u16string_view name) {
   return std::u16string(IsCalendarName(name) ? name : kDefaultCalendarName);
-}
-
-void ImportHolidays(CalendarContent& content, const CalendarContent& holidays, bool replace) {
-  const auto isPublic = [](const DayEvent& event) { return event.isPublic; };
-  if (replace && std::any_of(holidays.dayEvents.begin(), holidays.dayEvents.end(), isPublic))
-    std::erase_if(content.dayEvents, isPublic);
-  AddMissing(content.dayEvents, holidays.dayEvents);
-  AddMissing(content.holidays, holidays.holidays);
 }
 
 bool IsFirstStartName(std::u16string_view name) {

@@ -32,11 +32,6 @@ bool IsCalendarName(std::u16string_view name);
 // The name itself, or "Calendar" for one that cannot be.
 std::u16string CalendarNameOrDefault(std::u16string_view name);
 
-// What an import changes: every rule and period of `holidays` that `content` does not hold already is added
-// at the end. With `replace` the public rules are taken out first; personal events and periods always stay. A
-// calendar without a single public rule takes none out.
-void ImportHolidays(CalendarContent& content, const CalendarContent& holidays, bool replace);
-
 // Whether a public calendar is meant for the first start in some language, not for a list: two characters of
 // any kind and "_public". Older releases gave each user copies of them.
 bool IsFirstStartName(std::u16string_view name);

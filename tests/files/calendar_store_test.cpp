@@ -144,27 +144,5 @@ TEST_F(CalendarStoreTest, PublicCalendarsOfBothFoldersStandInOneList) {
   EXPECT_FALSE(store.LoadPublic(u"/nowhere.xml").has_value());
 }
 
-TEST(ImportHolidaysTest, PublicRulesAreAddedOrReplacedAndPersonalOnesStay) {
-  const auto rule = [](std::u16string_view name, bool isPublic) {
-    return DayEvent{0, isPublic, 1, 1, 0, 0, kAlwaysFrom, kAlwaysTo, {name}};
-  };
-  const HolidayPeriod winter{20240101, 20240107, {u"winter"sv}};
-  const HolidayPeriod summer{20240701, 20240831, {u"summer"sv}};
-  const CalendarContent mine{{rule(u"old", true), rule(u"me", false), rule(u"both", true)}, {winter}};
-  const CalendarContent theirs{{rule(u"new", true), rule(u"both", true), rule(u"feast", false)},
-                               {winter, summer}};
-  const auto imported = [](CalendarContent content, const CalendarContent& holidays, bool replace) {
-    ImportHolidays(content, holidays, replace);
-    std::u16string names;
-    for (const DayEvent& event : content.dayEvents) names.append(event.name.View()).append(u" ");
-    for (const HolidayPeriod& period : content.holidays) names.append(period.title.View()).append(u" ");
-    return names;
-  };
-  EXPECT_EQ(imported(mine, theirs, false), u"old me both new feast winter summer ");
-  EXPECT_EQ(imported(mine, theirs, true), u"me new both feast winter summer ");
-  EXPECT_EQ(imported(theirs, theirs, false), u"new both feast winter summer ");
-  EXPECT_EQ(imported(mine, {}, true), u"old me both winter ") << "an empty calendar takes nothing away";
-}
-
 }  // namespace
 }  // namespace orbisol
