@@ -1,9 +1,10 @@
 #include "platform/desktop_locale.h"
 
-#include <QByteArray>
 #include <QLocale>
 #include <QString>
 #include <QStringList>
+
+#include "platform/environment.h"
 
 namespace orbisol {
 namespace {
@@ -12,8 +13,8 @@ namespace {
 // The variable that decides how dates are written; the first that is set and not empty wins.
 std::string SessionLocaleName() {
   for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-    const QByteArray value = qgetenv(variable);
-    if (!value.isEmpty()) return value.toStdString();
+    const std::string value = Variable(variable);
+    if (!value.empty()) return value;
   }
   return {};
 }

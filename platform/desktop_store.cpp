@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "files/calendar_store.h"
 #include "files/backup.h"
+#include "files/calendar_store.h"
 #include "platform/desktop_files.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"

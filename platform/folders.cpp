@@ -3,7 +3,6 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <sstream>
 
 #include "platform/path_text.h"
@@ -12,11 +11,6 @@ namespace orbisol {
 namespace {
 
 bool IsAbsolute(const std::string& path) { return !path.empty() && path[0] == '/'; }
-
-std::string Variable(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
 
 std::string HomeOfAccount() {
   const passwd* const account = getpwuid(getuid());
@@ -34,8 +28,7 @@ std::string Executable() {
 
 }  // namespace
 
-Folders FindFolders(const std::function<std::string(const char* name)>& variable, const std::string& home,
-                    const std::string& executable) {
+Folders FindFolders(const VariableReader& variable, const std::string& home, const std::string& executable) {
   const std::string ownHome = variable("HOME");
   const std::string user = IsAbsolute(ownHome) ? ownHome : home;
   const auto base = [&](const char* name, const char* fallBack) {

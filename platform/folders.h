@@ -4,9 +4,10 @@
 //   folders.calendars;  // "/home/eva/.local/share/Corvalen/orbisol"
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
+
+#include "platform/environment.h"
 
 namespace orbisol {
 
@@ -22,8 +23,7 @@ struct Folders {
 // `variable` gives an environment variable, empty when it is not set. `home` is the folder of the user where
 // HOME says nothing. `executable` is the program's own file, in <prefix>/bin. As the base-directory rules
 // have it, a relative path in a variable counts as none.
-Folders FindFolders(const std::function<std::string(const char* name)>& variable, const std::string& home,
-                    const std::string& executable);
+Folders FindFolders(const VariableReader& variable, const std::string& home, const std::string& executable);
 
 // Of this process.
 Folders DesktopFolders();

@@ -2,14 +2,12 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
-#include <thread>
 
 #include "platform/path_text.h"
 
@@ -23,53 +21,6 @@ constexpr char kTemporarySuffix[] = ".tmp";
 constexpr std::time_t kStaleSeconds = 24 * 60 * 60;  // a save takes far less, on any clock
 constexpr int kMaxLinks = 40;                        // as the system follows them
 constexpr milliseconds kFolderPatience{2000};
-constexpr milliseconds kPollPause{5};
-
-template <typename Call>
-auto Repeat(Call call) {
-  auto result = call();
-  while (result == -1 && errno == EINTR) result = call();
-  return result;
-}
-
-class CDescriptor {
- public:
-  explicit CDescriptor(int descriptor) : m_descriptor(descriptor) {}
-  ~CDescriptor() { Close(); }
-  CDescriptor(const CDescriptor&) = delete;
-  CDescriptor& operator=(const CDescriptor&) = delete;
-
-  bool IsOpen() const { return m_descriptor >= 0; }
-  int Get() const { return m_descriptor; }
-
-  // False when the system reports that something written before did not arrive. An interrupted close has
-  // closed: it is not repeated.
-  bool Close() {
-    if (m_descriptor < 0) return true;
-    const int result = close(m_descriptor);
-    m_descriptor = -1;
-    return result == 0 || errno == EINTR;
-  }
-
- private:
-  int m_descriptor;
-};
-
-CDescriptor Open(const std::string& path, int flags, mode_t mode = 0) {
-  return CDescriptor(Repeat([&] { return open(path.c_str(), flags | O_CLOEXEC, mode); }));
-}
-
-// Waits at most so long. Where the file system knows no locks there is nobody to wait for.
-bool LockWithin(int descriptor, milliseconds patience) {
-  const auto end = std::chrono::steady_clock::now() + patience;
-  while (Repeat([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) != 0) {
-    if (errno != EWOULDBLOCK)
-      return errno == ENOTSUP || errno == ENOSYS || errno == ENOLCK || errno == EINVAL;
-    if (std::chrono::steady_clock::now() >= end) return false;
-    std::this_thread::sleep_for(kPollPause);
-  }
-  return true;
-}
 
 // FNV-1a, 64 bits.
 std::uint64_t Hash(std::string_view bytes) {
@@ -107,15 +58,6 @@ bool SyncFolder(int descriptor) {
 bool SyncFolder(const std::string& folder) {
   const CDescriptor descriptor = Open(folder, O_RDONLY | O_DIRECTORY);
   return descriptor.IsOpen() && SyncFolder(descriptor.Get());
-}
-
-bool WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = Repeat([&] { return write(descriptor, bytes.data(), bytes.size()); });
-    if (written <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
 }
 
 // Who may do what with the new file, as with the old one.
@@ -279,12 +221,8 @@ bool MakeFolders(const std::string& folder) {
 
 CFileLock::CFileLock(const std::string& path, milliseconds patience) {
   if (!MakeFolders(FolderOf(path))) return;
-  m_descriptor = Repeat([&] { return open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600); });
-  m_held = m_descriptor >= 0 && LockWithin(m_descriptor, patience);
-}
-
-CFileLock::~CFileLock() {
-  if (m_descriptor >= 0) close(m_descriptor);
+  m_descriptor = Open(path, O_RDWR | O_CREAT, 0600);
+  m_held = m_descriptor.IsOpen() && LockWithin(m_descriptor.Get(), patience) != LockResult::kHeld;
 }
 
 }  // namespace orbisol

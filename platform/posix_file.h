@@ -7,12 +7,12 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "files/file_system.h"
+#include "platform/descriptor.h"
 
 namespace orbisol {
 
@@ -49,14 +49,11 @@ class CFileLock {
  public:
   // Makes the file, which stays there empty. Waits for another holder at most so long.
   CFileLock(const std::string& path, std::chrono::milliseconds patience);
-  ~CFileLock();
-  CFileLock(const CFileLock&) = delete;
-  CFileLock& operator=(const CFileLock&) = delete;
 
   bool IsHeld() const { return m_held; }
 
  private:
-  int m_descriptor = -1;
+  CDescriptor m_descriptor;
   bool m_held = false;
 };
 

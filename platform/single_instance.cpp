@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -10,37 +9,25 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
-#include <cerrno>
-#include <chrono>
-#include <cstdlib>
 #include <cstring>
 #include <thread>
 
 namespace orbisol {
 namespace {
 
-constexpr int kAttempts = 40;  // the first may hold the lock and not listen yet
-constexpr std::chrono::milliseconds kPause(25);
+using std::chrono::milliseconds;
+using Moment = std::chrono::steady_clock::time_point;
+
+constexpr milliseconds kPause(25);  // between two tries: the first may hold the lock and not listen yet
 
 constexpr std::size_t kLongestToken = 4096;
-constexpr std::chrono::milliseconds kLongestHearing(100);
+constexpr milliseconds kLongestHearing(100);
+constexpr char kAnswer = '.';
 
-// What is cleared out of runtime folders spares files with this bit.
+// Services that clear out runtime folders spare files with the sticky bit.
 constexpr mode_t kLockMode = 01600;
 
-std::string Variable(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? std::string() : value;
-}
-
-bool IsOwnFolder(const std::string& path, unsigned user) {
-  struct stat status;
-  return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == user &&
-         (status.st_mode & 077) == 0;
-}
-
-// Nothing when the path does not fit.
+// Returns nothing when the path does not fit.
 std::optional<sockaddr_un> AddressOf(const std::string& path) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
@@ -49,39 +36,37 @@ std::optional<sockaddr_un> AddressOf(const std::string& path) {
   return address;
 }
 
-int NewSocket() { return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
-
-// Whether somebody listens there. The call itself is the message; the token comes with it where it can.
-bool Call(const std::string& path, const std::string& token) {
-  const auto address = AddressOf(path);
-  if (!address) return false;
-  for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    const int descriptor = NewSocket();
-    if (descriptor < 0) return false;
-    const bool isHeard =
-        connect(descriptor, reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0;
-    // A full queue is full of calls: the first program knows already.
-    const bool isQueueFull = !isHeard && errno == EAGAIN;
-    if (isHeard) send(descriptor, token.data(), token.size(), MSG_NOSIGNAL);
-    close(descriptor);
-    if (isHeard || isQueueFull) return true;
-    std::this_thread::sleep_for(kPause);
-  }
-  return false;
+CDescriptor NewSocket() {
+  return CDescriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
-using Moment = std::chrono::steady_clock::time_point;
+// Waits until something can be read there, also the end of the connection.
+bool IsReadableBefore(Moment end, int descriptor) {
+  pollfd waiting{descriptor, POLLIN, 0};
+  return Repeat([&] {
+           const auto left = std::chrono::ceil<milliseconds>(end - Moment::clock::now());
+           return poll(&waiting, 1, std::max(static_cast<int>(left.count()), 0));
+         }) > 0;
+}
 
-// What a caller says before it hangs up, or until then.
+// Hands the token to whoever listens there. Returns true when the answer came.
+bool Call(const std::string& path, const std::string& token, Moment end) {
+  const auto address = AddressOf(path);
+  const CDescriptor caller = NewSocket();
+  if (!address || !caller.IsOpen() ||
+      connect(caller.Get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) != 0)
+    return false;
+  send(caller.Get(), token.data(), token.size(), MSG_NOSIGNAL);
+  shutdown(caller.Get(), SHUT_WR);
+  char answer = 0;
+  return IsReadableBefore(end, caller.Get()) && recv(caller.Get(), &answer, 1, MSG_DONTWAIT) == 1;
+}
+
+// Reads until the caller has said all or `end` is reached.
 std::string Hear(int caller, Moment end) {
   std::string text;
   std::array<char, 512> piece{};
-  pollfd waiting{caller, POLLIN, 0};
-  const auto left = [&] {
-    const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(end - Moment::clock::now());
-    return std::max(static_cast<int>(rest.count()), 0);
-  };
-  while (text.size() < kLongestToken && poll(&waiting, 1, left()) > 0) {
+  while (text.size() < kLongestToken && IsReadableBefore(end, caller)) {
     const ssize_t length = recv(caller, piece.data(), piece.size(), MSG_DONTWAIT);
     if (length <= 0) break;
     text.append(piece.data(), static_cast<std::size_t>(length));
@@ -91,83 +76,63 @@ std::string Hear(int caller, Moment end) {
 
 }  // namespace
 
-std::string FindRuntimeFolder(const std::function<std::string(const char* name)>& variable, unsigned user) {
-  const std::string given = variable("XDG_RUNTIME_DIR");
-  if (given.starts_with('/') && IsOwnFolder(given, user)) return given;
-  const std::string temporary = variable("TMPDIR");
-  const std::string folder =
-      (temporary.starts_with('/') ? temporary : "/tmp") + "/orbisol-" + std::to_string(user);
-  mkdir(folder.c_str(), 0700);
-  return IsOwnFolder(folder, user) ? folder : std::string();
-}
-
-std::string RuntimeFolder() { return FindRuntimeFolder(Variable, getuid()); }
-
-std::string DisplayName() {
-  std::string name = Variable("WAYLAND_DISPLAY");
-  if (name.empty()) {
-    name = Variable("DISPLAY");
-    // ":0.1" is another screen of display ":0".
-    if (const auto screen = name.find('.', name.rfind(':') + 1); screen != std::string::npos)
-      name.erase(screen);
-  }
-  for (char& c : name)
-    if (std::isalnum(static_cast<unsigned char>(c)) == 0 && c != '-') c = '_';
-  return name;
-}
-
-std::string ActivationToken() { return Variable("XDG_ACTIVATION_TOKEN"); }
-
 CSingleInstance::CSingleInstance(const InstancePlace& place) {
   if (place.folder.empty()) return;
   const std::string base = place.folder + "/orbisol" + (place.display.empty() ? "" : "-" + place.display);
-  m_lock = open((base + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  if (m_lock < 0) return;
   const std::string path = base + ".socket";
-  if (flock(m_lock, LOCK_EX | LOCK_NB) == 0) {
-    fchmod(m_lock, kLockMode);
-    if (Listen(path)) m_path = path;
-  } else {
-    const bool isHeld = errno == EWOULDBLOCK;
-    close(m_lock);
-    m_lock = -1;
-    m_isSecond = isHeld && Call(path, place.token);
-  }
+  const Moment end = Moment::clock::now() + place.patience;
+  // When the first ends without an answer its lock is free, and the next turn takes its place.
+  do {
+    m_lock = Open(base + ".lock", O_RDWR | O_CREAT | O_NOFOLLOW, 0600);
+    const LockResult result =
+        m_lock.IsOpen() ? LockWithin(m_lock.Get(), milliseconds(0)) : LockResult::kUnknown;
+    if (result == LockResult::kLocked && Listen(path)) {
+      fchmod(m_lock.Get(), kLockMode);
+      m_path = path;
+      return;
+    }
+    m_lock.Close();
+    if (result != LockResult::kHeld) return;
+    if (Call(path, place.token, end)) {
+      m_role = InstanceRole::kRaised;
+      return;
+    }
+    std::this_thread::sleep_for(kPause);
+  } while (Moment::clock::now() < end);
+  m_role = InstanceRole::kSilent;
 }
 
 CSingleInstance::~CSingleInstance() {
   // The socket goes while the lock still keeps others from making theirs.
   if (!m_path.empty()) unlink(m_path.c_str());
-  if (m_socket >= 0) close(m_socket);
-  if (m_lock >= 0) close(m_lock);
 }
 
 bool CSingleInstance::Listen(const std::string& path) {
   const auto address = AddressOf(path);
   if (!address) return false;
   m_socket = NewSocket();
-  if (m_socket < 0) return false;
   unlink(path.c_str());  // left by a process that was killed: the lock is ours
   constexpr int kWaitingCalls = 16;
-  if (bind(m_socket, reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0 &&
-      listen(m_socket, kWaitingCalls) == 0)
+  if (m_socket.IsOpen() &&
+      bind(m_socket.Get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0 &&
+      listen(m_socket.Get(), kWaitingCalls) == 0)
     return true;
-  close(m_socket);
-  m_socket = -1;
+  m_socket.Close();
   return false;
 }
 
 std::optional<std::string> CSingleInstance::TakeCall() {
   std::optional<std::string> token;
   const Moment end = Moment::clock::now() + kLongestHearing;
-  while (m_socket >= 0) {
-    const int caller = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
-    if (caller < 0) {
+  while (m_socket.IsOpen()) {
+    const CDescriptor caller(accept4(m_socket.Get(), nullptr, nullptr, SOCK_CLOEXEC));
+    if (!caller.IsOpen()) {
       if (errno == EINTR || errno == ECONNABORTED) continue;
       break;
     }
-    token = Hear(caller, end);
-    close(caller);
+    std::string said = Hear(caller.Get(), end);
+    // A caller that has given up is not answered: its user has decided otherwise meanwhile.
+    if (send(caller.Get(), &kAnswer, 1, MSG_NOSIGNAL) == 1) token = std::move(said);
   }
   return token;
 }

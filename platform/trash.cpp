@@ -44,15 +44,9 @@ std::string NumberedName(const std::string& name, int number) {
   return name.substr(0, stem) + " " + std::to_string(number) + name.substr(stem);
 }
 
-bool WriteNote(int descriptor, std::string_view note) {
-  bool written = true;
-  while (written && !note.empty()) {
-    const ssize_t count = write(descriptor, note.data(), note.size());
-    if (count > 0) note.remove_prefix(static_cast<std::size_t>(count));
-    written = count > 0 || (count < 0 && errno == EINTR);
-  }
-  written = fsync(descriptor) == 0 && written;
-  return close(descriptor) == 0 && written;
+bool WriteNote(CDescriptor& file, std::string_view note) {
+  const bool isWritten = WriteAll(file.Get(), note) && Repeat([&] { return fsync(file.Get()); }) == 0;
+  return file.Close() && isWritten;
 }
 
 // Makes the note of the first name that is still free, which it thereby takes; empty when none could be made.
@@ -60,16 +54,16 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
   for (int number = 1; number <= kMaxClashes; ++number) {
     const std::string candidate = NumberedName(name, number);
     const std::string info = trash + "/info/" + candidate + ".trashinfo";
-    const int descriptor = open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-    if (descriptor < 0) {
-      if (errno == EEXIST || errno == EINTR) continue;
+    CDescriptor file = Open(info, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0600);
+    if (!file.IsOpen()) {
+      if (errno == EEXIST) continue;
       return {};
     }
     struct stat status;
     const bool clashes = lstat((trash + "/files/" + candidate).c_str(), &status) == 0;
     const bool free = !clashes && errno == ENOENT;
     // A file that somebody put there without a note has its name all the same.
-    const bool written = WriteNote(descriptor, free ? note : "");
+    const bool written = WriteNote(file, free ? note : "");
     if (free && written) return candidate;
     unlink(info.c_str());
     if (!clashes) return {};  // What failed here would fail under any other name.

@@ -98,6 +98,9 @@ constexpr Entry kStrings[] = {
     {kTextHeaderNames, u"Navigation|Mois précédent|Mois suivant|Mois : %s|Année : %d|Année"},
     {kTextHeaderTips, u"Choisir le mois|Saisir l'année"},
     {kTextToolBarName, u"Barre d'outils"},
+    {kTextSilentInstance,
+     u"Orbisol est déjà ouvert, mais ne répond pas.\nVoulez-vous l'ouvrir une seconde fois ?"},
+    {kTextOpenAnyway, u"Ouvrir"},
     {kTextToolkitSource,
      u"Double Sided Printing|Off|Long side binding|Short side binding|Pages|"
      u"Specify pages or ranges separated by commas. Ranges are specified by two numbers separated by a "

@@ -51,7 +51,9 @@ enum TextId : int {
   kTextHeaderNames = 5123,  // accessible: header, previous, next, month, year, year editor
   kTextHeaderTips = 5124,   // of the month and of the year
   kTextToolBarName = 5125,
-  kTextToolkitSource = 5130,  // texts that the toolkit leaves in English, and the same in French
+  kTextSilentInstance = 5126,  // at a start, when the first program does not answer
+  kTextOpenAnyway = 5127,      // the button of that question
+  kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
   kTextPictureFaults = 5160,  // why a file is no picture, in the order of PictureFault, kNone left out
 };

@@ -17,6 +17,7 @@
 
 #include "content/selected_date.h"
 #include "core/date_text.h"
+#include "platform/activation_token.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
 #include "settings/window_layout.h"
@@ -221,14 +222,11 @@ void CCalendarFrame::closeEvent(QCloseEvent* event) {
 }
 
 void CCalendarFrame::Raise(const std::string& token) {
-  // The toolkit looks for it there when a window asks to be activated.
-  constexpr char kToken[] = "XDG_ACTIVATION_TOKEN";
-  if (!token.empty()) qputenv(kToken, QByteArray::fromStdString(token));
+  const CScopedActivationToken scope(token);
   setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
   show();
   raise();
   activateWindow();
-  qunsetenv(kToken);  // it is good for one time
 }
 
 QString CCalendarFrame::StatusText() const { return m_description->text(); }

@@ -7,15 +7,18 @@
 
 #include "core/calendar_config.h"
 #include "core/platform.h"
+#include "platform/activation_token.h"
 #include "platform/desktop_files.h"
 #include "platform/desktop_locale.h"
 #include "platform/desktop_store.h"
 #include "platform/folders.h"
+#include "platform/runtime_folder.h"
+#include "resources/strings.h"
+#include "ui/shell/calendar_frame.h"
 #include "ui/toolkit/french_toolkit.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/space_key.h"
-#include "ui/shell/calendar_frame.h"
 
 namespace orbisol {
 namespace {
@@ -30,7 +33,10 @@ int Run(const StartUp& startUp) {
     return 0;
   }
   CSingleInstance instance(startUp.instance);
-  if (instance.IsSecond()) return 0;
+  if (instance.Role() == InstanceRole::kRaised) return 0;
+  if (instance.Role() == InstanceRole::kSilent &&
+      Messages().Choose(nullptr, TableText(kTextSilentInstance), {TableText(kTextOpenAnyway)}) != 0)
+    return 0;
 
   CSpaceKeyFilter spaceKey;
   QCoreApplication::instance()->installEventFilter(&spaceKey);

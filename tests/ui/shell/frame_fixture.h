@@ -13,17 +13,21 @@
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
 #include "tests/support/rules.h"
-#include "ui/toolkit/messages.h"
 #include "ui/shell/calendar_frame.h"
+#include "ui/toolkit/messages.h"
 
 namespace orbisol {
 
 struct SpyMessages : MessageDoor {
-  std::vector<QString> errors;
+  std::vector<QString> errors, questions;
+  int choice = -1;  // the answer to every question
   int beeps = 0;
 
   void ShowError(QWidget*, const QString& text) override { errors.push_back(text); }
-  int Choose(QWidget*, const QString&, const QStringList&) override { return -1; }
+  int Choose(QWidget*, const QString& text, const QStringList&) override {
+    questions.push_back(text);
+    return choice;
+  }
   void Beep() override { ++beeps; }
 };
 
