@@ -78,6 +78,7 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, con
   DisplaySettings& display = stored.display;
   std::optional<std::u16string> name;
   if (values) {
+    stored.layoutStored = BinaryOf(*values, kMainLayout).has_value();
     ReadLayout(*values, kMainLayout, kMainRect, screen, display.mainLayout);
     ReadLayout(*values, kPrintLayout, kPrintRect, screen, display.printLayout);
     name = TextOf(*values, kCalendarNameValue, kMaxPathUnits);

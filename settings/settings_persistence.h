@@ -25,8 +25,9 @@
 namespace orbisol {
 
 struct StoredSettings {
-  bool keyFound = false;    // without a key the installation is broken
-  DisplaySettings display;  // with name and path of the calendar
+  bool keyFound = false;      // without a key the installation is broken
+  bool layoutStored = false;  // false until the main window was closed once
+  DisplaySettings display;    // with name and path of the calendar
   CalendarRules rules;
   CalendarContent content;
   LoadResult file = LoadResult::kMissing;  // of the calendar, before a migration wrote it

@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
 
 #include <algorithm>
@@ -20,9 +19,7 @@
 #include "platform/activation_token.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
-#include "settings/window_layout.h"
 #include "ui/toolkit/elided_label.h"
-#include "ui/toolkit/geometry.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/window/tool_icons.h"
@@ -33,37 +30,23 @@ namespace {
 constexpr int kToolIconSize = 22;
 constexpr int kStatusIndent = 5;  // so that the description begins below the edge of the month
 
-// When the window manager's margins are looked for after the window was shown, in milliseconds. They come
-// some time after it, and on some desktops never.
-constexpr int kMarginChecks[] = {0, 50, 200, 600};
+// The size of the first window with its frame, before anybody gave it one.
+constexpr QSize kMostFirstSize(1280, 800);
+constexpr int kWidthForPane = 900;  // from there on the first window shows the pane
 
-// Enough of a title bar to take hold of it, in pixels.
-constexpr int kGripWidth = 80;
-constexpr int kGripHeight = 24;
-
-// Whether a window there can be seen and moved. Around screens of different sizes there are places on none.
-bool IsWithinReach(const QRect& frame) {
-  const QRect grip(frame.x(), frame.y(), frame.width(), kGripHeight);
-  const QList<QScreen*> screens = QGuiApplication::screens();
-  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-    const QRect seen = grip & screen->availableGeometry();
-    return seen.width() >= std::min(kGripWidth, frame.width()) && seen.height() == kGripHeight;
-  });
+// Two thirds of the free area of the screen.
+QSize FirstSize() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return kMostFirstSize;
+  const QSize free = screen->availableGeometry().size();
+  return QSize(free.width() * 2 / 3, free.height() * 2 / 3).boundedTo(kMostFirstSize);
 }
 
 }  // namespace
 
-Rect VirtualScreen() {
-  const QScreen* const screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return {};
-  return ToRect(screen->virtualGeometry());
-}
-
 void CopyTextToClipboard(const QString& text) { QGuiApplication::clipboard()->setText(text); }
 
 const CCalendarFrame::Handler CCalendarFrame::kHandlers[] = {
-    {kCmdChooseCalendar, &CCalendarFrame::OnNotYet},
-    {kCmdPrint, &CCalendarFrame::OnNotYet},
     {kCmdQuit, &CCalendarFrame::OnQuit},
     {kCmdCopyDate, &CCalendarFrame::OnCopyDate},
     {kCmdCopyJulianDate, &CCalendarFrame::OnCopyJulianDate},
@@ -73,12 +56,6 @@ const CCalendarFrame::Handler CCalendarFrame::kHandlers[] = {
     {kCmdTogglePane, &CCalendarFrame::OnTogglePane},
     {kCmdGoBack, &CCalendarFrame::OnGoBack},
     {kCmdGoForward, &CCalendarFrame::OnGoForward},
-    {kCmdPreferences, &CCalendarFrame::OnNotYet},
-    {kCmdEditEvents, &CCalendarFrame::OnNotYet},
-    {kCmdEditVacations, &CCalendarFrame::OnNotYet},
-    {kCmdHelpContents, &CCalendarFrame::OnNotYet},
-    {kCmdHelpIndex, &CCalendarFrame::OnNotYet},
-    {kCmdAbout, &CCalendarFrame::OnNotYet},
 };
 
 const CCalendarFrame::Handler* CCalendarFrame::HandlerOf(CommandId command) {
@@ -90,6 +67,7 @@ const CCalendarFrame::Handler* CCalendarFrame::HandlerOf(CommandId command) {
 CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
     : m_doors(doors),
       m_commands(new CCommandTable(this, [this](CommandId command) { RunCommand(command); })),
+      m_placement(new CFramePlacement(*this)),
       m_toolBar(nullptr),
       m_description(new CElidedLabel),
       m_dialog(nullptr) {
@@ -110,10 +88,14 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
   m_dialog = new CMainDlg(Display().mainLayout.rightPaneShown != 0);
   setCentralWidget(m_dialog);
   connect(m_dialog, &CMainDlg::dateShown, this, &CCalendarFrame::OnDateShown);
-  connect(m_dialog, &CMainDlg::periodChosen, this, &CCalendarFrame::OnNotYet);
-  connect(m_dialog, &CMainDlg::dayOpened, this, &CCalendarFrame::OnNotYet);
-  for (const Handler& row : kHandlers)
-    m_commands->SetEnabled(row.command, row.run != &CCalendarFrame::OnNotYet);
+  connect(m_dialog, &CMainDlg::periodChosen, this, [this](const Date& from, const Date& to) {
+    OpenWindow(kCmdEditVacations, {*this, from.Packed(), to.Packed()});
+  });
+  connect(m_dialog, &CMainDlg::dayOpened, this, [this](const Date& date) {
+    OpenWindow(kCmdEditEvents, {*this, date.Packed(), date.Packed()});
+  });
+  for (const Menu& menu : MainMenu())
+    for (const MenuItem& item : menu.items) m_commands->SetEnabled(item.command, IsReady(item.command));
   UpdateTitle();
   m_dialog->Refresh(false);
   m_dialog->FocusMonth();
@@ -122,6 +104,8 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
 // What is stored goes into the live records here, and nowhere else at start-up.
 void CCalendarFrame::TakeSettings() {
   StoredSettings stored = ReadSettings(m_doors.store, m_doors.calendars, VirtualScreen(), m_doors.locale);
+  m_isFirst = !stored.layoutStored;
+  if (m_isFirst) stored.display.mainLayout.rightPaneShown = FirstSize().width() >= kWidthForPane ? 1 : 0;
   Display() = std::move(stored.display);
   Rules() = stored.rules;
   Content() = std::move(stored.content);
@@ -137,87 +121,27 @@ void CCalendarFrame::UpdateTitle() {
 
 void CCalendarFrame::Open() {
   WindowLayout& layout = Display().mainLayout;
-  layout.rightPaneWidth = m_dialog->PaneWidth();
-  // The stored rectangle always holds the pane.
-  const int hidden = m_dialog->IsPaneShown() ? 0 : m_dialog->PaneWidth();
-  m_wanted = QRect(layout.rect.left, layout.rect.top, layout.rect.Width() - hidden, layout.rect.Height());
-  if (const QScreen* const screen = QGuiApplication::primaryScreen(); screen && !IsWithinReach(m_wanted)) {
-    const Rect fitted = FitRectToScreen(ToRect(m_wanted), ToRect(screen->availableGeometry()));
-    m_wanted = ToQRect(fitted);
-  }
-  move(m_wanted.topLeft());
-  resize(m_wanted.size());
-  m_openedSize = size();
-  if (layout.maximized != 0) {
-    showMaximized();
+  const int pane = m_dialog->PaneWidth();
+  const int hidden = m_dialog->IsPaneShown() ? 0 : pane;  // the stored rectangle always holds the pane
+  layout.rightPaneWidth = pane;
+  if (m_isFirst) {
+    m_placement->OpenCentred(FirstSize());
   } else {
-    show();
+    m_placement->Open({layout.rect.left, layout.rect.top, layout.rect.Width() - hidden, layout.rect.Height()},
+                      layout.maximized != 0);
   }
-}
-
-bool CCalendarFrame::HasNormalSize() const { return !isMaximized() && !isMinimized() && !isFullScreen(); }
-
-void CCalendarFrame::showEvent(QShowEvent* event) {
-  QMainWindow::showEvent(event);
-  if (!m_isFitted)
-    for (const int wait : kMarginChecks) QTimer::singleShot(wait, this, &CCalendarFrame::CorrectFrame);
-}
-
-void CCalendarFrame::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  // A slow window manager's margins are known by now.
-  if (!m_isFitted && isVisible()) QTimer::singleShot(0, this, &CCalendarFrame::CorrectFrame);
-}
-
-// Rectangles are stored with the frame and set without it. Its margins are known only now: they are taken off
-// once, unless somebody has resized the window meanwhile.
-void CCalendarFrame::CorrectFrame() {
-  if (!isVisible() || !HasNormalSize()) return;
-  const QRect frame = frameGeometry();
-  const QRect inside = geometry();
-  const QMargins margins(inside.left() - frame.left(), inside.top() - frame.top(),
-                         frame.right() - inside.right(), frame.bottom() - inside.bottom());
-  if (margins.isNull()) return;
-  m_margins = margins;
-  if (std::exchange(m_isFitted, true)) return;
-  // Some window managers take the first position for that of the inside.
-  if (inside.topLeft() == m_wanted.topLeft()) move(m_wanted.topLeft());
-  if (size() == m_openedSize) resize(m_wanted.marginsRemoved(margins).size());
 }
 
 void CCalendarFrame::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && m_dialog != nullptr) m_dialog->ThemeChanged();
-  if (event->type() != QEvent::WindowStateChange || !HasNormalSize()) return;
-  // The size that the window is put back to comes a moment later.
-  QTimer::singleShot(kMarginChecks[1], this, &CCalendarFrame::SettleNormalWidth);
-}
-
-void CCalendarFrame::SettleNormalWidth() {
-  if (!HasNormalSize()) return;
-  CorrectFrame();  // as it was opened; what the pane changed since comes on top
-  if (const int owed = std::exchange(m_owedWidth, 0); owed != 0) resize(width() + owed, height());
-}
-
-ClosingFrame CCalendarFrame::State() const {
-  ClosingFrame state;
-  state.maximized = isMaximized();
-  state.minimized = isMinimized();
-  state.paneShown = m_dialog->IsPaneShown();
-  state.paneWidth = m_dialog->PaneWidth();
-  QRect frame = frameGeometry();
-  if (!HasNormalSize()) {
-    // A window that was never seen in its normal size keeps the one that is stored.
-    if (m_margins.isNull() && !normalGeometry().isValid()) return state;
-    frame = normalGeometry().marginsAdded(m_margins);
-    frame.setWidth(frame.width() + m_owedWidth);
-  }
-  state.rect = ToRect(frame);
-  return state;
 }
 
 void CCalendarFrame::closeEvent(QCloseEvent* event) {
-  SaveMainWindowLayout(m_doors.store, Display().mainLayout, State(), VirtualScreen());
+  ClosingFrame closing = m_placement->Closing();
+  closing.paneShown = m_dialog->IsPaneShown();
+  closing.paneWidth = m_dialog->PaneWidth();
+  SaveMainWindowLayout(m_doors.store, Display().mainLayout, closing, VirtualScreen());
   QMainWindow::closeEvent(event);
 }
 
@@ -231,11 +155,26 @@ void CCalendarFrame::Raise(const std::string& token) {
 
 QString CCalendarFrame::StatusText() const { return m_description->text(); }
 
+bool CCalendarFrame::IsReady(CommandId command) {
+  const Opening* const opening = OpeningOf(command);
+  return HandlerOf(command) != nullptr || (opening != nullptr && opening->open != nullptr);
+}
+
 void CCalendarFrame::RunCommand(CommandId command) {
-  const Handler* const handler = HandlerOf(command);
-  if (handler == nullptr) return;
-  (this->*handler->run)();
+  if (const Handler* const handler = HandlerOf(command)) {
+    (this->*handler->run)();
+  } else {
+    OpenWindow(command, {.frame = *this});
+  }
   UpdateCommands();
+}
+
+void CCalendarFrame::OpenWindow(CommandId command, const OpeningRequest& request) {
+  if (const Opening* const opening = OpeningOf(command); opening != nullptr && opening->open != nullptr) {
+    opening->open(request);
+  } else {
+    Messages().Beep();
+  }
 }
 
 void CCalendarFrame::UpdateCommands() {
@@ -251,8 +190,6 @@ void CCalendarFrame::OnDateShown(const QString& description) {
   m_description->setText(description);
   UpdateCommands();
 }
-
-void CCalendarFrame::OnNotYet() { Messages().Beep(); }
 
 void CCalendarFrame::OnCopyDate() { CopyTextToClipboard(ToQString(LongDate(Selected(), false))); }
 
@@ -271,18 +208,11 @@ void CCalendarFrame::OnToggleStatusBar() {
 // The frame takes or gives the room of the pane, so that the month stays as it is.
 void CCalendarFrame::OnTogglePane() {
   const bool isShown = !m_dialog->IsPaneShown();
-  const int change = isShown ? m_dialog->PaneWidth() : -m_dialog->PaneWidth();
   Display().mainLayout.rightPaneShown = isShown ? 1 : 0;
-  if (!HasNormalSize()) {
-    m_owedWidth += change;  // for the normal size
-    m_dialog->ShowPane(isShown);
-    return;
-  }
-  const int newWidth = width() + change;
-  if (isShown) resize(newWidth, height());
+  if (isShown) m_placement->Widen(m_dialog->PaneWidth());
   m_dialog->ShowPane(isShown);
   layout()->activate();  // the smallest size follows the pane
-  resize(newWidth, height());
+  if (!isShown) m_placement->Widen(-m_dialog->PaneWidth());
 }
 
 void CCalendarFrame::OnGoBack() { m_dialog->GoBack(); }

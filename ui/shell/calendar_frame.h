@@ -7,7 +7,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QRect>
 
 #include <string>
 
@@ -17,7 +16,9 @@
 #include "settings/settings_persistence.h"
 #include "settings/settings_store.h"
 #include "ui/shell/main_dlg.h"
+#include "ui/shell/openings.h"
 #include "ui/window/command_table.h"
+#include "ui/window/frame_placement.h"
 
 namespace orbisol {
 
@@ -28,9 +29,6 @@ struct FrameDoors {
   CCalendarStore& calendars;
   UserLocale locale;
 };
-
-// The smallest rectangle around all screens.
-Rect VirtualScreen();
 
 // Puts a text on the clipboard. Where that cannot be had nothing happens, and nothing is said.
 void CopyTextToClipboard(const QString& text);
@@ -50,12 +48,11 @@ class CCalendarFrame : public QMainWindow {
   void RunCommand(CommandId command);
 
   CMainDlg& Dialog() { return *m_dialog; }
+  const FrameDoors& Doors() const { return m_doors; }
   CCommandTable& Commands() { return *m_commands; }
   QString StatusText() const;
 
  protected:
-  void showEvent(QShowEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -66,6 +63,8 @@ class CCalendarFrame : public QMainWindow {
   };
   static const Handler kHandlers[];
   static const Handler* HandlerOf(CommandId command);
+  static bool IsReady(CommandId command);
+  void OpenWindow(CommandId command, const OpeningRequest& request);  // beeps where there is none
 
   void OnDateShown(const QString& description);
 
@@ -78,27 +77,18 @@ class CCalendarFrame : public QMainWindow {
   void OnGoBack();
   void OnGoForward();
   void OnQuit();
-  void OnNotYet();  // refuses a command whose window is not built yet
 
   void TakeSettings();
   void UpdateTitle();
   void UpdateCommands();
-  bool HasNormalSize() const;  // not maximized, minimized or full screen
-  void CorrectFrame();
-  void SettleNormalWidth();
-  ClosingFrame State() const;
 
   FrameDoors m_doors;
   CCommandTable* m_commands;
+  CFramePlacement* m_placement;
   QToolBar* m_toolBar;
   CElidedLabel* m_description;
   CMainDlg* m_dialog;
-
-  QRect m_wanted;           // with its frame, as it was stored
-  QSize m_openedSize;       // without; what the frame was opened with
-  QMargins m_margins;       // of the frame around the window, once they are known
-  bool m_isFitted = false;  // the frame's margins have been taken off
-  int m_owedWidth = 0;      // by which the pane changed the window while it had no size of its own
+  bool m_isFirst = false;  // no place of the window was ever stored
 };
 
 }  // namespace orbisol

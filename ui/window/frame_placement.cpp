@@ -1,0 +1,213 @@
+#include "ui/window/frame_placement.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QScreen>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "settings/window_layout.h"
+#include "ui/toolkit/geometry.h"
+
+namespace orbisol {
+namespace {
+
+// Milliseconds after which the margins are looked for once the window was shown. A slow window manager is met
+// later, when it moves, resizes or activates the window.
+constexpr int kMarginChecks[] = {0, 50, 200, 600};
+
+// Milliseconds until the size is there to which a maximized window is put back.
+constexpr int kReturnTime = 50;
+
+// Pixels by which a side may miss what was asked for, where the screen's ratio is a fraction.
+constexpr int kRounding = 1;
+
+// Pixels of a title bar that are enough to take hold of it.
+constexpr int kGripWidth = 80;
+constexpr int kGripHeight = 24;
+
+bool IsNear(int a, int b) { return std::abs(a - b) <= kRounding; }
+bool IsNear(const QPoint& a, const QPoint& b) { return IsNear(a.x(), b.x()) && IsNear(a.y(), b.y()); }
+
+// Whether a window there can be seen and moved. Around screens of different sizes there are places on none.
+bool IsWithinReach(const QRect& frame) {
+  const QRect grip(frame.x(), frame.y(), frame.width(), kGripHeight);
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+    const QRect seen = grip & screen->availableGeometry();
+    return seen.width() >= std::min(kGripWidth, frame.width()) && seen.height() == kGripHeight;
+  });
+}
+
+// Returns the free area of the screen on which the middle of the frame lies, or of the primary screen.
+QRect FreeArea(const QRect& frame) {
+  const QScreen* screen = QGuiApplication::screenAt(frame.center());
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? frame : screen->availableGeometry();
+}
+
+QSize LeastSize(const QWidget& window) {
+  if (window.layout() != nullptr) window.layout()->activate();
+  return window.minimumSizeHint().expandedTo(window.minimumSize());
+}
+
+}  // namespace
+
+Rect VirtualScreen() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  return ToRect(screen->virtualGeometry());
+}
+
+CFramePlacement::CFramePlacement(QWidget& window) : QObject(&window), m_window(window) {
+  window.installEventFilter(this);
+}
+
+void CFramePlacement::Open(const QRect& frame, bool isMaximized) { Show(frame, isMaximized); }
+
+void CFramePlacement::OpenCentred(const QSize& frame) {
+  m_isCentred = true;
+  Show({QPoint(), frame}, false);
+}
+
+void CFramePlacement::Show(const QRect& frame, bool isMaximized) {
+  m_wanted = frame;
+  const QRect place = Target(QMargins());
+  m_askedPlace = place.topLeft();
+  m_asked = {place.size()};
+  m_window.move(place.topLeft());
+  m_window.resize(place.size());
+  if (isMaximized) {
+    m_window.showMaximized();
+  } else {
+    m_window.show();
+    m_asked.append(m_window.size());  // what the window itself made of it
+  }
+}
+
+bool CFramePlacement::HasNormalSize() const {
+  return !m_window.isMaximized() && !m_window.isMinimized() && !m_window.isFullScreen();
+}
+
+// Returns the margins of the window system. Those behind QWidget::frameGeometry() may stay wrong for as long
+// as the program runs when the window manager was slow.
+QMargins CFramePlacement::FrameMargins() const {
+  const QWindow* const handle = m_window.windowHandle();
+  return handle == nullptr ? QMargins() : handle->frameMargins();
+}
+
+// Returns where the window is to stand, with its frame.
+QRect CFramePlacement::Target(const QMargins& margins) const {
+  const QSize least = LeastSize(m_window).grownBy(margins);
+  QRect frame(m_wanted.topLeft(), m_wanted.size().expandedTo(least));
+  if (m_isCentred) {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QRect area = screen == nullptr ? frame : screen->availableGeometry();
+    frame.moveTo(area.x() + (area.width() - frame.width()) / 2,
+                 area.y() + (area.height() - frame.height()) / 2);
+  }
+  if (frame.size() != m_wanted.size() || !IsWithinReach(frame)) {
+    const Rect fitted = FitRectToScreen(ToRect(frame), ToRect(FreeArea(frame)));
+    frame = QRect(QPoint(fitted.left, fitted.top), QSize(fitted.Width(), fitted.Height()).expandedTo(least));
+  }
+  return frame;
+}
+
+bool CFramePlacement::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+      if (!m_isCorrected)
+        for (const int wait : kMarginChecks) QTimer::singleShot(wait, this, &CFramePlacement::Correct);
+      break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowActivate:
+      if (!m_isCorrected) QTimer::singleShot(0, this, &CFramePlacement::Correct);
+      break;
+    case QEvent::WindowStateChange:
+      if (HasNormalSize()) QTimer::singleShot(kReturnTime, this, &CFramePlacement::ReturnToNormal);
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+bool CFramePlacement::IsAskedPlace(const QPoint& place, const QMargins& margins) const {
+  // Some window managers take the place that was asked for the frame for that of the inside.
+  return IsNear(place, m_askedPlace) || IsNear(place, m_askedPlace + QPoint(margins.left(), margins.top()));
+}
+
+bool CFramePlacement::IsAskedWidth(int width) const {
+  return std::any_of(m_asked.begin(), m_asked.end(),
+                     [&](const QSize& size) { return IsNear(size.width(), width); });
+}
+
+bool CFramePlacement::IsAskedHeight(int height) const {
+  return std::any_of(m_asked.begin(), m_asked.end(),
+                     [&](const QSize& size) { return IsNear(size.height(), height); });
+}
+
+// Returns the frame around an inside whose width is about to change by `owed`. Before the correction it is
+// the wanted frame, as far as nobody else has changed the window.
+QRect CFramePlacement::FrameOf(const QRect& inside, const QMargins& margins, int owed) const {
+  QRect frame = inside.marginsAdded(margins);
+  frame.setWidth(frame.width() + owed);
+  if (m_isCorrected) return frame;
+  const QRect target = Target(margins);
+  if (IsAskedPlace(inside.topLeft(), margins)) frame.moveTopLeft(target.topLeft());
+  if (IsAskedWidth(inside.width())) frame.setWidth(target.width());
+  if (IsAskedHeight(inside.height())) frame.setHeight(target.height());
+  return frame;
+}
+
+// Takes the margins off once they are known. What the user has changed meanwhile stays as it is.
+void CFramePlacement::Correct() {
+  if (!m_window.isVisible() || !HasNormalSize()) return;
+  const QMargins margins = FrameMargins();
+  if (margins.isNull()) return;
+  m_margins = margins;
+  if (m_isCorrected) return;
+  const QRect frame = FrameOf(m_window.geometry(), margins, std::exchange(m_owedWidth, 0));
+  m_isCorrected = true;
+  m_window.setGeometry(frame.marginsRemoved(margins));
+}
+
+void CFramePlacement::ReturnToNormal() {
+  if (!HasNormalSize()) return;
+  Correct();
+  Resize(std::exchange(m_owedWidth, 0));
+}
+
+void CFramePlacement::Widen(int change) {
+  m_wanted.setWidth(m_wanted.width() + change);
+  if (HasNormalSize()) {
+    Resize(change);
+  } else {
+    m_owedWidth += change;
+  }
+}
+
+void CFramePlacement::Resize(int change) {
+  if (change == 0) return;
+  const QSize size(m_window.width() + change, m_window.height());
+  m_asked.append(size);
+  m_window.resize(size);
+}
+
+ClosingFrame CFramePlacement::Closing() const {
+  ClosingFrame closing;
+  closing.maximized = m_window.isMaximized();
+  closing.minimized = m_window.isMinimized();
+  closing.rect = ToRect(HasNormalSize() ? FrameOf(m_window.geometry(), FrameMargins(), 0)
+                                        : FrameOf(m_window.normalGeometry(), m_margins, m_owedWidth));
+  return closing;
+}
+
+}  // namespace orbisol

@@ -1,0 +1,77 @@
+// The place of a top-level window on the screens: opens it where it was closed, corrects that once the window
+// manager has put its frame around it, and tells where it stands when it closes.
+//
+//   CFramePlacement placement(window);                // lives as long as the window
+//   placement.Open(ToQRect(layout.rect), layout.maximized != 0);
+//   placement.Widen(-paneWidth);                      // a part of the window goes, and its room with it
+//   SavePrintWindowLayout(store, layout, placement.Closing(), VirtualScreen());
+//
+// Rectangles are in the pixels of the toolkit and hold the frame; an inside is what the frame surrounds. The
+// margins between the two are known only some time after the window was shown, and on some desktops never:
+// until then a window is as large inside as it is wanted with its frame.
+#pragma once
+
+#include <QList>
+#include <QMargins>
+#include <QObject>
+#include <QRect>
+
+#include "settings/settings_persistence.h"
+
+class QWidget;
+
+namespace orbisol {
+
+// Returns the smallest rectangle around all screens.
+Rect VirtualScreen();
+
+class CFramePlacement : public QObject {
+ public:
+  explicit CFramePlacement(QWidget& window);
+
+  // Shows the window at a stored rectangle. A rectangle that is smaller than the window can be, or that
+  // nobody could take hold of, is first made large enough and then moved into the free area of its screen.
+  void Open(const QRect& frame, bool isMaximized);
+
+  // Shows the window in the middle of the free area of the primary screen.
+  void OpenCentred(const QSize& frame);
+
+  // Makes the window wider by `change` pixels, narrower when negative. Maximized, minimized or on the full
+  // screen it keeps its size, and its normal size changes instead.
+  void Widen(int change);
+
+  // False while the window is maximized, minimized or on the full screen.
+  bool HasNormalSize() const;
+
+  // Returns the rectangle of the window, in its normal size, and its state. The fields of the pane keep their
+  // defaults.
+  ClosingFrame Closing() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  // Returns the margins between frame and inside; all 0 while they are not known. Tests have their own.
+  virtual QMargins FrameMargins() const;
+
+ private:
+  void Show(const QRect& frame, bool isMaximized);
+  QRect Target(const QMargins& margins) const;
+  bool IsAskedPlace(const QPoint& place, const QMargins& margins) const;
+  bool IsAskedWidth(int width) const;
+  bool IsAskedHeight(int height) const;
+  QRect FrameOf(const QRect& inside, const QMargins& margins, int owed) const;
+  void Correct();
+  void ReturnToNormal();
+  void Resize(int change);
+
+  QWidget& m_window;
+  QRect m_wanted;              // with the frame, as it is to stand
+  bool m_isCentred = false;    // m_wanted has a size alone
+  QPoint m_askedPlace;         // place that was asked for, of the frame
+  QList<QSize> m_asked;        // sizes that were asked for, of the inside; any of them may still arrive
+  QMargins m_margins;          // as last seen at the normal size
+  bool m_isCorrected = false;  // the margins have been taken off
+  int m_owedWidth = 0;         // change of the normal width while the window has another
+};
+
+}  // namespace orbisol
