@@ -14,8 +14,8 @@
 #include "content/selected_date.h"
 #include "files/calendar_file.h"
 #include "settings/display_settings.h"
-#include "ui/painting/month_fonts.h"
 #include "ui/month/month_window.h"
+#include "ui/painting/month_fonts.h"
 
 namespace orbisol {
 namespace {
@@ -25,7 +25,7 @@ constexpr int kMonths = 240;  // that are walked through before the walk begins 
 
 // May 2024 with the days of France, the picture and the week numbers, as the program first shows it.
 struct OurCalendar {
-  CMonthWindow window{nullptr};
+  CMonthWindow window;
 
   explicit OurCalendar(const QSize& size) {
     Selected().SetPacked(kStart);

@@ -13,12 +13,12 @@
 #include "core/civil_year.h"
 #include "core/date_text.h"
 #include "resources/command_ids.h"
-#include "ui/toolkit/geometry.h"
-#include "ui/toolkit/keys.h"
-#include "ui/toolkit/plain_text.h"
 #include "ui/header/header_part.h"
 #include "ui/header/header_wnd.h"
 #include "ui/header/year_edit.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/keys.h"
+#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 
@@ -159,7 +159,7 @@ void CHeaderWnd::keyReleaseEvent(QKeyEvent* event) {
 
 void CHeaderWnd::Changed(DateMove move) {
   Refresh();
-  if (m_host) m_host->OnHeaderDateChanged(move);
+  emit dateChanged(move);
 }
 
 }  // namespace orbisol

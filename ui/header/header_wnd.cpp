@@ -14,13 +14,13 @@
 #include "core/week_number.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/header/header_part.h"
+#include "ui/header/year_edit.h"
+#include "ui/painting/month_fonts.h"
+#include "ui/painting/month_texts.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/header/header_part.h"
-#include "ui/painting/month_fonts.h"
-#include "ui/painting/month_texts.h"
-#include "ui/header/year_edit.h"
 
 namespace orbisol {
 namespace {
@@ -31,7 +31,7 @@ constexpr int kBandGap = 12;  // pixels kept free between two texts of a band
 
 }  // namespace
 
-CHeaderWnd::CHeaderWnd(HeaderHost* host, QWidget* parent) : QWidget(parent), m_host(host) {
+CHeaderWnd::CHeaderWnd(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(TablePiece(kTextHeaderNames, kNameHeader));

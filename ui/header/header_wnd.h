@@ -1,8 +1,9 @@
 // The header above the month: month and year of the selected date between two arrows, its long form and its
 // place in the civil year below, the eras of years before the first above.
 //
-//   CHeaderWnd header(host, parent);
-//   Selected() = …;     // somebody else moved the date:
+//   CHeaderWnd header(parent);
+//   connect(&header, &CHeaderWnd::dateChanged, …);
+//   Selected() = …;     // the date was moved elsewhere:
 //   header.Refresh();
 //
 // A click on an arrow steps by a month, with Ctrl by a year, with Shift by ten, with both by a hundred; the
@@ -22,19 +23,11 @@ namespace orbisol {
 class CHeaderPart;
 class CYearEdit;
 
-struct HeaderHost {
-  virtual ~HeaderHost() = default;
-
-  // The selected date was changed by the user's hand, in the header.
-  virtual void OnHeaderDateChanged(DateMove move) = 0;
-};
-
 class CHeaderWnd : public QWidget {
   Q_OBJECT
 
  public:
-  // The host outlives the window.
-  explicit CHeaderWnd(HeaderHost* host, QWidget* parent = nullptr);
+  explicit CHeaderWnd(QWidget* parent = nullptr);
 
   // The selected date, the colors, the font or the calendar rules were changed elsewhere. While the year is
   // being typed its box is left alone.
@@ -52,6 +45,10 @@ class CHeaderWnd : public QWidget {
   QString EraText() const;    // top right; empty from year 1 on
   // Empty where civil years begin on 1 January.
   QString CivilYearText() const;
+
+ signals:
+  // The selected date was changed here, by the user's hand.
+  void dateChanged(DateMove move);
 
  protected:
   bool event(QEvent* event) override;
@@ -82,7 +79,6 @@ class CHeaderWnd : public QWidget {
   QString TipAt(QPoint position, QRect* area) const;
   void UpdateNames();
 
-  HeaderHost* m_host;
   HeaderLayout m_layout;
   bool m_hasSize = false;  // one was given to it; until then nothing is laid out
   QFont m_titleFont;

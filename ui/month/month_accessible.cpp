@@ -3,14 +3,14 @@
 #include <utility>
 
 #include "content/selected_date.h"
+#include "content/tip_text.h"
 #include "core/civil_year.h"
 #include "core/date_text.h"
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/painting/month_texts.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/painting/month_texts.h"
-#include "content/tip_text.h"
 
 namespace orbisol {
 namespace {

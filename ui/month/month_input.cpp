@@ -5,28 +5,19 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include <algorithm>
-#include <cstdlib>
-#include <utility>
-
+#include "content/selected_date.h"
+#include "content/tip_text.h"
 #include "core/republican.h"
+#include "ui/month/month_accessible.h"
+#include "ui/month/month_window.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/month/month_accessible.h"
-#include "content/selected_date.h"
-#include "ui/month/month_window.h"
-#include "content/tip_text.h"
 
 namespace orbisol {
 namespace {
-
-constexpr int kWheelStep = 120;                // eighths of a degree, a notch of an ordinary wheel
-constexpr int kMostTurned = 100 * kWheelStep;  // in one event; more is no wheel
-constexpr quint64 kWheelPause = 1000;          // milliseconds after which a turn begins anew
 
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
@@ -44,9 +35,9 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
     OpenRangeOrDay();
     return;
   }
-  if (key == Qt::Key_Escape && m_isRangeActive) {
+  if (key == Qt::Key_Escape && HasRange()) {
     CancelRange();
-    m_isDragging = false;
+    m_range.Release();
     return;
   }
   // Alt belongs to the frame's own keys.
@@ -54,17 +45,18 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     return;
   }
-  const bool extends = IsArrow(key) && (modifiers & Qt::ShiftModifier) && m_isRangeAllowed;
+  const bool extends = IsArrow(key) && (modifiers & Qt::ShiftModifier);
   const Date before = Selected();
-  const bool hadRange = m_isRangeActive;
-  if (extends) BeginRange();
+  const bool hadRange = HasRange();
+  if (extends) m_range.Begin(before);
   if (!MoveByKey(key, modifiers)) {
     event->ignore();
     return;
   }
   ClampToBounds(Selected());
-  if (hadRange && !extends && !m_isDragging) CancelRange();
-  Moved(before, IsStep(key) ? DateMove::kStep : DateMove::kLeap);
+  if (hadRange && !extends && !m_range.IsDragging()) CancelRange();
+  ShowMove(before);
+  emit dateMoved(IsStep(key) ? DateMove::kStep : DateMove::kLeap);
 }
 
 // False for a key that moves nothing, as letters with Ctrl, which belong to the frame.
@@ -130,28 +122,13 @@ void CMonthWindow::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void CMonthWindow::wheelEvent(QWheelEvent* event) {
-  const int turned = std::clamp(event->angleDelta().y(), -kMostTurned, kMostTurned);
-  const int aside = std::clamp(event->angleDelta().x(), -kMostTurned, kMostTurned);
-  const bool byYear = event->modifiers() & Qt::ControlModifier;
-  const quint64 pause = event->timestamp() - std::exchange(m_wheelTime, event->timestamp());
-  if (event->phase() == Qt::ScrollBegin || pause > kWheelPause || byYear != m_isWheelByYear) m_wheelRest = 0;
-  m_isWheelByYear = byYear;
-  if (turned == 0 || std::abs(aside) > std::abs(turned)) {
-    event->ignore();
-    return;
-  }
-  event->accept();
-  // A turn the other way begins anew.
-  if ((turned < 0) != (m_wheelRest < 0)) m_wheelRest = 0;
-  m_wheelRest += turned;
-  const int steps = m_wheelRest / kWheelStep;
+  const int steps = m_wheel.Take(*event);
   if (steps == 0) return;
-  m_wheelRest %= kWheelStep;
-
   const Date before = Selected();
-  if (!m_isDragging) CancelRange();
-  StepMonthsOrYears(Selected(), -steps, byYear ? 1 : 0);
-  Moved(before, DateMove::kStep);
+  if (!m_range.IsDragging()) CancelRange();
+  StepMonthsOrYears(Selected(), -steps, event->modifiers() & Qt::ControlModifier ? 1 : 0);
+  ShowMove(before);
+  emit dateMoved(DateMove::kStep);
 }
 
 void CMonthWindow::mousePressEvent(QMouseEvent* event) {
@@ -161,11 +138,8 @@ void CMonthWindow::mousePressEvent(QMouseEvent* event) {
   }
   setFocus(Qt::MouseFocusReason);
   CancelRange();
-  m_isPressed = true;
   const int cell = CellAt(Cut(event->position()));
-  m_isDragging = cell != kNoCell;
-  m_pointedAt = cell;
-  m_waitsIn = kNoCell;
+  m_range.Press(cell);
   if (cell != kNoCell) SelectCell(cell, event->modifiers() & Qt::ControlModifier);
 }
 
@@ -173,7 +147,9 @@ void CMonthWindow::SelectCell(int cell, bool byYear) {
   CancelRange();
   if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return;
   const Date before = Selected();
-  Moved(before, TakeCell(cell, byYear));
+  const DateMove move = TakeCell(cell, byYear);
+  ShowMove(before);
+  emit dateMoved(move);
 }
 
 // Selects a cell's day. `byYear` turns a day of a neighboring month into a step of a year.
@@ -190,31 +166,28 @@ DateMove CMonthWindow::TakeCell(int cell, bool byYear) {
 }
 
 void CMonthWindow::mouseMoveEvent(QMouseEvent* event) {
-  if (!m_isDragging || !(event->buttons() & Qt::LeftButton)) return;
+  if (!m_range.IsDragging() || !(event->buttons() & Qt::LeftButton)) return;
   const QPoint point = Cut(event->position());
-  m_pointedAt = Places().CellAt(point.x(), point.y());
-  if (m_waitsIn != kNoCell && m_pointedAt == m_waitsIn) return;
-  m_waitsIn = kNoCell;
+  if (!m_range.Enters(Places().CellAt(point.x(), point.y()))) return;
   const int cell = CellAt(point);
   if (cell == kNoCell) return;
-  const bool begins = m_isRangeAllowed && BeginRange();
   const Date before = Selected();
+  const bool begins = m_range.Begin(before);
   TakeCell(cell, false);
   if (!begins && before.SameDay(Selected())) return;
-  update();
-  Moved(before, DateMove::kStep, kAtOnce);
+  ShowMove(before);
+  emit dateDragged();
   if (before.month != Selected().month || before.year != Selected().year) PullPointer();
 }
 
 void CMonthWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !std::exchange(m_isPressed, false)) return;
+  if (event->button() != Qt::LeftButton || !m_range.Release()) return;
   const int cell = SelectedCell();
   const QPoint point = Cut(event->position());
   if (cell != kNoCell && !Places().CellRect(cell).Contains(point.x(), point.y())) PullPointer();
-  if (!std::exchange(m_isDragging, false) || m_anchor == 0) return;
-  const Date anchor(m_anchor);
+  const PackedDate anchor = m_range.Anchor();
   CancelRange();
-  OpenRange(anchor);
+  if (anchor != 0) OpenRange(anchor);
 }
 
 void CMonthWindow::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -223,47 +196,37 @@ void CMonthWindow::mouseDoubleClickEvent(QMouseEvent* event) {
     return;
   }
   CancelRange();
-  m_isDragging = false;
+  m_range.Release();
   const int cell = CellAt(Cut(event->position()));
-  if (cell == kNoCell || m_host == nullptr) return;
+  if (cell == kNoCell) return;
   UpdateCell(SelectedCell());
   if (Month().cells[static_cast<std::size_t>(cell)].month == Selected().month)
-    m_host->OpenEventsEditor(Date(Selected()));
+    emit dayOpened(Date(Selected()));
 }
 
-// The range selected with keys, else the selected day. While an editor is open the selected date can move: it
-// gets one of its own.
+// Opens the range selected with keys, else the selected day. While an editor is open the selected date can
+// move, so the editor gets a date of its own.
 void CMonthWindow::OpenRangeOrDay() {
-  const PackedDate anchor = m_anchor;
+  const PackedDate anchor = m_range.Anchor();
   CancelRange();
-  if (anchor != 0 && !Date(anchor).SameDay(Selected())) {
-    OpenRange(Date(anchor));
-  } else if (m_host != nullptr) {
-    m_host->OpenEventsEditor(Date(Selected()));
+  if (anchor != 0 && anchor != Selected().Packed()) {
+    OpenRange(anchor);
+  } else {
+    emit dayOpened(Date(Selected()));
   }
 }
 
-// From the anchor to the selected date, or back; nothing for a single day.
-void CMonthWindow::OpenRange(const Date& anchor) {
+// Opens the range between the anchor and the selected date; a single day is none.
+void CMonthWindow::OpenRange(PackedDate anchor) {
   const Date selected = Selected();
-  if (m_host == nullptr || anchor.SameDay(selected)) return;
-  const bool isForward = anchor.DayNumber() <= selected.DayNumber();
-  const QPointer<CMonthWindow> alive(this);
-  m_host->OpenPeriodEditor(isForward ? anchor : selected, isForward ? selected : anchor);
-  if (alive) update();
-}
-
-// True when a range begins at the selected date, false when one is under way.
-bool CMonthWindow::BeginRange() {
-  if (m_anchor != 0) return false;
-  m_anchor = Selected().Packed();
-  m_isRangeActive = true;
-  return true;
+  const Date other(anchor);
+  if (other.SameDay(selected)) return;
+  const bool isForward = other.DayNumber() <= selected.DayNumber();
+  emit periodChosen(isForward ? other : selected, isForward ? selected : other);
 }
 
 void CMonthWindow::CancelRange() {
-  m_anchor = 0;
-  if (!std::exchange(m_isRangeActive, false)) return;
+  if (m_range.End() == 0) return;
   update();
   TellReader(*this, MonthNews::kSelection);
 }

@@ -6,12 +6,11 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <utility>
 
 #include "core/platform.h"
-#include "ui/toolkit/geometry.h"
 #include "ui/month/month_accessible.h"
 #include "ui/painting/month_pictures.h"
+#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 namespace {
@@ -24,8 +23,7 @@ PackedDate TodayPacked() {
 
 }  // namespace
 
-CMonthWindow::CMonthWindow(MonthHost* host, QWidget* parent)
-    : QWidget(parent), m_host(host), m_shown(Selected()) {
+CMonthWindow::CMonthWindow(QWidget* parent) : QWidget(parent), m_shown(Selected()) {
   InstallMonthAccessible();
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
@@ -34,28 +32,20 @@ CMonthWindow::CMonthWindow(MonthHost* host, QWidget* parent)
 }
 
 void CMonthWindow::Refresh() {
-  if (!m_isDragging && !m_shown.SameDay(Selected())) CancelRange();
+  if (m_shown.SameDay(Selected())) return;
+  if (!m_range.IsDragging()) CancelRange();
   m_shown = Selected();
-  m_builtFor = 0;
   update();
-  TellReader(*this, MonthNews::kTexts);
+  TellReader(*this, MonthNews::kSelection);
 }
 
 void CMonthWindow::SettingsChanged() {
   m_painter.SetBackground(LoadBackground(Display()));
   LayOut();
+  m_builtFor = 0;
   Refresh();
-}
-
-void CMonthWindow::SetSelectionVisible(bool isVisible) {
-  m_isSelectionVisible = isVisible;
   update();
-}
-
-void CMonthWindow::SetStretchedOutput(bool isStretched) {
-  m_isStretched = isStretched;
-  if (!isStretched) LayOut();
-  update();
+  TellReader(*this, MonthNews::kTexts);
 }
 
 const MonthModel& CMonthWindow::Month() {
@@ -81,7 +71,7 @@ int CMonthWindow::CellAt(QPoint position) {
 
 bool CMonthWindow::IsSelected(int cell) {
   const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
-  if (m_isRangeActive) return Marks().IsInRange(day);
+  if (HasRange()) return Marks().IsInRange(day);
   return day.day != 0 && cell == SelectedCell();
 }
 
@@ -101,7 +91,6 @@ bool CMonthWindow::event(QEvent* event) {
 }
 
 void CMonthWindow::paintEvent(QPaintEvent* event) {
-  if (m_isStretched && !m_isCanvasPainted) LayOut();  // There is no picture to stretch yet.
   QPainter painter(this);
   // The device pixels that are this window's. At a fractional ratio it may begin in the middle of one, and
   // then takes one more or less than its size alone would say.
@@ -110,20 +99,14 @@ void CMonthWindow::paintEvent(QPaintEvent* event) {
   const QPoint begin(qRound(exact.left()), qRound(exact.top()));
   const QSize pixels(qRound(exact.right()) - begin.x(), qRound(exact.bottom()) - begin.y());
   const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == ratio;
-  if (!fits && !(m_isStretched && m_isCanvasPainted)) {
+  if (!fits) {
     // A new size, or the window came to a screen of another resolution.
     m_canvas = QImage(pixels, QImage::Format_RGB32);
     m_canvas.setDevicePixelRatio(ratio);
     m_isCanvasPainted = false;
   }
-  if (!m_isStretched || !m_isCanvasPainted) RenderCanvas(m_isCanvasPainted ? event->region() : QRegion());
-
-  if (m_isStretched) {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect(), m_canvas);
-  } else {
-    painter.drawImage((begin - exact.topLeft()) / ratio, m_canvas);
-  }
+  RenderCanvas(m_isCanvasPainted ? event->region() : QRegion());
+  painter.drawImage((begin - exact.topLeft()) / ratio, m_canvas);
 }
 
 // An empty region stands for the whole canvas.
@@ -140,20 +123,17 @@ MonthMarks CMonthWindow::Marks() {
   MonthMarks marks;
   marks.month = selected.month;
   marks.day = selected.day;
-  marks.isVisible = m_isSelectionVisible;
   marks.today = m_today;
-  if (m_isRangeActive) {
+  if (HasRange()) {
     marks.hasRange = true;
-    const int anchor = Date(m_anchor).DayNumber();
+    const int anchor = Date(m_range.Anchor()).DayNumber();
     marks.firstDayNumber = std::min(anchor, selected.DayNumber());
     marks.lastDayNumber = std::max(anchor, selected.DayNumber());
   }
   return marks;
 }
 
-void CMonthWindow::resizeEvent(QResizeEvent*) {
-  if (!m_isStretched) LayOut();
-}
+void CMonthWindow::resizeEvent(QResizeEvent*) { LayOut(); }
 
 void CMonthWindow::showEvent(QShowEvent*) { CheckToday(); }
 
@@ -182,12 +162,12 @@ void CMonthWindow::UpdateCell(int cell) {
   if (cell != kNoCell) update(ToQRect(Places().DirtyRect(cell)));
 }
 
-// The selected date was `before` until a hand of this window changed it.
-void CMonthWindow::Moved(const Date& before, DateMove move, Report report) {
+// Shows that a hand of this window moved the selected date, which was `before`.
+void CMonthWindow::ShowMove(const Date& before) {
   const Date& selected = Selected();
   const bool isOtherMonth = before.year != selected.year || before.month != selected.month;
-  if (isOtherMonth && m_isDragging) m_waitsIn = m_pointedAt;
-  if (isOtherMonth || m_isRangeActive) {
+  if (isOtherMonth) m_range.MonthChanged();
+  if (isOtherMonth || HasRange()) {
     update();
   } else {
     UpdateCell(Month().CellOf(before.month, before.day));
@@ -195,20 +175,6 @@ void CMonthWindow::Moved(const Date& before, DateMove move, Report report) {
   }
   m_shown = selected;
   TellReader(*this, MonthNews::kSelection);
-  if (m_host == nullptr) return;
-  if (report == kAtOnce) {
-    m_host->OnMonthDateChanged(move);
-    return;
-  }
-  if (!m_isReportPending || move == DateMove::kLeap) m_pendingMove = move;
-  if (!std::exchange(m_isReportPending, true))
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          m_isReportPending = false;
-          m_host->OnMonthDateChanged(m_pendingMove);
-        },
-        Qt::QueuedConnection);
 }
 
 // Underlines another day when the date has changed.

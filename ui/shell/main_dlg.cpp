@@ -26,20 +26,30 @@ CMainDlg::CMainDlg(bool isPaneShown, QWidget* parent)
     : QWidget(parent),
       m_isPaneShown(isPaneShown),
       m_group(new CCalendarGroup(TableText(kTextGregorianGroup), this)),
-      m_header(new CHeaderWnd(this, this)),
-      m_month(new CMonthWindow(this, this)),
+      m_header(new CHeaderWnd(this)),
+      m_month(new CMonthWindow(this)),
       m_separator(new QWidget(this)),
       m_pane(new CConverterPane(this)) {
   m_separator->setAutoFillBackground(true);
   setAutoFillBackground(true);
   m_pane->setVisible(isPaneShown);
   m_separator->setVisible(isPaneShown);
-  connect(m_pane, &CConverterPane::dateChanged, this, [this] { Refresh(true); });
-  connect(m_pane, &CConverterPane::focusGivenUp, this, &CMainDlg::FocusMonth);
   ApplyColors();
   Measure();
   setFocusProxy(m_month);
+
+  connect(m_header, &CHeaderWnd::dateChanged, this, &CMainDlg::Refresh);
+  // Each move is noted when it is made; showing it everywhere can wait until the keyboard has been heard.
+  connect(m_month, &CMonthWindow::dateMoved, this, &CMainDlg::Visit);
+  connect(m_month, &CMonthWindow::dateMoved, this, &CMainDlg::Refresh, Qt::QueuedConnection);
+  connect(m_month, &CMonthWindow::dateDragged, this, [this] { Refresh(DateMove::kStep); });
+  connect(m_month, &CMonthWindow::periodChosen, this, &CMainDlg::periodChosen);
+  connect(m_month, &CMonthWindow::dayOpened, this, &CMainDlg::dayOpened);
+  connect(m_pane, &CConverterPane::dateChanged, this, [this] { Refresh(); });
+  connect(m_pane, &CConverterPane::focusGivenUp, this, &CMainDlg::FocusMonth);
 }
+
+void CMainDlg::Visit(DateMove move) { m_history.Visit(Selected().Packed(), move); }
 
 void CMainDlg::ApplyColors() {
   const QColor ground = ToQColor(Display().ColorAt(kColorBgCal));
@@ -111,9 +121,9 @@ QString CMainDlg::Description() {
       .replace(QLatin1Char('\n'), QLatin1String(" | "));
 }
 
-void CMainDlg::Refresh(bool withMonth, DateMove move) {
-  m_history.Visit(Selected().Packed(), move);
-  if (withMonth) m_month->Refresh();
+void CMainDlg::Refresh(DateMove move) {
+  Visit(move);
+  m_month->Refresh();
   m_header->Refresh();
   m_pane->Refresh();
   emit dateShown(Description());
@@ -125,29 +135,21 @@ void CMainDlg::SettingsChanged() {
   m_pane->SettingsChanged();
   Measure();
   LayOut();
-  Refresh(true);
+  Refresh();
   update();
 }
-
-void CMainDlg::OnMonthDateChanged(DateMove move) { Refresh(false, move); }
-
-void CMainDlg::OnHeaderDateChanged(DateMove move) { Refresh(true, move); }
-
-void CMainDlg::OpenPeriodEditor(const Date& from, const Date& to) { emit periodChosen(from, to); }
-
-void CMainDlg::OpenEventsEditor(const Date& date) { emit dayOpened(date); }
 
 void CMainDlg::GoBack() {
   if (const PackedDate date = m_history.Back()) {
     Selected().SetPacked(date);
-    Refresh(true);
+    Refresh();
   }
 }
 
 void CMainDlg::GoForward() {
   if (const PackedDate date = m_history.Forward()) {
     Selected().SetPacked(date);
-    Refresh(true);
+    Refresh();
   }
 }
 

@@ -3,7 +3,7 @@
 //
 //   CMainDlg dialog(isPaneShown, parent);
 //   Selected() = …;
-//   dialog.Refresh(true);
+//   dialog.Refresh();
 #pragma once
 
 #include <QWidget>
@@ -11,7 +11,6 @@
 #include "content/date_history.h"
 #include "ui/converter/converter_pane.h"
 #include "ui/header/header_wnd.h"
-#include "ui/month/month_host.h"
 #include "ui/month/month_window.h"
 #include "ui/shell/main_layout.h"
 
@@ -19,15 +18,15 @@ namespace orbisol {
 
 class CCalendarGroup;
 
-class CMainDlg : public QWidget, private MonthHost, private HeaderHost {
+class CMainDlg : public QWidget {
   Q_OBJECT
 
  public:
   explicit CMainDlg(bool isPaneShown, QWidget* parent = nullptr);
 
-  // Shows the selected date everywhere, the month included when it was changed outside of it. `move` says
-  // how it was changed; a date that is the same counts for nothing.
-  void Refresh(bool withMonth, DateMove move = DateMove::kLeap);
+  // Shows the selected date everywhere. `move` says how it was changed; a date that is the same counts for
+  // nothing.
+  void Refresh(DateMove move = DateMove::kLeap);
   // Colors, fonts, switches, calendar rules or the content were changed.
   void SettingsChanged();
   // The desktop's colors were changed.
@@ -64,11 +63,7 @@ class CMainDlg : public QWidget, private MonthHost, private HeaderHost {
   void changeEvent(QEvent* event) override;
 
  private:
-  void OnMonthDateChanged(DateMove move) override;
-  void OpenPeriodEditor(const Date& from, const Date& to) override;
-  void OpenEventsEditor(const Date& date) override;
-  void OnHeaderDateChanged(DateMove move) override;
-
+  void Visit(DateMove move);
   void LayOut();
   void Measure();
   void ApplyColors();

@@ -157,7 +157,7 @@ TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderAndUnderTheRulesInForc
   Click(Keep());
   for (const auto& row : kOrders) {
     Selected().dateOrder = row.order;
-    Dialog().Refresh(false);
+    Dialog().Refresh();
     EXPECT_EQ(Kept()->text(), QLatin1String(row.text));
   }
   Rules().firstDayOfYear[0] = {20000301, true};

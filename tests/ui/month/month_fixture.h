@@ -15,8 +15,8 @@
 #include "settings/display_settings.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
-#include "ui/toolkit/geometry.h"
 #include "ui/month/month_window.h"
+#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 
@@ -41,19 +41,7 @@ class SelectedDateTest : public ::testing::Test {
 
 using Ranges = std::vector<std::pair<PackedDate, PackedDate>>;
 
-struct SpyHost : MonthHost {
-  int changes = 0;
-  std::vector<PackedDate> opened;  // days
-  Ranges openedRanges;
-
-  void OnMonthDateChanged(DateMove) override { ++changes; }
-  void OpenPeriodEditor(const Date& from, const Date& to) override {
-    openedRanges.emplace_back(from.Packed(), to.Packed());
-  }
-  void OpenEventsEditor(const Date& date) override { opened.push_back(date.Packed()); }
-};
-
-// A month window with a host that writes down what it hears. The 1st is a holiday in a vacation.
+// A month window, and what its signals said. The 1st is a holiday in a vacation.
 class MonthWindowTest : public SelectedDateTest {
  protected:
   MonthWindowTest() {
@@ -68,7 +56,14 @@ class MonthWindowTest : public SelectedDateTest {
     HolidayPeriod vacation{20240429, 20240501, {}};
     vacation.title.Set(u"Vacances");
     Content() = {{holiday}, {vacation}};
-    window = std::make_unique<CMonthWindow>(&host);
+    window = std::make_unique<CMonthWindow>();
+    QObject::connect(window.get(), &CMonthWindow::dateMoved, window.get(), [this] { ++moves; });
+    QObject::connect(window.get(), &CMonthWindow::dateDragged, window.get(), [this] { ++drags; });
+    QObject::connect(window.get(), &CMonthWindow::dayOpened, window.get(),
+                     [this](const Date& date) { opened.push_back(date.Packed()); });
+    QObject::connect(
+        window.get(), &CMonthWindow::periodChosen, window.get(),
+        [this](const Date& from, const Date& to) { openedRanges.emplace_back(from.Packed(), to.Packed()); });
     window->resize(700, 420);
     window->show();
     window->activateWindow();
@@ -100,7 +95,10 @@ class MonthWindowTest : public SelectedDateTest {
   // Inside of the cell of a day that is in view.
   QPoint At(int month, int day) { return CellOf(month, day).center(); }
 
-  SpyHost host;
+  int moves = 0;
+  int drags = 0;
+  std::vector<PackedDate> opened;  // days
+  Ranges openedRanges;
   std::unique_ptr<CMonthWindow> window;
 };
 

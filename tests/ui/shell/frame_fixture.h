@@ -65,7 +65,7 @@ class FrameTest : public ::testing::Test {
   // As if it had been changed in a view.
   void Show(PackedDate date) {
     Select(date);
-    Dialog().Refresh(true);
+    Dialog().Refresh();
   }
 
   // A control of the pane by its class and its text without "&".

@@ -57,6 +57,7 @@ TEST_F(FrameTest, DatesAreCopiedAsTheyAreShownAlsoFromTheHiddenPane) {
 TEST_F(FrameTest, TheStatusBarDescribesTheDay) {
   Open();
   Content().dayEvents = {EveryYear(5, 23, u"<b>Fête</b> & Cie")};
+  Dialog().SettingsChanged();
   Show(20240523);  // a full moon too
   EXPECT_EQ(frame->StatusText(), QString::fromUtf8("<b>Fête</b> & Cie | (Pleine lune)"));
   Show(20240521);
