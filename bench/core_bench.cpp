@@ -248,7 +248,7 @@ constexpr int kMonth = 31;
 void MonthOfPhases_Orbisol(benchmark::State& state) {
   MoonPhase phases[kMonth];
   Each(state, DayNumbers(), [&phases](int day) {
-    MoonPhasesOfDays(day, kMonth, phases);
+    MoonPhasesOfDays(day, phases);
     return static_cast<int>(phases[0]);
   });
 }

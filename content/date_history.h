@@ -12,8 +12,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "core/packed_date.h"
 #include "content/selected_date.h"
+#include "core/packed_date.h"
 
 namespace orbisol {
 

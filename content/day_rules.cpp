@@ -152,7 +152,7 @@ void ForEachMatch(std::span<const DayEvent> events, std::span<const RuleDay> day
   }
 }
 
-int MarkOf(const DayEvent& event) { return event.isPublic ? kPublicMark : kEventMark; }
+unsigned MarkOf(const DayEvent& event) { return event.isPublic ? kHolidayMark : kEventMark; }
 
 // A text longer than will be kept takes no more names; CutJoined then ends it.
 void Join(std::u16string& names, const DayEvent& event) {
@@ -171,9 +171,10 @@ RuleDay RuleDayOf(const Date& date) {
   return {date.Packed(), date.year, date.month, date.day, weekday == 0 ? 7 : weekday, dayNumber};
 }
 
-int MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names, int nameMask) {
+unsigned MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names,
+                        unsigned nameMask) {
   const RuleDay day = RuleDayOf(Date(ymd));
-  int bits = 0;
+  unsigned bits = 0;
   if (names != nullptr) names->clear();
   ForEachMatch(events, {&day, 1}, [&](std::size_t, const DayEvent& event) {
     bits |= MarkOf(event);

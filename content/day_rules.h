@@ -1,7 +1,7 @@
 // Which rules fall on a day, and their names.
 //
 //   std::u16string names;
-//   if (MatchDayEvents(Content().dayEvents, 20240501, &names, kPublicMark) & kPublicMark) …
+//   if (MatchDayEvents(Content().dayEvents, 20240501, &names, kHolidayMark) & kHolidayMark) …
 //   // names is "Fête du Travail"
 #pragma once
 
@@ -9,23 +9,22 @@
 #include <string>
 
 #include "content/day_event.h"
+#include "content/day_marks.h"
 #include "core/date.h"
 
 namespace orbisol {
-
-constexpr int kPublicMark = 1;  // a legal holiday
-constexpr int kEventMark = 2;   // any other rule
 
 constexpr std::size_t kMaxJoinedUnits = 260;  // of joined names, in UTF-16 units
 
 // The bits of all rules that fall on a day, 0 for none. When `names` is given it is set to the names of those
 // rules whose bit is in `nameMask`, in list order, joined by " + ". Easter rules match no day before 326.
 // On purpose: a holiday shifted past the end of its month falls on no day, and none moves away from another.
-int MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names, int nameMask);
+unsigned MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names,
+                        unsigned nameMask);
 
 // The same in one pass for both kinds of names.
 struct DayMatch {
-  int bits = 0;
+  unsigned bits = 0;
   std::u16string publicNames;
   std::u16string eventNames;
 };

@@ -6,7 +6,6 @@
 
 #include "content/day_rules.h"
 #include "content/selected_date.h"
-#include "core/moon.h"
 #include "core/week_number.h"
 
 namespace orbisol {
@@ -76,8 +75,8 @@ void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cell
   for (const HolidayPeriod& period : periods) {
     if (period.ymdTo < lowest || period.ymdFrom > highest) continue;
     for (DayCell& cell : cells) {
-      if ((cell.marks & kVacationCell) != 0 || !period.Holds(cell.ymd)) continue;
-      cell.marks |= kVacationCell;
+      if ((cell.marks & kVacationMark) != 0 || !period.Holds(cell.ymd)) continue;
+      cell.marks |= kVacationMark;
       if (titles == Titles::kShown) cell.vacationTitle = period.title.View();
     }
   }
@@ -88,11 +87,11 @@ void MarkRules(std::span<const DayEvent> events, std::span<const RuleDay> days, 
   std::array<DayMatch, kMaxDays> matches;
   MatchDaysOfMonth(events, days, std::span(matches).first(days.size()));
   for (std::size_t i = 0; i < days.size(); ++i) {
-    if ((matches[i].bits & kPublicMark) != 0) {
-      cells[i].marks |= kHolidayCell;
+    if ((matches[i].bits & kHolidayMark) != 0) {
+      cells[i].marks |= kHolidayMark;
       cells[i].holidayText = std::move(matches[i].publicNames);
     } else if (matches[i].bits != 0) {
-      cells[i].marks |= kEventCell;
+      cells[i].marks |= kEventMark;
       cells[i].eventText = std::move(matches[i].eventNames);
     }
   }
@@ -103,7 +102,7 @@ void MarkMoon(std::span<const RuleDay> days, std::span<DayCell> cells) {
   for (std::size_t first = 0; first < days.size();) {
     std::size_t end = first + 1;
     while (end < days.size() && days[end].dayNumber - std::int64_t{days[end - 1].dayNumber} == 1) ++end;
-    MoonPhasesOfDays(days[first].dayNumber, static_cast<int>(end - first), phases.data());
+    MoonPhasesOfDays(days[first].dayNumber, std::span(phases).first(end - first));
     for (std::size_t i = first; i < end; ++i) cells[i].moonPhase = phases[i - first];
     first = end;
   }
@@ -117,13 +116,13 @@ Color At(const std::array<Color, kColorCount>& colors, ColorIndex index) {
 void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     ColorIndex text = kStandardTextColor;
-    if ((cell.marks & kVacationCell) != 0) text = kVacationText;
-    if ((cell.marks & kEventCell) != 0) text = kEventText;
-    if ((cell.marks & kHolidayCell) != 0) text = kHolidayText;
+    if ((cell.marks & kVacationMark) != 0) text = kVacationText;
+    if ((cell.marks & kEventMark) != 0) text = kEventText;
+    if ((cell.marks & kHolidayMark) != 0) text = kHolidayText;
     ColorIndex back = kStandardBgColor;
-    if ((cell.marks & kEventCell) != 0) back = kEventBack;
-    if ((cell.marks & kHolidayCell) != 0) back = kHolidayBack;
-    if ((cell.marks & kVacationCell) != 0) back = kVacationBack;
+    if ((cell.marks & kEventMark) != 0) back = kEventBack;
+    if ((cell.marks & kHolidayMark) != 0) back = kHolidayBack;
+    if ((cell.marks & kVacationMark) != 0) back = kVacationBack;
     cell.textColor = At(colors, text);
     cell.backColor = At(colors, back);
   }
@@ -132,7 +131,7 @@ void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& c
 void ColorNeighbors(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     cell.textColor = At(colors, kGrayTextColor);
-    cell.backColor = At(colors, (cell.marks & kVacationCell) != 0 ? kVacationBack : kStandardBgColor);
+    cell.backColor = At(colors, (cell.marks & kVacationMark) != 0 ? kVacationBack : kStandardBgColor);
   }
 }
 

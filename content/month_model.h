@@ -16,15 +16,13 @@
 
 #include "content/calendar_content.h"
 #include "content/calendar_look.h"
+#include "content/day_marks.h"
+#include "core/moon.h"
 
 namespace orbisol {
 
 constexpr int kCellCount = 45;
 constexpr int kNoCell = -1;
-
-constexpr unsigned kHolidayCell = 1;  // bits of DayCell::marks
-constexpr unsigned kEventCell = 2;
-constexpr unsigned kVacationCell = 4;
 
 struct DayCell {
   int day = 0;      // of the month; 0 in an empty cell
@@ -32,8 +30,8 @@ struct DayCell {
   int week = 0;     // 1..53
   int month = 0;    // of the cell's own date, also in cells of the neighboring months
   PackedDate ymd = 0;
-  int moonPhase = 0;  // MoonPhase
-  unsigned marks = 0;
+  MoonPhase moonPhase = kNoPhase;
+  unsigned marks = 0;  // day_marks.h
   Color backColor = 0;
   Color textColor = 0;
   std::u16string vacationTitle;

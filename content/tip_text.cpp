@@ -1,8 +1,6 @@
 #include "content/tip_text.h"
 
 #include "core/date_text.h"
-#include "core/moon.h"
-#include "resources/strings.h"
 
 namespace orbisol {
 
@@ -17,7 +15,7 @@ std::u16string TipText(const DayCell& cell, bool eventsOnly) {
   }
   if (cell.moonPhase != kNoPhase) {
     text += u"\n(";
-    text += StringText(kTextNewMoon + cell.moonPhase - kNewMoon);
+    text += MoonPhaseName(cell.moonPhase);
     text += u')';
   }
   if (!text.empty() && text.front() == u'\n') text.erase(0, 1);

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "resources/strings.h"
+
 namespace orbisol {
 namespace {
 
@@ -179,24 +181,29 @@ bool IsPhaseDay(double t, int angle, int phase) {
 
 MoonPhase MoonPhaseOfDay(const Date& date) {
   MoonPhase phase = kNoPhase;
-  MoonPhasesOfDays(date.DayNumber(), 1, &phase);
+  MoonPhasesOfDays(date.DayNumber(), {&phase, 1});
   return phase;
 }
 
-void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases) {
+void MoonPhasesOfDays(int firstDayNumber, std::span<MoonPhase> phases) {
   CNoonElongations noons;
-  for (int i = 0; i < count; ++i) {
+  for (std::size_t i = 0; i < phases.size(); ++i) {
     phases[i] = kNoPhase;
-    const std::int64_t dayNumber = std::int64_t{firstDayNumber} + i;
+    const std::int64_t dayNumber = firstDayNumber + static_cast<std::int64_t>(i);
     if (IsFarFromPhases(MoonTimeOfNoon(dayNumber))) continue;
     const int angle = noons.At(dayNumber);
     const Candidate candidate = CandidateOf(angle);
     if (candidate.phase != kNoPhase &&
         IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), candidate.angle)) {
       phases[i] = candidate.phase;
-      for (int next = 1; next < kLeastGap && i + 1 < count; ++next) phases[++i] = kNoPhase;
+      for (int next = 1; next < kLeastGap && i + 1 < phases.size(); ++next) phases[++i] = kNoPhase;
     }
   }
+}
+
+std::u16string_view MoonPhaseName(MoonPhase phase) {
+  if (phase == kNoPhase) return {};
+  return StringText(kTextNewMoon + static_cast<int>(phase) - static_cast<int>(kNewMoon));
 }
 
 }  // namespace orbisol

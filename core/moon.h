@@ -8,6 +8,9 @@
 //   MoonPhaseOfDay(Date(20240125));  // kFullMoon
 #pragma once
 
+#include <span>
+#include <string_view>
+
 #include "core/date.h"
 
 namespace orbisol {
@@ -29,8 +32,11 @@ bool IsPhaseDay(double t, int angle, int phase);
 
 MoonPhase MoonPhaseOfDay(const Date& date);
 
-// The phases of `count` days from one on, by the same rule, in a third of the time or less; exact on every
-// day from -3999 to 3999.
-void MoonPhasesOfDays(int firstDayNumber, int count, MoonPhase* phases);
+// Sets the phases of consecutive days, the first of which is given, by the same rule in a third of the time
+// or less. The same as MoonPhaseOfDay on every day from -3999 to 3999.
+void MoonPhasesOfDays(int firstDayNumber, std::span<MoonPhase> phases);
+
+// Returns "Nouvelle lune" and the like; empty for kNoPhase.
+std::u16string_view MoonPhaseName(MoonPhase phase);
 
 }  // namespace orbisol

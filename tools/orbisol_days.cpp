@@ -54,7 +54,7 @@ void PrintDays(const CalendarContent& content, int firstYear, int lastYear, Mark
   for (int n = Date(firstYear, 1, 1).DayNumber(); n <= last; ++n) {
     const PackedDate ymd = DateOfDayNumber(n).Packed();
     const DayMatch match = MatchDay(content.dayEvents, ymd);
-    if ((match.bits & kPublicMark) != 0) PrintDay(ymd, match.publicNames);
+    if ((match.bits & kHolidayMark) != 0) PrintDay(ymd, match.publicNames);
     if (marks == Marks::kPublic) continue;
     if ((match.bits & kEventMark) != 0) PrintDay(ymd, match.eventNames);
     if (const HolidayPeriod* period = PeriodOfDay(content.holidays, ymd)) PrintDay(ymd, period->title.View());

@@ -82,8 +82,8 @@ TEST(DayRulesTest, HolidaysFallOnTheirKnownDays) {
     SCOPED_TRACE(row.what);
     for (const bool iso8601 : {true, false}) {  // how weeks are shown never moves a holiday
       const ScopedRules inForce(RulesWith(row.reform, {.iso8601 = iso8601}));
-      EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd).bits, kPublicMark);
-      EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd - 1).bits, 0);
+      EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd).bits, kHolidayMark);
+      EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd - 1).bits, 0U);
     }
   }
 }
@@ -102,9 +102,9 @@ TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {
   EXPECT_EQ(match.publicNames + u"|" + match.eventNames, u"Victoire 1945|Anniversaire + Rendez-vous");
   EXPECT_EQ(MatchDay(events, 20240509).publicNames, longest + u" + bc");
   std::u16string names;
-  EXPECT_EQ(MatchDayEvents(events, 20240508, &names, kPublicMark | kEventMark), kPublicMark | kEventMark);
+  EXPECT_EQ(MatchDayEvents(events, 20240508, &names, kHolidayMark | kEventMark), kHolidayMark | kEventMark);
   EXPECT_EQ(names, u"Anniversaire + Victoire 1945 + Rendez-vous");
-  EXPECT_EQ(MatchDayEvents(events, 20240509, &names, kEventMark), kPublicMark);
+  EXPECT_EQ(MatchDayEvents(events, 20240509, &names, kEventMark), kHolidayMark);
   EXPECT_EQ(names, u"");
 }
 
@@ -181,9 +181,9 @@ TEST(DayRulesTest, AnyRuleFallsOnTheDaysOfItsDefinition) {
       for (std::size_t i = 0; i < days.size(); ++i) {
         int expected = 0;
         for (const DayEvent& event : events)
-          if (PlainlyFallsOn(event, days[i].ymd)) expected |= event.isPublic ? kPublicMark : kEventMark;
+          if (PlainlyFallsOn(event, days[i].ymd)) expected |= event.isPublic ? kHolidayMark : kEventMark;
         ASSERT_EQ(matches[i].bits, expected) << days[i].ymd << " under " << reform << ", round " << round;
-        ASSERT_EQ(matches[i].publicNames.empty(), (expected & kPublicMark) == 0) << "nothing is left over";
+        ASSERT_EQ(matches[i].publicNames.empty(), (expected & kHolidayMark) == 0) << "nothing is left over";
         ASSERT_EQ(MatchDayEvents(events, days[i].ymd, nullptr, 0), expected) << days[i].ymd;
       }
     }

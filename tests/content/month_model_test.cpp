@@ -52,8 +52,8 @@ DayCell JudgedCell(PackedDate ymd, bool own, int week, const CalendarContent& co
   const Date date(ymd);
   const HolidayPeriod* const period = PeriodOfDay(content.holidays, ymd);
   const DayMatch match = own ? MatchDay(content.dayEvents, ymd) : DayMatch();
-  const unsigned ofRules = match.bits == kEventMark ? kEventCell : match.bits != 0 ? kHolidayCell : 0;
-  const unsigned marks = ofRules | (period != nullptr ? kVacationCell : 0);
+  const unsigned ofRules = match.bits == kEventMark ? kEventMark : match.bits != 0 ? kHolidayMark : 0;
+  const unsigned marks = ofRules | (period != nullptr ? kVacationMark : 0);
   return {.day = date.day,
           .weekday = WeekdayOfDayNumber(date.DayNumber()),
           .week = week,
@@ -65,7 +65,7 @@ DayCell JudgedCell(PackedDate ymd, bool own, int week, const CalendarContent& co
           .textColor = own ? kColorsOf[marks][0] : Color{kGrayTextColor},
           .vacationTitle = std::u16string(own && period != nullptr ? period->title.View() : u""),
           .holidayText = match.publicNames,
-          .eventText = ofRules == kEventCell ? match.eventNames : u""};
+          .eventText = ofRules == kEventMark ? match.eventNames : u""};
 }
 
 // What the reform left of a month, whose length is asked from the first day left.

@@ -12,7 +12,7 @@ namespace {
 TEST(MoonTest, EveryDayHasThePhaseOfTheJudge) {
   constexpr int kFirstDay = 260424;  // 1 January -3999
   std::vector<MoonPhase> phases(3182030 - kFirstDay);
-  MoonPhasesOfDays(kFirstDay, static_cast<int>(phases.size()), phases.data());
+  MoonPhasesOfDays(kFirstDay, phases);
   int n = kFirstDay;
   for (const MoonPhase phase : phases) {
     ASSERT_TRUE(phase == plain::MoonPhaseOfDayNumber(n)) << n;

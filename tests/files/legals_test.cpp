@@ -48,7 +48,7 @@ TEST(LegalsTest, PublicDaysAgreeWithAnIndependentList) {
       if (row[0] == list) expected.assign(row.begin() + 1, row.end());
     ASSERT_GT(expected.size(), 400u);
     std::vector<std::string> marked;
-    for (const auto& [ymd, name] : MarkedDays(file, kPublicMark, 2000, 2040))
+    for (const auto& [ymd, name] : MarkedDays(file, kHolidayMark, 2000, 2040))
       marked.push_back(std::to_string(ymd));
     EXPECT_EQ(marked, expected);
   }
@@ -59,7 +59,7 @@ TEST(LegalsTest, NoHolidayIsOlderThanItsLaw) {
                                              {1923, 9},  {1948, 10}, {1953, 11}, {1958, 11}, {1959, 10},
                                              {1965, 11}, {1966, 10}, {1981, 10}, {1982, 11}};
   for (const auto& [year, days] : counts)
-    EXPECT_EQ(MarkedDays("France.xml", kPublicMark, year, year).size(), days) << year;
+    EXPECT_EQ(MarkedDays("France.xml", kHolidayMark, year, year).size(), days) << year;
 }
 
 // It gives way to Whit Sunday.

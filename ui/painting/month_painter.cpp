@@ -8,11 +8,11 @@
 #include <cmath>
 
 #include "resources/strings.h"
+#include "ui/painting/month_pictures.h"
+#include "ui/painting/month_texts.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/painting/month_pictures.h"
-#include "ui/painting/month_texts.h"
 
 namespace orbisol {
 namespace {
@@ -183,7 +183,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
     painter.fillRect(number.x(), number.y() + number.height() - descent + std::max(1, descent / 4),
                      number.width(), thickness, ink);
   }
-  if (day.moonPhase != kNoPhase) PaintMoon(painter, cell, static_cast<MoonPhase>(day.moonPhase));
+  if (day.moonPhase != kNoPhase) PaintMoon(painter, cell, day.moonPhase);
 }
 
 void CMonthPainter::PaintFill(QPainter& painter, const DayCell& day, int cell) const {

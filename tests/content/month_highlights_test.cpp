@@ -1,0 +1,54 @@
+#include "content/month_highlights.h"
+
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "tests/content/rule_builder.h"
+#include "tests/support/rules.h"
+
+namespace orbisol {
+namespace {
+
+const CalendarContent kContent{
+    {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"Fête du Travail"}),
+     Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 1, .name = u"muguet"}),
+     Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 7, .name = u"Léa"}),
+     Rule(kFixedDate, {.month = 6, .day = 1, .to = 20240601, .name = u"juin"})},
+    {Period(20240427, 20240502, u"Pâques"), Period(20240507, 20240508, u"pont"), Period(20240509, 20240510),
+     Period(20240511, 20240512, u"pont")}};
+
+TEST(MonthHighlightsTest, TextsStandByDateAndKindAndTheMoonLast) {
+  MonthModel model;
+  model.year = 2024;
+  model.month = 5;
+  model.Build(kContent, CalendarLook().colors, MonthModel::kWithMoon);
+  std::string list;
+  for (const Highlight& highlight : HighlightsOf(model))
+    list += std::to_string(highlight.date % 100) + "-" + std::to_string(highlight.lastDate % 100) + " " +
+            std::to_string(static_cast<int>(highlight.kind)) + " " + ToUtf8(highlight.text) + "\n";
+  EXPECT_EQ(list,
+            "1-1 0 Fête du Travail\n1-2 2 Pâques\n7-7 1 Léa\n7-8 2 pont\n11-12 2 pont\n"
+            "1-1 3 Dernier quartier de lune\n8-8 3 Nouvelle lune\n15-15 3 Premier quartier de lune\n"
+            "23-23 3 Pleine lune\n30-30 3 Dernier quartier de lune\n");
+}
+
+TEST(MonthHighlightsTest, TheNextPublicHolidayLiesAtMost400DaysAhead) {
+  constexpr std::pair<PackedDate, PackedDate> kRows[] = {
+      {20240430, 20240501}, {20240501, 20240601}, {20240601, 20250501}, {20230502, 20230601},
+      {39990501, 39990601}, {39990602, 0},        {15821004, 15830501},
+  };
+  std::vector<DayEvent> rules = kContent.dayEvents;
+  rules[3].ymdTo = kAlwaysTo;
+  for (const auto& [after, next] : kRows) {
+    const std::optional<Highlight> found =
+        NextPublicHoliday(after == 20240601 ? kContent.dayEvents : rules, Date(after));
+    EXPECT_EQ(found ? found->date : 0, next) << after;
+    EXPECT_TRUE(!found || found->text == (next % 10000 == 501 ? u"Fête du Travail" : u"juin")) << after;
+  }
+  rules = {Rule(kFixedDate, {.month = 2, .day = 29, .name = u"bissextile"})};
+  EXPECT_FALSE(NextPublicHoliday(rules, Date(20230124)).has_value()) << "401 days ahead";
+  EXPECT_TRUE(NextPublicHoliday(rules, Date(20230125)).has_value());
+}
+
+}  // namespace
+}  // namespace orbisol
