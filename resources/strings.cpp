@@ -128,6 +128,11 @@ constexpr Entry kStrings[] = {
      u"Des options avancées se contredisent. Voulez-vous les corriger ?|"
      u"Les réglages de recto verso se contredisent. Voulez-vous les corriger ?|"
      u"Les options « Pages par feuille » et « Jeu de pages » ne vont pas ensemble.|Disque|Dossier"},
+    {kTextDateFaults,
+     u"Écrivez la date en entier, sous la forme %date%.|Ce n'est pas une date. Écrivez-la sous la forme "
+     u"%date%.|Les mois vont de 1 à 12.|Cette date n'existe pas : %s %d n'a pas de jour %d.|"
+     u"Cette date n'existe pas : le %s est suivi du %s.|Les années vont de -3999 à 3999."},
+    {kTextDateEdit, u"Choisir dans un calendrier (Alt+Bas)|Calendrier"},
     {kTextPictureFaults,
      u"Ce fichier n'existe pas ou ne peut pas être lu.|Ce n'est pas un fichier, ou il est vide.|"
      u"Ce n'est pas une image TIFF, JPEG, PNG, GIF ou BMP.|Cette image est trop grande.|"

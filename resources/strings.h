@@ -55,6 +55,8 @@ enum TextId : int {
   kTextOpenAnyway = 5127,      // the button of that question
   kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
+  kTextDateFaults = 5150,     // why a text is no date, in the order of DateFault, kNone left out
+  kTextDateEdit = 5151,       // of a date field: the button, and what its drop-down is
   kTextPictureFaults = 5160,  // why a file is no picture, in the order of PictureFault, kNone left out
 };
 

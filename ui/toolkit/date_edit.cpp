@@ -1,0 +1,228 @@
+#include "ui/toolkit/date_edit.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+#include <QToolButton>
+
+#include <algorithm>
+#include <utility>
+
+#include "content/selected_date.h"
+#include "core/date.h"
+#include "core/date_text.h"
+#include "resources/strings.h"
+#include "ui/toolkit/date_drop_down.h"
+#include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/typed_date.h"
+
+namespace orbisol {
+namespace {
+
+constexpr int kMonthsAYear = 12;
+constexpr int kButtons = 2;  // the warning sign and the button of the drop-down
+
+int UserOrder() { return orbisol::Date(0).dateOrder; }
+
+QIcon ArrowIcon(const QWidget& widget) {
+  const int side = widget.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &widget);
+  const qreal scale = widget.devicePixelRatioF();
+  QPixmap pixmap(QSize(side, side) * scale);
+  pixmap.setDevicePixelRatio(scale);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  QStyleOption option;
+  option.initFrom(&widget);
+  option.rect = QRect(side / 4, side / 4, side / 2, side / 2);
+  widget.style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, &widget);
+  return {pixmap};
+}
+
+}  // namespace
+
+CDateEdit::CDateEdit(QWidget* parent)
+    : QLineEdit(parent),
+      m_mark(addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition)),
+      m_open(addAction(ArrowIcon(*this), QLineEdit::TrailingPosition)) {
+  m_mark->setVisible(false);
+  m_open->setToolTip(TablePiece(kTextDateEdit, 0));
+  m_open->setText(TablePiece(kTextDateEdit, 0));
+  for (QToolButton* const button : findChildren<QToolButton*>())
+    button->setAccessibleName(button->defaultAction() == m_open ? m_open->text() : QString());
+  setPlaceholderText(ToQString(DatePattern(UserOrder())));
+  connect(m_open, &QAction::triggered, this, &CDateEdit::OpenDropDown);
+  connect(m_mark, &QAction::triggered, this, [this] { setFocus(); });
+  connect(this, &QLineEdit::textEdited, this, &CDateEdit::ReadText);
+  connect(this, &QLineEdit::returnPressed, this, &CDateEdit::ShowDate);
+  ReadText();
+}
+
+void CDateEdit::SetNoneText(const QString& text) {
+  const bool wasNone = m_date == 0 && IsValid();
+  m_noneText = text;
+  if (wasNone || this->text().isEmpty()) SetDate(0);
+}
+
+void CDateEdit::SetDate(PackedDate ymd) {
+  setText(TextOf(ymd));
+  ReadText();
+  m_isUnfinished = m_isUnfinished && ymd == 0;
+  ShowMark();
+}
+
+QString CDateEdit::TextOf(PackedDate ymd) const {
+  return ymd == 0 ? m_noneText : ToQString(FieldDate(ymd, UserOrder()));
+}
+
+// The only reader of what was typed.
+void CDateEdit::ReadText() {
+  const QString typed = text().trimmed();
+  if (!m_noneText.isEmpty() && (typed.isEmpty() || typed.compare(m_noneText, Qt::CaseInsensitive) == 0)) {
+    m_isUnfinished = false;
+    Take(0, {});
+    return;
+  }
+  const TypedDate date = ReadTypedDate(Units(typed), UserOrder());
+  const bool isBeginningOfNone = m_noneText.startsWith(typed, Qt::CaseInsensitive);
+  m_isUnfinished = date.fault == DateFault::kIncomplete || isBeginningOfNone;
+  Take(date.ymd, ToQString(DateFaultText(date, UserOrder())));
+}
+
+void CDateEdit::Take(PackedDate ymd, const QString& error) {
+  const bool wasValid = IsValid();
+  m_error = error;
+  ShowMark();
+  if (error.isEmpty() && std::exchange(m_date, ymd) != ymd) emit dateChanged(ymd);
+  if (wasValid != IsValid()) emit validityChanged(IsValid());
+}
+
+// A sign beside the text and a description, so that neither colors nor eyes are needed to notice it.
+void CDateEdit::ShowMark() {
+  const bool isMarked = !m_error.isEmpty() && !(m_isUnfinished && (hasFocus() || text().isEmpty()));
+  m_mark->setVisible(isMarked);
+  m_mark->setToolTip(TipMarkup(m_error));
+  setToolTip(isMarked ? TipMarkup(m_error) : QString());
+  setAccessibleDescription(isMarked ? m_error : ToQString(DatePattern(UserOrder())));
+}
+
+// Writes a valid date as the field shows it, whatever way it was typed.
+void CDateEdit::ShowDate() {
+  m_isUnfinished = false;
+  if (IsValid()) setText(TextOf(m_date));
+  ShowMark();
+}
+
+CDateEdit::Part CDateEdit::PartAtCursor() const {
+  const QString before = text().left(cursorPosition());
+  int place = 0;  // of the number at the cursor
+  bool isDigit = false;
+  for (const QChar unit : before) {
+    if (isDigit && !unit.isDigit()) ++place;
+    isDigit = unit.isDigit();
+  }
+  constexpr Part kOrders[][3] = {{Part::kMonth, Part::kDay, Part::kYear},
+                                 {Part::kDay, Part::kMonth, Part::kYear},
+                                 {Part::kYear, Part::kMonth, Part::kDay}};
+  return kOrders[std::clamp(UserOrder(), 0, 2)][std::clamp(place, 0, 2)];
+}
+
+// The text is the field's own here, with one "/" between two parts.
+void CDateEdit::SelectPart(Part part) {
+  qsizetype begin = 0;
+  for (;;) {
+    const qsizetype slash = text().indexOf(QLatin1Char('/'), begin);
+    const qsizetype end = slash < 0 ? text().size() : slash;
+    setCursorPosition(static_cast<int>(end));
+    if (slash < 0 || PartAtCursor() == part) {
+      setSelection(static_cast<int>(begin), static_cast<int>(end - begin));
+      return;
+    }
+    begin = slash + 1;
+  }
+}
+
+void CDateEdit::Step(Part part, int steps) {
+  if (isReadOnly() || !IsValid()) return;
+  if (m_date == 0) {
+    SetDate(orbisol::Date::Today().Packed());
+    SelectPart(part);
+    return;
+  }
+  orbisol::Date date(m_date);
+  if (part == Part::kDay) {
+    date.AddDays(steps);
+  } else {
+    date.AddMonths(part == Part::kMonth ? steps : steps * kMonthsAYear);
+  }
+  ClampToBounds(date);
+  // A month may lead to a date that the reform removed; the day that it counts as exists.
+  if (!DoesDateExist({date.year, date.month, date.day})) date.SetDayNumber(date.DayNumber());
+  SetDate(date.Packed());
+  SelectPart(part);
+}
+
+void CDateEdit::keyPressEvent(QKeyEvent* event) {
+  const bool isAlt = event->modifiers().testFlag(Qt::AltModifier);
+  const bool isControl = event->modifiers().testFlag(Qt::ControlModifier);
+  switch (event->key()) {
+    case Qt::Key_F4:
+      OpenDropDown();
+      return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (isAlt) {
+        OpenDropDown();
+      } else {
+        Step(PartAtCursor(), event->key() == Qt::Key_Up ? 1 : -1);
+      }
+      return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      Step(isControl ? Part::kYear : Part::kMonth, event->key() == Qt::Key_PageDown ? 1 : -1);
+      return;
+    default:
+      QLineEdit::keyPressEvent(event);
+  }
+}
+
+void CDateEdit::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() != Qt::PopupFocusReason) ShowDate();
+}
+
+void CDateEdit::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+    m_open->setIcon(ArrowIcon(*this));
+  if (event->type() == QEvent::ReadOnlyChange) m_open->setEnabled(!isReadOnly());
+}
+
+void CDateEdit::OpenDropDown() {
+  if (isReadOnly() || !isEnabled()) return;
+  if (m_dropDown == nullptr) {
+    m_dropDown = new CDateDropDown(this);
+    connect(m_dropDown, &CDateDropDown::dateChosen, this, [this](PackedDate ymd) {
+      SetDate(ymd);
+      setFocus(Qt::PopupFocusReason);
+      selectAll();
+    });
+  }
+  m_dropDown->Open(m_date, m_noneText);
+}
+
+// Wide enough for the widest date, or the text of no date, with both buttons.
+QSize CDateEdit::sizeHint() const {
+  const QFontMetrics metrics = fontMetrics();
+  const int widest = std::max(metrics.horizontalAdvance(QStringLiteral("00/00/-00000")),
+                              metrics.horizontalAdvance(m_noneText));
+  const int button = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) * 3 / 2;
+  QSize size = QLineEdit::sizeHint();
+  size.setWidth(widest + kButtons * button + metrics.averageCharWidth());
+  return size;
+}
+
+QSize CDateEdit::minimumSizeHint() const { return sizeHint(); }
+
+}  // namespace orbisol

@@ -1,0 +1,84 @@
+// An edit field for one date, typed and shown in the user's order: "14/07/1789".
+//
+//   auto* const from = new CDateEdit;
+//   from->SetNoneText(u"toujours");            // no date is an answer too
+//   from->SetDate(17890714);
+//   connect(from, &CDateEdit::dateChanged, this, [this](PackedDate ymd) { … });
+//   if (!from->IsValid()) warn(from->Error());
+//
+// Dates lie within -3999-01-01 … 3999-12-31 and exist under the rules in force. A text that is none is kept
+// as it was typed, with a warning sign beside it whose tip gives the reason; the reason is the field's
+// accessible description as well. A date that is merely unfinished is not marked before the field loses the
+// focus.
+//
+// Keys: Up and Down step the day, month or year at the cursor, Page Up and Page Down the month, with Ctrl the
+// year; Alt+Down or F4 opens a calendar below the field.
+#pragma once
+
+#include <QLineEdit>
+
+#include "core/packed_date.h"
+
+class QAction;
+
+namespace orbisol {
+
+class CDateDropDown;
+
+class CDateEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit CDateEdit(QWidget* parent = nullptr);
+
+  // Allows the state without a date, shown as `text`; an empty text forbids it, which is the default.
+  void SetNoneText(const QString& text);
+
+  // Shows a date, or none for 0. A date that does not exist is shown and marked. Emits dateChanged() when it
+  // differs from Date().
+  void SetDate(PackedDate ymd);
+
+  // The last valid date, 0 for none. While IsValid() is false the text says something else.
+  PackedDate Date() const { return m_date; }
+  bool IsValid() const { return m_error.isEmpty(); }
+  // Returns why the text is no date, in French; empty where it is one.
+  QString Error() const { return m_error; }
+
+  // Opens the calendar below the field; without effect while the field is read only.
+  void OpenDropDown();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  void dateChanged(
+      orbisol::PackedDate ymd);  // to another valid date, also while it is being typed; 0 for none
+  void validityChanged(bool isValid);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  enum class Part { kDay, kMonth, kYear };
+
+  void ReadText();
+  void Take(PackedDate ymd, const QString& error);
+  void ShowDate();
+  void ShowMark();
+  void Step(Part part, int steps);
+  Part PartAtCursor() const;
+  void SelectPart(Part part);
+  QString TextOf(PackedDate ymd) const;
+
+  PackedDate m_date = 0;
+  QString m_noneText;
+  QString m_error;
+  bool m_isUnfinished = false;  // the error is only that something is still to be typed
+  QAction* m_mark;
+  QAction* m_open;
+  CDateDropDown* m_dropDown = nullptr;  // made when first needed
+};
+
+}  // namespace orbisol
