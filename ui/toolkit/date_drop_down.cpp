@@ -150,7 +150,7 @@ void CDateDropDown::ShowMonth() {
   m_month = MonthModel();
   m_month.year = marked.year;
   m_month.month = marked.month;
-  m_month.Build(CalendarContent(), DisplaySettings().colors, MonthModel::kWithoutMoon);
+  m_month.Build(CalendarContent(), CalendarLook().colors, MonthModel::kWithoutMoon);
 
   const QString title = ToQString(UpperFirst(MonthName(marked.month)));
   m_title->setText(title + QLatin1Char(' ') + QString::number(marked.year));

@@ -13,6 +13,7 @@
 #include <QFrame>
 
 #include "content/month_model.h"
+#include "core/date.h"
 
 class QLabel;
 class QPushButton;
