@@ -1,0 +1,39 @@
+#include "tools/screenshot/pictures.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPixmap>
+#include <QWidget>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+namespace orbisol {
+
+void CPictureFolder::Save(QWidget& window, const QString& name, QWidget* popup) {
+  const qreal ratio = window.devicePixelRatioF();
+  QPixmap picture = window.grab();
+  if (popup != nullptr) {
+    const QRect below(popup->mapToGlobal(QPoint()) - window.mapToGlobal(QPoint()), popup->size());
+    QPixmap both((window.rect() | below).size() * ratio);
+    both.setDevicePixelRatio(ratio);
+    both.fill(Qt::lightGray);
+    QPainter painter(&both);
+    painter.drawPixmap(0, 0, picture);
+    painter.drawPixmap(below.topLeft(), popup->grab());
+    painter.end();
+    picture = both;
+  }
+  const QString path = QStringLiteral("%1/%2@%3.png").arg(m_path, name).arg(ratio, 0, 'g', 3);
+  if (picture.save(path)) return;
+  ++m_failures;
+  std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+}
+
+std::string FileOfFrance() {
+  std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace orbisol

@@ -1,0 +1,37 @@
+// Where pictures of the program go, and which sets of them there are. Each set is a file of its own; a new
+// set needs its function here and a row in screenshots.cpp.
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+class QWidget;
+
+namespace orbisol {
+
+// A folder of PNG files. Scale and font stand in their names: "about@1.25.png".
+class CPictureFolder {
+ public:
+  explicit CPictureFolder(const QString& path) : m_path(path) {}
+
+  // Saves a window as it is painted; with `popup`, what hangs below it as well. A picture that cannot be
+  // written is named on the error output and counted.
+  void Save(QWidget& window, const QString& name, QWidget* popup = nullptr);
+
+  int Failures() const { return m_failures; }
+
+ private:
+  QString m_path;
+  int m_failures = 0;
+};
+
+// The bytes of the shipped calendar of France.
+std::string FileOfFrance();
+
+void TakeFirstWindow(CPictureFolder& folder);  // as a newcomer sees it on the screen of this run
+void TakeMainWindow(CPictureFolder& folder);
+void TakeMonths(CPictureFolder& folder);  // the month alone, in what the settings can make of it
+void TakeFields(CPictureFolder& folder);  // the fields that dialogs share
+
+}  // namespace orbisol
