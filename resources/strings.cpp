@@ -34,6 +34,9 @@ constexpr Entry kStrings[] = {
     {kCmdTogglePane, u"Afficher le volet droit\nAfficher le volet droit"},
     {kCmdEditEvents, u"Définir les jours fériés et les événements personnels\nSaisir les événements"},
     {kCmdPreferences, u"Définir les préférences de dates et d'affichage\nPropriétés"},
+    {kTextPictureFilter,
+     u"Toutes les images supportées (*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp)|"
+     u"*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp|"},
     {kTextEras, u"%d AUC | %d av. JC"},
     {kTextNewMoon, u"Nouvelle lune"},
     {282, u"Premier quartier de lune"},
@@ -56,6 +59,7 @@ constexpr Entry kStrings[] = {
     {302, u"et-unième"},
     {303, u"siècle"},
     {304, u"siècle avant notre ère"},
+    {kTextOpenPicture, u"Ouvrir le fichier image"},
     {309, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
     {kCmdAbout, u"Afficher la version du programme\nÀ propos"},
     {kTextFrenchMonths,
@@ -137,6 +141,7 @@ constexpr Entry kStrings[] = {
      u"Ce fichier n'existe pas ou ne peut pas être lu.|Ce n'est pas un fichier, ou il est vide.|"
      u"Ce n'est pas une image TIFF, JPEG, PNG, GIF ou BMP.|Cette image est trop grande.|"
      u"Cette image est endommagée."},
+    {kTextPictureChooser, u"Chemin de l'image|Parcourir...|Image choisie|Image fournie avec le programme"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},

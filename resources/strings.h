@@ -11,9 +11,11 @@ namespace orbisol {
 enum TextId : int {
   kTextPrevious = 131,  // tips of the header's arrows
   kTextNext = 132,
-  kTextEras = 280,     // of a year before the first
-  kTextNewMoon = 281,  // the other phases follow
+  kTextPictureFilter = 279,  // of a file dialog: caption, patterns
+  kTextEras = 280,           // of a year before the first
+  kTextNewMoon = 281,        // the other phases follow
   kTextWeek = 295,
+  kTextOpenPicture = 305,    // title of the file dialog
   kTextColorCaptions = 297,  // one for each color, in the order of ColorTable()
 
   kTextFrenchMonths = 5001,
@@ -55,9 +57,10 @@ enum TextId : int {
   kTextOpenAnyway = 5127,      // the button of that question
   kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
-  kTextDateFaults = 5150,     // why a text is no date, in the order of DateFault, kNone left out
-  kTextDateEdit = 5151,       // of a date field: the button, and what its drop-down is
-  kTextPictureFaults = 5160,  // why a file is no picture, in the order of PictureFault, kNone left out
+  kTextDateFaults = 5150,      // why a text is no date, in the order of DateFault, kNone left out
+  kTextDateEdit = 5151,        // of a date field: the button, and what its drop-down is
+  kTextPictureFaults = 5160,   // why a file is no picture, in the order of PictureFault, kNone left out
+  kTextPictureChooser = 5161,  // accessible names of path and picture, the button, the empty path
 };
 
 // Empty for a number that the table does not hold.

@@ -8,6 +8,7 @@
 #include "tools/screenshot/pictures.h"
 #include "ui/toolkit/date_drop_down.h"
 #include "ui/toolkit/date_edit.h"
+#include "ui/toolkit/picture_chooser.h"
 
 namespace orbisol {
 namespace {
@@ -52,11 +53,27 @@ void SaveDateEdit(CPictureFolder& folder, const FieldPicture& picture) {
   folder.Save(dialog, QString::fromLatin1(picture.name), date->findChild<CDateDropDown*>());
 }
 
+void SavePictureChooser(CPictureFolder& folder) {
+  QDialog dialog;
+  auto* const form = new QFormLayout(&dialog);
+  auto* const picture = new CPictureChooser;
+  auto* const missing = new CPictureChooser;
+  picture->SetPath(QStringLiteral(ORBISOL_SOURCE_DIR "/docs/main-window.png"));
+  missing->SetPath(QStringLiteral("/media/photos/vacances.jpg"));
+  form->addRow(QStringLiteral("&Image :"), picture);
+  form->addRow(QStringLiteral("&Autre :"), missing);
+  form->addRow(QStringLiteral("&Sans :"), new CPictureChooser);
+  dialog.show();
+  QApplication::processEvents();
+  folder.Save(dialog, QStringLiteral("picture_chooser"));
+}
+
 }  // namespace
 
 void TakeFields(CPictureFolder& folder) {
   ResetCalendarConfig();
   for (const FieldPicture& picture : kFieldPictures) SaveDateEdit(folder, picture);
+  SavePictureChooser(folder);
 }
 
 }  // namespace orbisol

@@ -44,8 +44,8 @@ QIcon ArrowIcon(const QWidget& widget) {
 
 CDateEdit::CDateEdit(QWidget* parent)
     : QLineEdit(parent),
-      m_mark(addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition)),
-      m_open(addAction(ArrowIcon(*this), QLineEdit::TrailingPosition)) {
+      m_open(addAction(ArrowIcon(*this), QLineEdit::TrailingPosition)),
+      m_mark(addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition)) {
   m_mark->setVisible(false);
   m_open->setToolTip(TablePiece(kTextDateEdit, 0));
   m_open->setText(TablePiece(kTextDateEdit, 0));

@@ -76,8 +76,8 @@ class CDateEdit : public QLineEdit {
   QString m_noneText;
   QString m_error;
   bool m_isUnfinished = false;  // the error is only that something is still to be typed
-  QAction* m_mark;
   QAction* m_open;
+  QAction* m_mark;
   CDateDropDown* m_dropDown = nullptr;  // made when first needed
 };
 

@@ -92,7 +92,7 @@ class DateEditTest : public testing::Test {
     QApplication::processEvents();
   }
   bool IsMarked() const {
-    const auto* const sign = edit.findChildren<QToolButton*>().front();
+    const auto* const sign = edit.findChildren<QToolButton*>().back();
     return sign->isVisibleTo(&edit) && edit.accessibleDescription() == edit.Error();
   }
   void Type(const char* text) {

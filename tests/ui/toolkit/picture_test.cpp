@@ -1,13 +1,23 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 #include <sys/stat.h>
 
+#include "resources/strings.h"
+#include "ui/toolkit/picture_chooser.h"
 #include "ui/toolkit/picture_reader.h"
+#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
@@ -61,6 +71,52 @@ TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
     EXPECT_EQ(ReadPicture(path, {9, 9}).fault, PictureFault::kNoFile) << qPrintable(path);
   EXPECT_EQ(ReadPicture(base + QLatin1String("none.png"), {9, 9}).fault, PictureFault::kNotFound);
   EXPECT_EQ(ReadPicture(QString(), {9, 9}).fault, PictureFault::kNotFound);
+}
+
+// The file dialog itself is asked which files it offers: a filter that the toolkit does not understand offers
+// none or all.
+TEST(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown) {
+  const QTemporaryDir folder;
+  const QByteArray png = Encoded({400, 100}, "png");
+  for (const char* name : {"a.png", "b.PNG", "c.Jpeg", "d.txt", "e.svg"}) {
+    QFile file(folder.filePath(QLatin1String(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QLatin1String(name) == QLatin1String("d.txt") ? "text" : png);
+  }
+  CPictureChooser chooser;
+  QSignalSpy changes(&chooser, &CPictureChooser::pathChanged);
+  auto* const edit = chooser.findChild<QLineEdit*>();
+  auto* const picture = chooser.findChild<QLabel*>();
+  chooser.show();
+  edit->setFocus();
+  QTest::keyClicks(edit, folder.filePath(QStringLiteral("d.txt")));
+  QTest::keyClick(edit, Qt::Key_Return);
+  EXPECT_FALSE(chooser.IsValid());
+  EXPECT_EQ(picture->text(), PictureFaultText(PictureFault::kNoPicture));
+  EXPECT_EQ(edit->accessibleDescription(), picture->text());
+  EXPECT_EQ(chooser.Path(), folder.filePath(QStringLiteral("d.txt")));
+
+  QString shownFilter;
+  QStringList offered;
+  QTimer::singleShot(0, &chooser, [&] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    shownFilter = dialog->nameFilters().front();
+    const QString patterns = shownFilter.mid(shownFilter.lastIndexOf(QLatin1Char('(')) + 1).chopped(1);
+    offered =
+        QDir(folder.path()).entryList(patterns.split(QLatin1Char(' ')), QDir::Files | QDir::CaseSensitive);
+    dialog->selectFile(QStringLiteral("b.PNG"));
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  chooser.Browse();
+  EXPECT_TRUE(shownFilter.startsWith(
+      ToQString(u"Toutes les images supportées (*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp) (")));
+  EXPECT_EQ(offered,
+            QStringList({QStringLiteral("a.png"), QStringLiteral("b.PNG"), QStringLiteral("c.Jpeg")}));
+  EXPECT_EQ(changes.size(), 2);
+  EXPECT_EQ(chooser.Path(), folder.filePath(QStringLiteral("b.PNG")));
+  EXPECT_TRUE(chooser.IsValid());
+  EXPECT_FALSE(picture->pixmap().isNull());
 }
 
 }  // namespace
