@@ -17,6 +17,7 @@
 namespace orbisol {
 namespace {
 
+constexpr int kPathLetters = 40;
 constexpr int kPictureLines = 5;  // height of the small picture, in lines of text
 
 enum ChooserText { kPathName, kBrowse, kPictureName, kNoPicture };  // pieces of kTextPictureChooser
@@ -50,6 +51,8 @@ CPictureChooser::CPictureChooser(QWidget* parent)
       m_picture(new QLabel) {
   m_edit->setAccessibleName(TablePiece(kTextPictureChooser, kPathName));
   m_edit->setPlaceholderText(TablePiece(kTextPictureChooser, kNoPicture));
+  m_edit->setMinimumWidth(kPathLetters * fontMetrics().averageCharWidth());
+  m_browse->setAutoDefault(false);  // Enter in the path is not meant for it
   m_picture->setTextFormat(Qt::PlainText);
   m_picture->setWordWrap(true);
   m_picture->setAlignment(Qt::AlignLeft | Qt::AlignTop);
