@@ -26,8 +26,8 @@ const CalendarContent& France() {
 }
 
 const std::array<Color, kColorCount>& Colors() {
-  static const DisplaySettings settings;
-  return settings.colors;
+  static const CalendarLook look;
+  return look.colors;
 }
 
 // One item is one month.

@@ -1,4 +1,4 @@
-// The copy that is made of a file before something of it is lost.
+// The backup that is made of a file before something of it is lost.
 #pragma once
 
 #include <string_view>
@@ -7,8 +7,8 @@
 
 namespace orbisol {
 
-// Puts the bytes into "<path>.bak". An older copy with other bytes is not lost for it: it moves on to
-// "<path>.bak.1", or the next number that is free. False when the copy could not be made.
-bool KeepCopy(Files& files, std::u16string_view path, std::string_view bytes);
+// Writes the bytes to "<path>.bak". An older backup with other bytes moves on to "<path>.bak.1", or to the
+// next number that is free. Returns false when the backup is not safely on the disk.
+bool BackUp(FileSystem& files, std::u16string_view path, std::string_view bytes);
 
 }  // namespace orbisol

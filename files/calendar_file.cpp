@@ -51,7 +51,7 @@ std::u16string_view Trimmed(std::u16string_view text) {
 
 // Whether each element of the block `read` has its like in `written`, in any order among elements of other
 // names, and no text stands beside the elements. An empty element says nothing.
-bool ComesBack(std::u16string_view blockTag, std::u16string_view read, std::u16string_view written) {
+bool SurvivesRewrite(std::u16string_view blockTag, std::u16string_view read, std::u16string_view written) {
   struct Met {
     std::u16string_view tag;
     std::ptrdiff_t position;  // in `written`, behind the last of them
@@ -77,7 +77,8 @@ bool ComesBack(std::u16string_view blockTag, std::u16string_view read, std::u16s
     const std::u16string_view like = FindElement(written, tag, met->position);
     if (met->position == kNoElement) return false;
     const bool isBlock = value.find(u'<') != kNotFound;
-    if (isBlock ? !ComesBack(tag, value, like) : Unescape(value) != Unescape(Trimmed(like))) return false;
+    if (isBlock ? !SurvivesRewrite(tag, value, like) : Unescape(value) != Unescape(Trimmed(like)))
+      return false;
   }
   return true;
 }
@@ -90,7 +91,7 @@ std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form) {
   return ToUtf8(CalendarText(calendar, form));
 }
 
-bool HoldsMore(std::string_view bytes, CalendarForm form) {
+bool WouldLoseData(std::string_view bytes, CalendarForm form) {
   const std::u16string text = FromUtf8(WithoutMark(bytes));
   const bool mayBeMalformed = text.find(u'\uFFFD') != kNotFound;
   if (mayBeMalformed && ToUtf8(text) != WithoutMark(bytes)) return true;
@@ -98,7 +99,7 @@ bool HoldsMore(std::string_view bytes, CalendarForm form) {
   std::u16string_view elements = Trimmed(text);
   if (elements.starts_with(u"<?xml "))
     if (const std::size_t end = elements.find(u"?>"); end != kNotFound) elements.remove_prefix(end + 2);
-  return !ComesBack({}, elements, CalendarText(ReadText(text), form));
+  return !SurvivesRewrite({}, elements, CalendarText(ReadText(text), form));
 }
 
 }  // namespace orbisol

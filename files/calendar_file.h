@@ -41,6 +41,6 @@ std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form);
 // Whether a file holds anything that would be gone after it was read and written: a record that is not
 // accepted or stands behind an empty one, an element no one knows, text outside the elements, a value cut or
 // replaced. Order, line ends and the dates of older releases are no loss.
-bool HoldsMore(std::string_view bytes, CalendarForm form);
+bool WouldLoseData(std::string_view bytes, CalendarForm form);
 
 }  // namespace orbisol

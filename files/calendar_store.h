@@ -1,40 +1,26 @@
-// The user's calendars by name, and the public calendars from which holidays are taken.
+// The user's calendars by name.
 //
-//   CCalendarStore store(files);
+//   CCalendarStore store(files, folders);
 //   CalendarFile calendar;
 //   store.Load(u"Famille", calendar);
 //   …
-//   switch (store.Save(u"Famille", calendar, IfChanged::kRefuse)) …   // kChanged: ask, then save again with
-//                                                                     // kOverwrite, or SaveBeside
+//   SavedCalendar saved = store.Save(u"Famille", calendar, IfChanged::kRefuse);
+//   if (saved.result == WriteResult::kChanged) …  // ask, then save again with kOverwrite or kKeepBoth
 //
-// A calendar's name is its file's name without ".xml". Nothing outside the calendars' folder is written, and
-// nothing that a file holds is lost: what the program would not write again is first copied to
-// "<name>.xml.bak".
+// Nothing outside the calendars' folder is written, and nothing that a file holds is lost: what the program
+// would not write again is first backed up to "<name>.xml.bak".
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "files/calendar_file.h"
+#include "files/calendar_name.h"
 #include "files/file_system.h"
 
 namespace orbisol {
-
-constexpr std::u16string_view kDefaultCalendarName = u"Calendar";
-constexpr std::size_t kMaxCalendarNameBytes = 200;  // in UTF-8
-
-// Whether a text can name a calendar: one file name, not too long, without separators and control characters.
-bool IsCalendarName(std::u16string_view name);
-
-// The name itself, or "Calendar" for one that cannot be.
-std::u16string CalendarNameOrDefault(std::u16string_view name);
-
-// Whether a public calendar is meant for the first start in some language, not for a list: two characters of
-// any kind and "_public". Older releases gave each user copies of them.
-bool IsFirstStartName(std::u16string_view name);
 
 enum class LoadResult {
   kLoaded,
@@ -42,64 +28,59 @@ enum class LoadResult {
   kUnreadable,  // there is one and it cannot be read; likewise, and saving will not touch it
 };
 
+// The choice for a file that is not the one last loaded or saved here.
 enum class IfChanged {
-  kRefuse,     // leave a file alone that is not the one last loaded or saved
-  kOverwrite,  // the user said so
+  kRefuse,     // leave it alone and say so: the program asks
+  kOverwrite,  // the user said so; it is backed up first
+  kKeepBoth,   // leave it alone and save under a free name
 };
 
-// A public calendar, wherever it stands.
-struct PublicCalendar {
-  std::u16string name;
-  std::u16string path;
+struct SavedCalendar {
+  WriteResult result = WriteResult::kFailed;
+  std::u16string name;  // under which it was saved, or was to be
 };
 
 class CCalendarStore {
  public:
-  explicit CCalendarStore(Files& files) : m_files(files) {}
+  // `files` outlives the store.
+  CCalendarStore(FileSystem& files, const CalendarFolders& folders)
+      : m_files(files), m_folder(folders.calendars) {}
 
-  // The user's calendars, by the alphabet.
+  // Returns the user's calendars, by the alphabet.
   std::vector<std::u16string> Names() const;
 
-  // Where a calendar's file lies; empty when the name cannot be.
+  // Returns where a calendar's file lies; empty for a name that cannot be.
   std::u16string PathOf(std::u16string_view name) const;
 
   bool Exists(std::u16string_view name) const;
 
-  // A name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)".
+  // Returns a name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)".
   std::u16string FreeName(std::u16string_view name) const;
 
   // Sets the whole of `calendar`.
   LoadResult Load(std::u16string_view name, CalendarFile& calendar);
 
+  // Writes the calendar to its file.
+  //
   // kChanged: the file was changed by somebody else since it was last loaded or saved here, or was never
-  // loaded and stands there already; it is as it was. kFailed: it is as it was, or already new where only the
-  // sync of its folder failed. A file that somebody deleted is written again; what somebody else wrote or the
-  // reader had to drop is first copied to "<name>.xml.bak". An `info` text of the file replaced is kept when
-  // the calendar has none.
-  WriteResult Save(std::u16string_view name, const CalendarFile& calendar, IfChanged ifChanged);
+  // loaded and stands there already. kFailed: also for a name that cannot be, and for a file that cannot be
+  // read. After both the file is as it was. A file that somebody deleted is written again. Bytes that
+  // somebody else wrote, or that hold more than the reader took, are first backed up. An `info` text of the
+  // file replaced is kept when the calendar has none.
+  //
+  // kKeepBoth also helps where the file cannot be written, or cannot be read and is therefore not replaced:
+  // without it such a calendar could be neither saved nor left for another one.
+  SavedCalendar Save(std::u16string_view name, const CalendarFile& calendar, IfChanged ifChanged);
 
-  // Saves under a free name next to the file, which stays as it is: both are kept. `newName` is set after
-  // success.
-  WriteResult SaveBeside(std::u16string_view name, const CalendarFile& calendar, std::u16string& newName);
-
-  // Moves the file to the trash. False when it is still there, or when there is none.
+  // Moves the file to the trash. Returns false when it is still there, or when there is none.
   bool Delete(std::u16string_view name);
 
-  // The user's own and the shipped ones in one list by the alphabet; on equal names the user's. Shipped ones
-  // for first starts are left out.
-  std::vector<PublicCalendar> PublicCalendars() const;
-
-  // Where the public calendar of that name stands, the user's before the shipped one; empty when nowhere.
-  std::u16string PublicPathOf(std::u16string_view name) const;
-
-  // Nothing when the file cannot be read.
-  std::optional<CalendarFile> LoadPublic(std::u16string_view path) const;
-
-  // What a public calendar says about itself, possibly nothing.
-  std::u16string Description(std::u16string_view path) const;
-
  private:
-  Files& m_files;
+  WriteResult Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites);
+  std::u16string InfoOf(std::u16string_view name) const;
+
+  FileSystem& m_files;
+  std::u16string m_folder;
   std::map<std::u16string, FileStamp> m_stamps;  // by path: the files as they were last loaded or saved
 };
 

@@ -1,8 +1,14 @@
-// What calendar files ask of the machine: folders, and files read and replaced whole. platform/ answers for
-// the desktop, tests with a folder of their own. Paths are UTF-16 with '/' between the parts, absolute.
+// The operations on files that calendars and their backups need: files are listed, read and replaced whole.
+// platform/ answers for the desktop, tests in memory. Paths are UTF-16 with '/' between the parts, absolute.
+//
+//   const auto lock = files.LockFolderOf(path);
+//   std::optional<FileBytes> file = files.Read(path);
+//   …
+//   switch (files.Replace(path, bytes, &file->stamp, nullptr)) …
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,8 +16,16 @@
 
 namespace orbisol {
 
-// What tells whether a file still holds what was read. A file rewritten with the same bytes has the same
-// stamp.
+// The folders of calendars, which need not exist.
+struct CalendarFolders {
+  std::u16string calendars;      // of the user's calendars
+  std::u16string userLegals;     // public calendars that the user added
+  std::u16string shippedLegals;  // public calendars that came with the program
+  std::u16string versions;       // earlier versions of the user's calendars, one folder a calendar
+};
+
+// Tells whether a file still holds the bytes that were read. A file rewritten with the same bytes has the
+// same stamp.
 struct FileStamp {
   bool exists = false;
   std::uint64_t size = 0;
@@ -26,34 +40,48 @@ struct FileBytes {
 };
 
 enum class WriteResult {
-  kWritten,  // the new bytes are on the disk
-  kChanged,  // the file is not the expected one; nothing was written
-  kFailed,   // the file is as it was, or already new where only the sync of its folder failed
+  kWritten,    // the new bytes are on the disk
+  kNotSynced,  // the new bytes are in place, but a loss of power may still undo that
+  kChanged,    // the file is not the expected one; it is as it was
+  kFailed,     // the file is as it was
 };
 
-struct Files {
-  virtual ~Files() = default;
+// Whether a reader finds the new bytes now.
+constexpr bool IsInPlace(WriteResult result) {
+  return result == WriteResult::kWritten || result == WriteResult::kNotSynced;
+}
 
-  virtual std::u16string CalendarFolder() const = 0;       // of the user's calendars
-  virtual std::u16string UserLegalsFolder() const = 0;     // public calendars that the user added
-  virtual std::u16string ShippedLegalsFolder() const = 0;  // public calendars that came with the program
+// Held until it is destroyed, or the process ends.
+struct FileLock {
+  virtual ~FileLock() = default;
+};
 
-  // Names of the files (no folders) in a folder that end with `ending`, in any order; empty for a folder that
-  // does not exist.
+struct FileSystem {
+  virtual ~FileSystem() = default;
+
+  // Returns the names of the files (no folders) in a folder that end with `ending`, in any order; none for a
+  // folder that does not exist.
   virtual std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const = 0;
 
+  // Returns whether anything stands there. Where that cannot be found out the answer is yes.
   virtual bool Exists(std::u16string_view path) const = 0;
 
-  // Nothing when the file is missing or cannot be read whole.
+  // Returns nothing when the file is missing or cannot be read whole.
   virtual std::optional<FileBytes> Read(std::u16string_view path) const = 0;
+
+  // Keeps other copies of the program from saving in the folder of `path`, which is made if it is missing.
+  // Waits for one that does; after two seconds, or where there are no locks, it goes on without one. Other
+  // programs are not kept from anything.
+  virtual std::unique_ptr<FileLock> LockFolderOf(std::u16string_view path) = 0;
 
   // Replaces the file in one step, or makes it with its folders: afterwards it holds the old bytes or the new
   // ones, also after a crash. Links are followed, permissions kept. With `expected` the file must still be
-  // that one (or still be missing, when it was). `stamp` is set to the new file's after success.
+  // that one (or still be missing, when it was). `stamp` is set to the new file's where that is in place.
+  // Both may be null.
   virtual WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
                               FileStamp* stamp) = 0;
 
-  // False when the file is still where it was.
+  // Returns false when the file is still where it was.
   virtual bool MoveToTrash(std::u16string_view path) = 0;
 };
 

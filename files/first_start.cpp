@@ -6,7 +6,6 @@
 namespace orbisol {
 namespace {
 
-constexpr std::u16string_view kPublic = u"_public";
 constexpr std::u16string_view kFrance = u"France";
 
 // By country code, where the country has a shipped calendar of its own.
@@ -17,25 +16,23 @@ constexpr struct {
     {u"FR", kFrance},
 };
 
-std::u16string OfLanguage(std::u16string_view language) { return std::u16string(language).append(kPublic); }
-
 }  // namespace
 
 std::vector<std::u16string> FirstStartCalendars(const UserLocale& locale) {
   std::vector<std::u16string> names;
   for (const auto& row : kCountryCalendars)
     if (row.country == locale.country) names.emplace_back(row.calendar);
-  if (locale.language.size() == 2) names.push_back(OfLanguage(locale.language));
+  if (locale.language.size() == 2) names.push_back(FirstStartName(locale.language));
   names.emplace_back(kFrance);
-  names.push_back(OfLanguage(u"fr"));
+  names.push_back(FirstStartName(u"fr"));
   return names;
 }
 
-CalendarContent FirstStartContent(const CCalendarStore& calendars, const UserLocale& locale) {
+CalendarContent FirstStartContent(const CPublicCalendars& publicCalendars, const UserLocale& locale) {
   for (const std::u16string& name : FirstStartCalendars(locale)) {
-    const std::u16string path = calendars.PublicPathOf(name);
+    const std::u16string path = publicCalendars.PathOf(name);
     if (path.empty()) continue;
-    if (std::optional<CalendarFile> calendar = calendars.LoadPublic(path))
+    if (std::optional<CalendarFile> calendar = publicCalendars.Load(path))
       return std::move(calendar->content);
   }
   return {};

@@ -17,7 +17,7 @@ orbisol::CalendarFile CheckForm(const orbisol::CalendarFile& read, orbisol::Cale
   const std::string once = WriteCalendar(read, form);
   orbisol::CalendarFile again = orbisol::ReadCalendar(once);
   Check(WriteCalendar(again, form) == once);
-  Check(!HoldsMore(once, form));
+  Check(!WouldLoseData(once, form));
   return again;
 }
 
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string holidays = WriteCalendar(read, orbisol::CalendarForm::kPublic);
     CheckForm(orbisol::ReadCalendar(holidays), orbisol::CalendarForm::kPublic);
   }
-  HoldsMore(bytes, orbisol::CalendarForm::kUser);
+  WouldLoseData(bytes, orbisol::CalendarForm::kUser);
   Check(orbisol::Rules() == before);
   return 0;
 }

@@ -55,17 +55,18 @@ void CheckStarts(const std::string& bytes) {
   CMemoryStore store;
   store.text = bytes;
   CMemoryFiles files;
-  CCalendarStore calendars(files);
+  CCalendarStore calendars(files, kMemoryFolders);
+  const CPublicCalendars publicCalendars(files, kMemoryFolders);
   const Rect screen{0, 0, 1920, 1080};
-  const StoredSettings first = ReadSettings(store, calendars, screen, {u"fr", u"FR"});
+  const StoredSettings first = ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, screen);
   Check(first.keyFound);
   Check(IsCalendarName(first.display.calendarName.View()));
   store.written.clear();
-  const StoredSettings second = ReadSettings(store, calendars, screen, {u"fr", u"FR"});
+  const StoredSettings second = ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, screen);
   Check(store.written.empty());
   Check(second.display.mainLayout == first.display.mainLayout);
   Check(second.display.calendarName == first.display.calendarName);
-  Check(second.calendar.rules == first.calendar.rules);
+  Check(second.rules == first.rules);
 }
 
 }  // namespace

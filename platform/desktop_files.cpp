@@ -11,10 +11,6 @@
 
 namespace orbisol {
 
-std::u16string CDesktopFiles::CalendarFolder() const { return PathText(m_folders.calendars); }
-std::u16string CDesktopFiles::UserLegalsFolder() const { return PathText(m_folders.userLegals); }
-std::u16string CDesktopFiles::ShippedLegalsFolder() const { return PathText(m_folders.shippedLegals); }
-
 std::vector<std::u16string> CDesktopFiles::List(std::u16string_view folder,
                                                 std::u16string_view ending) const {
   const std::string folderPath = PathBytes(folder);
@@ -38,13 +34,17 @@ std::optional<FileBytes> CDesktopFiles::Read(std::u16string_view path) const {
   return ReadWholeFile(PathBytes(path));
 }
 
+std::unique_ptr<FileLock> CDesktopFiles::LockFolderOf(std::u16string_view path) {
+  return LockFolder(FolderOf(PathBytes(path)));
+}
+
 WriteResult CDesktopFiles::Replace(std::u16string_view path, std::string_view bytes,
                                    const FileStamp* expected, FileStamp* stamp) {
   return ReplaceFile(PathBytes(path), bytes, expected, stamp);
 }
 
 bool CDesktopFiles::MoveToTrash(std::u16string_view path) {
-  return MoveToTrashFolder(PathBytes(path), m_folders.trash, TrashTimeNow());
+  return MoveToTrashFolder(PathBytes(path), m_trash, TrashTimeNow());
 }
 
 }  // namespace orbisol

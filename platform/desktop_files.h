@@ -1,32 +1,32 @@
-// The calendar files of a Linux desktop.
+// The files of a Linux desktop, whose texts of paths are those of path_text.h.
 //
-//   CDesktopFiles files(DesktopFolders());
-//   files.Read(files.ShippedLegalsFolder() + u"/France.xml");
+//   const Folders folders = DesktopFolders();
+//   CDesktopFiles files(folders.trash);
+//   files.Read(CalendarFoldersOf(folders).shippedLegals + u"/France.xml");
 #pragma once
 
+#include <string>
 #include <utility>
 
 #include "files/file_system.h"
-#include "platform/folders.h"
 
 namespace orbisol {
 
-class CDesktopFiles : public Files {
+class CDesktopFiles : public FileSystem {
  public:
-  explicit CDesktopFiles(Folders folders) : m_folders(std::move(folders)) {}
+  // `trash` is the user's trash folder (platform/trash.h).
+  explicit CDesktopFiles(std::string trash) : m_trash(std::move(trash)) {}
 
-  std::u16string CalendarFolder() const override;
-  std::u16string UserLegalsFolder() const override;
-  std::u16string ShippedLegalsFolder() const override;
   std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const override;
   bool Exists(std::u16string_view path) const override;
   std::optional<FileBytes> Read(std::u16string_view path) const override;
+  std::unique_ptr<FileLock> LockFolderOf(std::u16string_view path) override;
   WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
                       FileStamp* stamp) override;
   bool MoveToTrash(std::u16string_view path) override;
 
  private:
-  Folders m_folders;
+  std::string m_trash;
 };
 
 }  // namespace orbisol

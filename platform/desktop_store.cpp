@@ -3,8 +3,7 @@
 #include <utility>
 
 #include "files/backup.h"
-#include "files/calendar_store.h"
-#include "platform/desktop_files.h"
+#include "files/calendar_name.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "settings/registry_text.h"
@@ -23,11 +22,12 @@ std::string KeyFile(const std::vector<std::string>& files) {
 
 }  // namespace
 
-CDesktopStore::CDesktopStore(std::vector<std::string> files, std::chrono::milliseconds patience)
-    : m_files(std::move(files)), m_patience(patience) {}
+CDesktopStore::CDesktopStore(FileSystem& files, std::vector<std::string> stores,
+                             std::chrono::milliseconds patience)
+    : m_files(files), m_stores(std::move(stores)), m_patience(patience) {}
 
 std::optional<StoredValues> CDesktopStore::Read() const {
-  const std::string key = KeyFile(m_files);
+  const std::string key = KeyFile(m_stores);
   if (key.empty()) return {};
   const std::optional<FileBytes> file = ReadWholeFile(key);
   if (!file) return StoredValues{{kCalendarNameValue, TextValue(kDefaultCalendarName)}};
@@ -35,13 +35,13 @@ std::optional<StoredValues> CDesktopStore::Read() const {
 }
 
 bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
-  if (KeyFile(m_files).empty()) return false;
-  const std::string& own = m_files.front();
+  if (KeyFile(m_stores).empty()) return false;
+  const std::string& own = m_stores.front();
   const CFileLock lock(own + ".lock", m_patience);
   if (!lock.IsHeld()) return false;
 
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    const std::string key = KeyFile(m_files);
+    const std::string key = KeyFile(m_stores);
     const std::optional<FileBytes> file = ReadWholeFile(key);
     if (!file) return false;
     CRegistryText text(file->bytes);
@@ -54,10 +54,9 @@ bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
     const FileStamp expected = key == own ? file->stamp : FileStamp{};
     // Without changes not even the encoding of the file is changed.
     const std::string bytes = changes.empty() ? file->bytes : text.Bytes();
-    if (key == own && bytes != file->bytes && !text.IsLossless()) {
-      CDesktopFiles files{Folders()};  // none of its folders is asked for
-      if (!KeepCopy(files, PathText(own), file->bytes)) return false;
-    }
+    if (key == own && bytes != file->bytes && !text.IsLossless() &&
+        !BackUp(m_files, PathText(own), file->bytes))
+      return false;
     const WriteResult result = ReplaceFile(own, bytes, &expected, nullptr);
     if (result != WriteResult::kChanged) return result == WriteResult::kWritten;
   }

@@ -43,6 +43,7 @@ Folders FindFolders(const VariableReader& variable, const std::string& home, con
   folders.calendars = data + "/Corvalen/orbisol";
   folders.userLegals = folders.calendars + "/Legals";
   folders.shippedLegals = shipped + "/Legals";
+  folders.versions = base("XDG_STATE_HOME", "/.local/state") + "/Corvalen/orbisol/versions";
   folders.trash = data + "/Trash";
 
   folders.stores.push_back(base("XDG_CONFIG_HOME", "/.config") + "/Corvalen/Calendar.reg");
@@ -56,5 +57,10 @@ Folders FindFolders(const VariableReader& variable, const std::string& home, con
 }
 
 Folders DesktopFolders() { return FindFolders(Variable, HomeOfAccount(), Executable()); }
+
+CalendarFolders CalendarFoldersOf(const Folders& folders) {
+  return {PathText(folders.calendars), PathText(folders.userLegals), PathText(folders.shippedLegals),
+          PathText(folders.versions)};
+}
 
 }  // namespace orbisol

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "files/file_system.h"
 #include "platform/environment.h"
 
 namespace orbisol {
@@ -16,6 +17,7 @@ struct Folders {
   std::string calendars;            // of the user's calendars
   std::string userLegals;           // public calendars that the user added
   std::string shippedLegals;        // public calendars that came with the program
+  std::string versions;             // earlier versions of the user's calendars
   std::vector<std::string> stores;  // files that may hold the settings: the user's, then those only read
   std::string trash;                // the user's trash, after the rules of freedesktop.org
 };
@@ -25,7 +27,10 @@ struct Folders {
 // have it, a relative path in a variable counts as none.
 Folders FindFolders(const VariableReader& variable, const std::string& home, const std::string& executable);
 
-// Of this process.
+// Returns the folders of this process.
 Folders DesktopFolders();
+
+// Returns those of them that hold calendars, as texts.
+CalendarFolders CalendarFoldersOf(const Folders& folders);
 
 }  // namespace orbisol

@@ -134,6 +134,17 @@ void RemoveStaleTemporaries(const std::string& folder) {
   closedir(entries);
 }
 
+// A lock that some other program holds on the folder for long is not worth failing for.
+class CFolderLock : public FileLock {
+ public:
+  explicit CFolderLock(const std::string& folder) : m_descriptor(Open(folder, O_RDONLY | O_DIRECTORY)) {
+    if (m_descriptor.IsOpen()) LockWithin(m_descriptor.Get(), kFolderPatience);
+  }
+
+ private:
+  CDescriptor m_descriptor;
+};
+
 bool IsAsExpected(const std::string& target, const FileStamp& expected, const FileStamp& wanted) {
   struct stat status;
   if (Repeat([&] { return stat(target.c_str(), &status); }) != 0) return errno == ENOENT && !expected.exists;
@@ -195,18 +206,19 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
   if (!temporary.Close()) return WriteResult::kFailed;
   const FileStamp wanted = StampOf(bytes);
 
-  // Under the lock no second copy of the program can save between the look at the file and the rename. A lock
-  // that some other program holds on the folder for long is not worth failing for.
   const CDescriptor folderDescriptor = Open(folder, O_RDONLY | O_DIRECTORY);
   if (!folderDescriptor.IsOpen()) return WriteResult::kFailed;
-  LockWithin(folderDescriptor.Get(), kFolderPatience);
   if (expected != nullptr && !IsAsExpected(target, *expected, wanted)) return WriteResult::kChanged;
   if (!temporary.MoveTo(target)) return WriteResult::kFailed;
 
   if (stamp != nullptr) *stamp = wanted;
   const bool synced = SyncFolder(folderDescriptor.Get());
   RemoveStaleTemporaries(folder);
-  return synced ? WriteResult::kWritten : WriteResult::kFailed;
+  return synced ? WriteResult::kWritten : WriteResult::kNotSynced;
+}
+
+std::unique_ptr<FileLock> LockFolder(const std::string& folder) {
+  return MakeFolders(folder) ? std::make_unique<CFolderLock>(folder) : nullptr;
 }
 
 bool MakeFolders(const std::string& folder) {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <chrono>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,13 +34,16 @@ bool FileExists(const std::string& path);
 // rights fall to those of everybody.
 //
 // kChanged: `expected` is given and the file there has other bytes than the expected ones, cannot be read, or
-// was expected to be missing and is not. A file that already holds `bytes` is never called changed. kFailed:
-// also where only the sync of the folder failed: then the new bytes are in place, but may not survive a loss
-// of power; `stamp` is set to them, as after success.
+// was expected to be missing and is not. A file that already holds `bytes` is never called changed.
+// kNotSynced: the sync of the folder failed. Nobody is kept from writing between the last look at the file
+// and the rename but those who hold the lock of its folder too.
 //
 // `expected` and `stamp` may be null and may be the same object.
 WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const FileStamp* expected,
                         FileStamp* stamp);
+
+// Locks a folder, which is made if it is missing, against all who lock it: FileSystem::LockFolderOf.
+std::unique_ptr<FileLock> LockFolder(const std::string& folder);
 
 // Makes a folder and those above it, for the user alone. True when it stands there afterwards.
 bool MakeFolders(const std::string& folder);

@@ -94,7 +94,7 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
   if (!store.Write({})) return;
   const std::u16string_view name = stored.display.calendarName.View();
   const CalendarFile calendar{look, stored.rules, stored.content, u""};
-  if (calendars.Save(name, calendar, IfChanged::kRefuse) != WriteResult::kWritten) return;
+  if (calendars.Save(name, calendar, IfChanged::kRefuse).result != WriteResult::kWritten) return;
 
   // Before the key says that all is done, so that a start interrupted here is not the last that tries.
   for (const std::u16string& other : calendars.Names())

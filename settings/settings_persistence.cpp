@@ -69,8 +69,9 @@ void SetName(DisplaySettings& display, const CCalendarStore& calendars, std::u16
 
 }  // namespace
 
-StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, const Rect& screen,
-                            const UserLocale& locale) {
+StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
+                            const CPublicCalendars& publicCalendars, const UserLocale& locale,
+                            const Rect& screen) {
   StoredSettings stored;
   const std::optional<StoredValues> values = store.Read();
   stored.keyFound = values.has_value();
@@ -93,30 +94,25 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, con
   stored.rules = calendar.rules;
   stored.content = std::move(calendar.content);
   if (stored.file == LoadResult::kMissing && (migrates || IsFirstStart(calendars)))
-    stored.content = FirstStartContent(calendars, locale);
+    stored.content = FirstStartContent(publicCalendars, locale);
   if (migrates) MigrateLegacySettings(*values, store, calendars, stored);
   return stored;
 }
 
 SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
-                         const CalendarRules& rules, const CalendarContent& content, WhenChanged whenChanged,
+                         const CalendarRules& rules, const CalendarContent& content, IfChanged ifChanged,
                          std::optional<std::u16string_view> newName) {
   SaveOutcome outcome;
   if (newName && !IsCalendarName(*newName)) return outcome;
 
   // An empty name of the key reads as the default one, and so does that of a record never filled.
-  std::u16string name = CalendarNameOrDefault(display.calendarName.View());
-  const CalendarFile calendar{display.Look(), rules, content, u""};
-  outcome.calendar = calendars.Save(
-      name, calendar, whenChanged == WhenChanged::kOverwrite ? IfChanged::kOverwrite : IfChanged::kRefuse);
-  if (outcome.calendar != WriteResult::kWritten && whenChanged == WhenChanged::kKeepBoth)
-    outcome.calendar = calendars.SaveBeside(std::u16string(name), calendar, name);
+  const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  const SavedCalendar saved = calendars.Save(name, {display.Look(), rules, content, u""}, ifChanged);
+  outcome.calendar = saved.result;
   if (outcome.calendar == WriteResult::kChanged) return outcome;
 
-  if (outcome.calendar == WriteResult::kWritten) {
-    SetName(display, calendars, newName ? *newName : name);
-    display.changed = false;
-  }
+  if (IsInPlace(outcome.calendar)) SetName(display, calendars, newName ? *newName : saved.name);
+  if (outcome.calendar == WriteResult::kWritten) display.changed = false;
   outcome.key = store.Write(KeyChanges(display));
   return outcome;
 }

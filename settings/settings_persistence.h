@@ -1,6 +1,6 @@
 // Settings read at start and written when a change is confirmed.
 //
-//   StoredSettings stored = ReadSettings(store, calendars, screen, locale);
+//   StoredSettings stored = ReadSettings(store, calendars, publicCalendars, locale, screen);
 //   Display() = stored.display;  // reading alone touches nothing that is in force
 //   …
 //   SaveOutcome outcome = SaveSettings(store, calendars, Display(), Rules(), Content());
@@ -38,31 +38,25 @@ struct StoredSettings {
 // without a file is empty; where the user has none at all it has the content of the first start. Where the
 // key holds no calendar name that can be read, older settings are taken over (legacy_settings.h), which
 // writes; nothing else here does.
-StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars, const Rect& screen,
-                            const UserLocale& locale);
-
-enum class WhenChanged {
-  kRefuse,     // leave a file alone that somebody else has changed, and say so: the program asks
-  kOverwrite,  // the user said so
-  kKeepBoth,   // leave it alone and save under a free name, which becomes the calendar's
-};
+StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
+                            const CPublicCalendars& publicCalendars, const UserLocale& locale,
+                            const Rect& screen);
 
 struct SaveOutcome {
-  // kChanged, kFailed: the calendar's file is as it was, `changed` stays set and the name is not switched.
-  // After kFailed the file may already be new, where only the sync of its folder failed.
-  WriteResult calendar = WriteResult::kFailed;
-  bool key = false;  // whether the values of the key were stored too
+  WriteResult calendar = WriteResult::kFailed;  // what became of the calendar's file
+  bool key = false;                             // whether the values of the key were stored too
 };
 
-// Writes the calendar to its own file, then switches name and path when a new name is given, then writes the
-// key, and clears `changed`. The file of the new name is neither read nor written. A new name that is none
-// fails. After kFailed the values of the key are written all the same.
+// Writes the calendar to its own file. Where the new bytes are in place it switches name and path: to
+// `newName` where that is given, else to the name that CCalendarStore::Save chose. Then it writes the key,
+// also after kFailed, but not after kChanged. `changed` is cleared after kWritten alone, so that a file that
+// could not be synced is written again.
 //
-// kKeepBoth also helps where the file cannot be written, or cannot be read and is therefore not replaced:
-// without it such a calendar could be neither saved nor left for another one.
+// The file of `newName` is neither read nor written. kFailed, and nothing is written at all, if `newName` is
+// not a valid calendar name.
 SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
                          const CalendarRules& rules, const CalendarContent& content,
-                         WhenChanged whenChanged = WhenChanged::kRefuse,
+                         IfChanged ifChanged = IfChanged::kRefuse,
                          std::optional<std::u16string_view> newName = {});
 
 // The state of a window that closes.

@@ -67,9 +67,9 @@ struct SettingsStore {
   // calendar alone: the program goes on with that calendar and takes nothing for an older release's.
   virtual std::optional<StoredValues> Read() const = 0;
 
-  // Makes all changes, in their order, or none. False when nothing was stored: there is no key, it cannot be
-  // read or written, or another process keeps it locked. The key itself is never made here; the installation
-  // brings it. Without changes it only tells whether the key can be written.
+  // Makes all changes, in their order, or none. False when that is not sure: there is no key, it cannot be
+  // read, written or synced, or another process keeps it locked. The key itself is never made here; the
+  // installation brings it. Without changes it only tells whether the key can be written.
   virtual bool Write(const std::vector<StoreChange>& changes) = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "files/public_calendars.h"
 #include "tests/support/memory_files.h"
 
 namespace orbisol {
@@ -24,12 +25,13 @@ std::string BytesWithRule(std::u16string_view name) {
 class CalendarStoreTest : public testing::Test {
  protected:
   CMemoryFiles files;
-  CCalendarStore store{files};
+  CCalendarStore store{files, kMemoryFolders};
+  CPublicCalendars publicCalendars{files, kMemoryFolders};
   CalendarFile calendar;
 
   std::string Bytes(const std::u16string& path) { return files.Read(path).value_or(FileBytes()).bytes; }
   WriteResult Save(std::u16string_view rule, IfChanged ifChanged = IfChanged::kRefuse) {
-    return store.Save(u"A", WithRule(rule), ifChanged);
+    return store.Save(u"A", WithRule(rule), ifChanged).result;
   }
 };
 
@@ -42,7 +44,7 @@ TEST_F(CalendarStoreTest, ANameIsOneFileName) {
     EXPECT_FALSE(IsCalendarName(name)) << testing::PrintToString(name);
     EXPECT_EQ(CalendarNameOrDefault(name), u"Calendar");
     EXPECT_EQ(store.Load(name, calendar), LoadResult::kMissing);
-    EXPECT_EQ(store.Save(name, calendar, IfChanged::kOverwrite), WriteResult::kFailed);
+    EXPECT_EQ(store.Save(name, calendar, IfChanged::kOverwrite).result, WriteResult::kFailed);
     EXPECT_FALSE(store.Delete(name));
   }
   EXPECT_TRUE(files.files.empty());
@@ -63,16 +65,19 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   EXPECT_EQ(Save(u"two"), WriteResult::kWritten);
   EXPECT_EQ(files.files.size(), 1u) << "nothing was lost, so no copy was made";
 
-  CCalendarStore later(files);
-  EXPECT_EQ(later.Save(u"A", WithRule(u"new"), IfChanged::kRefuse), WriteResult::kChanged) << "never loaded";
+  CCalendarStore later(files, kMemoryFolders);
+  EXPECT_EQ(later.Save(u"A", WithRule(u"new"), IfChanged::kRefuse).result, WriteResult::kChanged)
+      << "never loaded";
   files.Put(kPath, BytesWithRule(u"two"));  // the same bytes, copied back
   EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
 
   files.Put(kPath, BytesWithRule(u"theirs"));
   EXPECT_EQ(Save(u"ours"), WriteResult::kChanged);
-  std::u16string beside;
-  EXPECT_EQ(store.SaveBeside(u"A", WithRule(u"ours"), beside), WriteResult::kWritten);
-  EXPECT_EQ(store.Save(beside, WithRule(u"next"), IfChanged::kRefuse), WriteResult::kWritten);
+  const SavedCalendar beside = store.Save(u"A", WithRule(u"ours"), IfChanged::kKeepBoth);
+  EXPECT_EQ(beside.result, WriteResult::kWritten);
+  EXPECT_EQ(beside.name, u"A (2)");
+  EXPECT_EQ(Bytes(kPath), BytesWithRule(u"theirs"));
+  EXPECT_EQ(store.Save(beside.name, WithRule(u"next"), IfChanged::kRefuse).result, WriteResult::kWritten);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
   EXPECT_EQ(Bytes(kPath + u".bak"), BytesWithRule(u"theirs"));
 
@@ -80,7 +85,7 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   EXPECT_EQ(Save(u"ours again", IfChanged::kOverwrite), WriteResult::kChanged);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
   files.syncFails = true;
-  EXPECT_EQ(Save(u"next"), WriteResult::kFailed);
+  EXPECT_EQ(Save(u"next"), WriteResult::kNotSynced);
   files.syncFails = false;
   EXPECT_EQ(Save(u"next"), WriteResult::kWritten) << "the new bytes were ours";
   files.files.clear();
@@ -101,6 +106,11 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
 
   files.Put(kPath, odd[3]);
   store.Load(u"A", calendar);
+  files.beforeLock = [&] { files.Put(kPath, BytesWithRule(u"theirs")); };
+  EXPECT_EQ(Save(u"new"), WriteResult::kChanged);
+  EXPECT_FALSE(files.Exists(kPath + u".bak.3")) << "nothing was replaced, so nothing is backed up";
+
+  files.Put(kPath, odd[3]);
   files.failingWrites = {kPath + u".bak.3"};
   EXPECT_EQ(Save(u"new"), WriteResult::kFailed);
   files.failingWrites.clear();
@@ -113,10 +123,10 @@ TEST_F(CalendarStoreTest, TheDescriptionOfAFileSurvivesASave) {
   files.Put(kPath, "<info>d'ici</info>" + BytesWithRule(u"mine"));
   store.Load(u"A", calendar);
   EXPECT_EQ(Save(u"two"), WriteResult::kWritten);
-  EXPECT_EQ(store.Description(kPath), u"d'ici");
-  std::u16string beside;
-  store.SaveBeside(u"A", WithRule(u"three"), beside);
-  EXPECT_EQ(store.Description(store.PathOf(beside)), u"d'ici");
+  EXPECT_EQ(ReadCalendar(Bytes(kPath)).info, u"d'ici");
+  files.Put(kPath, "<info>d'ailleurs</info>" + BytesWithRule(u"theirs"));
+  const std::u16string beside = store.Save(u"A", WithRule(u"three"), IfChanged::kKeepBoth).name;
+  EXPECT_EQ(ReadCalendar(Bytes(store.PathOf(beside))).info, u"d'ailleurs");
 }
 
 TEST_F(CalendarStoreTest, AFreeNameCountsOnFromTheName) {
@@ -134,14 +144,14 @@ TEST_F(CalendarStoreTest, PublicCalendarsOfBothFoldersStandInOneList) {
   files.Put(u"/user/Legals/France.xml", "<info>mine</info>");
   files.Put(u"/user/Legals/de_public.xml", "");
   std::vector<std::u16string> paths;
-  for (const PublicCalendar& listed : store.PublicCalendars()) paths.push_back(listed.path);
+  for (const PublicCalendar& listed : publicCalendars.List()) paths.push_back(listed.path);
   EXPECT_EQ(paths, (std::vector<std::u16string>{u"/user/Legals/de_public.xml", u"/share/Legals/Espagne.xml",
                                                 u"/share/Legals/États-Unis.xml", u"/user/Legals/France.xml",
                                                 u"/share/Legals/Zambie.xml"}));
-  EXPECT_EQ(store.PublicPathOf(u"France"), u"/user/Legals/France.xml");
-  EXPECT_EQ(store.PublicPathOf(u"Suisse"), u"");
-  EXPECT_EQ(store.Description(u"/user/Legals/France.xml"), u"mine");
-  EXPECT_FALSE(store.LoadPublic(u"/nowhere.xml").has_value());
+  EXPECT_EQ(publicCalendars.PathOf(u"France"), u"/user/Legals/France.xml");
+  EXPECT_EQ(publicCalendars.PathOf(u"Suisse"), u"");
+  EXPECT_EQ(publicCalendars.Load(u"/user/Legals/France.xml")->info, u"mine");
+  EXPECT_FALSE(publicCalendars.Load(u"/nowhere.xml").has_value());
 }
 
 }  // namespace

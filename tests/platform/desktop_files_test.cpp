@@ -48,8 +48,8 @@ class DesktopFilesTest : public testing::Test {
  protected:
   CTestFolder root;
   Folders folders = root.ProgramFolders();
-  CDesktopFiles files{folders};
-  CDesktopStore store{folders.stores, std::chrono::milliseconds(20)};
+  CDesktopFiles files{folders.trash};
+  CDesktopStore store{files, folders.stores, std::chrono::milliseconds(20)};
   const std::string own = folders.stores[0];
 
   std::string Own(const std::string& name) const { return folders.calendars + "/" + name; }
@@ -60,13 +60,13 @@ class DesktopFilesTest : public testing::Test {
 };
 
 TEST_F(DesktopFilesTest, OnlyOrdinaryFilesAreListedReadAndReplaced) {
-  EXPECT_TRUE(files.List(files.CalendarFolder(), u".xml").empty());
+  EXPECT_TRUE(files.List(PathText(folders.calendars), u".xml").empty());
   for (const char* name : {"zoo.xml", "Été.xml", "a.XML", "b.xml.bak"}) PutFile(Own(name), "");
   fs::create_directories(Own("folder.xml"));
   fs::create_symlink("zoo.xml", Own("link.xml"));
   fs::create_symlink("nowhere", Own("broken.xml"));
   ASSERT_EQ(mkfifo(Own("pipe.xml").c_str(), 0600), 0);
-  std::vector<std::u16string> names = files.List(files.CalendarFolder(), u".xml");
+  std::vector<std::u16string> names = files.List(PathText(folders.calendars), u".xml");
   std::sort(names.begin(), names.end());
   EXPECT_EQ(names, (std::vector<std::u16string>{u"link.xml", u"zoo.xml", u"Été.xml"}));
 

@@ -14,6 +14,7 @@
 
 #include "platform/desktop_files.h"
 #include "platform/desktop_store.h"
+#include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "platform/trash.h"
 #include "settings/settings_persistence.h"
@@ -118,7 +119,10 @@ TEST(FaultTest, TheStoreIsTheOldOneOrTheNewOne) {
   const std::string file = folder / "config/Calendar.reg";
   const std::string before = KeyText("\"Grid\"=dword:00000001\n\"BoldFont\"=dword:000002bc\n");
   const std::string after = KeyText("\"Grid\"=dword:00000007\n");
-  const Step step = [&] { return CDesktopStore({file}).Write({{"Grid", DwordValue(7)}, {"BoldFont", {}}}); };
+  CDesktopFiles files({});
+  const Step step = [&] {
+    return CDesktopStore(files, {file}).Write({{"Grid", DwordValue(7)}, {"BoldFont", {}}});
+  };
   const auto prepare = [&] {
     fs::remove_all(folder / "config");
     PutFile(file, before);
@@ -172,11 +176,11 @@ TEST(FaultTest, WhatASaveDropsStandsInACopy) {
     EXPECT_FALSE(outcome.isDone && outcome.isWriteLost);
   };
   const Step step = [&] {
-    CDesktopFiles files(folders);
-    CCalendarStore calendars(files);
+    CDesktopFiles files(folders.trash);
+    CCalendarStore calendars(files, CalendarFoldersOf(folders));
     CalendarFile calendar;
     return calendars.Load(kDefaultCalendarName, calendar) == LoadResult::kLoaded &&
-           calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse) == WriteResult::kWritten;
+           calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse).result == WriteResult::kWritten;
   };
   ForEachFault({EIO, ENOSPC, kShortFault, kKillFault}, step, prepare, check);
 }
@@ -193,7 +197,8 @@ void CheckMigration(bool hasFile) {
   for (const ColorInfo& row : ColorTable())
     if (!hasFile) migrated.look.colors[static_cast<std::size_t>(row.index)] = row.migrated;
   const std::string after = WriteCalendar(migrated, CalendarForm::kUser);
-  CDesktopStore store(folders.stores);
+  CDesktopFiles files(folders.trash);
+  CDesktopStore store(files, folders.stores);
   const auto prepare = [&] {
     fs::remove_all(folder / "");
     PutFile(folders.stores[0], KeyText("\"FontName\"=\"Georgia\"\n"));
@@ -201,9 +206,9 @@ void CheckMigration(bool hasFile) {
     PutFile(copy, "old copy");
   };
   const Step step = [&] {
-    CDesktopFiles files(folders);
-    CCalendarStore calendars(files);
-    return ReadSettings(store, calendars, {0, 0, 1920, 1080}, {u"fr", u"FR"}).keyFound;
+    CCalendarStore calendars(files, CalendarFoldersOf(folders));
+    const CPublicCalendars publicCalendars(files, CalendarFoldersOf(folders));
+    return ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, {0, 0, 1920, 1080}).keyFound;
   };
   const auto check = [&](const Outcome& outcome) {
     const bool isOld =
@@ -225,11 +230,13 @@ TEST(FaultTest, ProcessesThatWriteAtOnceLoseNothingOfEachOther) {
   const CTestFolder folder;
   const std::string key = folder / "Calendar.reg";
   const std::string file = folder / "file.xml";
+  CDesktopFiles files({});
   PutFile(key, "");
   PutFile(file, std::string(50000, '-'));  // long enough to be looked at while another replaces it
   const auto write = [&](char letter) {
-    CDesktopStore store({key}, std::chrono::hours(1));
+    CDesktopStore store(files, {key}, std::chrono::hours(1));
     for (int count = 0; count < 100;) {
+      const auto lock = files.LockFolderOf(PathText(file));
       const FileBytes seen = ReadWholeFile(file).value_or(FileBytes());
       const WriteResult result = ReplaceFile(file, seen.bytes + letter, &seen.stamp, nullptr);
       if (result == WriteResult::kFailed) return false;
@@ -242,7 +249,7 @@ TEST(FaultTest, ProcessesThatWriteAtOnceLoseNothingOfEachOther) {
   for (const char letter : {'A', 'B', 'C'})
     if (fork() == 0) _exit(Taken([&] { return write(letter); }).isDone ? 0 : 1);
   for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
-  EXPECT_EQ(CDesktopStore({key}).Read()->size(), 120u);
+  EXPECT_EQ(CDesktopStore(files, {key}).Read()->size(), 120u);
   const std::string bytes = BytesOf(file);
   for (const char letter : {'A', 'B', 'C'}) EXPECT_EQ(std::count(bytes.begin(), bytes.end(), letter), 100);
 }

@@ -29,7 +29,8 @@ class SettingsTest : public testing::Test {
   }
 
   CMemoryFiles files;
-  CCalendarStore calendars{files};
+  CCalendarStore calendars{files, kMemoryFolders};
+  CPublicCalendars publicCalendars{files, kMemoryFolders};
   CMemoryStore store{kNamed};
 
   void PutCalendar(const std::u16string& path, const CalendarFile& calendar) {
@@ -39,7 +40,7 @@ class SettingsTest : public testing::Test {
     files.Put(u"/share/Legals/" + name + u".xml", WriteCalendar(WithRule(name), CalendarForm::kPublic));
   }
   static std::string Known(const std::string& file) { return BytesOf(ORBISOL_TEST_DATA "/settings/" + file); }
-  StoredSettings Read() { return ReadSettings(store, calendars, kScreen, {u"fr", u"FR"}); }
+  StoredSettings Read() { return ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, kScreen); }
   // What of the settings a calendar's file holds.
   static CalendarFile Session(const StoredSettings& stored) {
     return {stored.display.Look(), stored.rules, stored.content, u""};
@@ -90,7 +91,7 @@ TEST_F(SettingsTest, StoredValuesReachTheirFields) {
 
 TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
   const auto first = [&](const UserLocale& locale) {
-    return FirstRule(ReadSettings(store, calendars, kScreen, locale).content);
+    return FirstRule(ReadSettings(store, calendars, publicCalendars, locale, kScreen).content);
   };
   files.Put(u"/user/fr_public.xml", "");  // a copy that an older release made is no calendar of the user's
   EXPECT_EQ(first({u"sv", u"SE"}), u"(none)");
@@ -137,26 +138,26 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
 
 TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
   DisplaySettings display = Read().display;
-  const auto save = [&](WhenChanged whenChanged, std::optional<std::u16string_view> newName = {}) {
-    return SaveSettings(store, calendars, display, {}, WithRule(u"Mine").content, whenChanged, newName)
+  const auto save = [&](IfChanged ifChanged, std::optional<std::u16string_view> newName = {}) {
+    return SaveSettings(store, calendars, display, {}, WithRule(u"Mine").content, ifChanged, newName)
         .calendar;
   };
   display.changed = true;
   PutCalendar(kOwnPath, WithRule(u"Theirs"));
-  EXPECT_EQ(save(WhenChanged::kRefuse), WriteResult::kChanged);
+  EXPECT_EQ(save(IfChanged::kRefuse), WriteResult::kChanged);
   EXPECT_TRUE(display.changed);
   EXPECT_TRUE(store.written.empty());
-  EXPECT_EQ(save(WhenChanged::kKeepBoth), WriteResult::kWritten);
+  EXPECT_EQ(save(IfChanged::kKeepBoth), WriteResult::kWritten);
   EXPECT_EQ(StoredName(), u"Calendar (2)");
   EXPECT_EQ(FirstRuleIn(kOwnPath), u"Theirs");
   EXPECT_EQ(FirstRuleIn(u"/user/Calendar (2).xml"), u"Mine");
   PutCalendar(display.calendarPath, WithRule(u"Theirs"));
-  EXPECT_EQ(save(WhenChanged::kOverwrite), WriteResult::kWritten);
+  EXPECT_EQ(save(IfChanged::kOverwrite), WriteResult::kWritten);
 
   files.unreadable.insert(display.calendarPath);
   EXPECT_EQ(Read().file, LoadResult::kUnreadable);
-  EXPECT_EQ(save(WhenChanged::kOverwrite), WriteResult::kFailed) << "nobody has seen what would be lost";
-  EXPECT_EQ(save(WhenChanged::kKeepBoth, u"Famille"), WriteResult::kWritten);
+  EXPECT_EQ(save(IfChanged::kOverwrite), WriteResult::kFailed) << "nobody has seen what would be lost";
+  EXPECT_EQ(save(IfChanged::kKeepBoth, u"Famille"), WriteResult::kWritten);
   EXPECT_EQ(display.calendarName.View(), u"Famille") << "it is no trap";
   EXPECT_EQ(FirstRuleIn(u"/user/Calendar (3).xml"), u"Mine");
 }

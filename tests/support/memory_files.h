@@ -17,7 +17,9 @@
 
 namespace orbisol {
 
-class CMemoryFiles : public Files {
+inline const CalendarFolders kMemoryFolders{u"/user", u"/user/Legals", u"/share/Legals", u"/versions"};
+
+class CMemoryFiles : public FileSystem {
  public:
   struct File {
     std::string bytes;
@@ -27,7 +29,8 @@ class CMemoryFiles : public Files {
   std::map<std::u16string, File> trash;
   std::set<std::u16string> unreadable;     // they exist, and no more can be said of them
   std::set<std::u16string> failingWrites;  // they stay as they are
-  std::function<void()> beforeReplace;     // somebody else, at the last moment; called once
+  std::function<void()> beforeLock;        // another copy of the program, which had the lock; called once
+  std::function<void()> beforeReplace;     // another program, at the last moment; called once
   bool trashFails = false;
   bool syncFails = false;  // the new bytes are in place when the failure is seen
 
@@ -36,10 +39,6 @@ class CMemoryFiles : public Files {
     file.bytes = bytes;
     file.stamp = {true, bytes.size(), std::hash<std::string_view>()(bytes)};
   }
-
-  std::u16string CalendarFolder() const override { return u"/user"; }
-  std::u16string UserLegalsFolder() const override { return u"/user/Legals"; }
-  std::u16string ShippedLegalsFolder() const override { return u"/share/Legals"; }
 
   std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const override {
     std::vector<std::u16string> names;
@@ -60,6 +59,11 @@ class CMemoryFiles : public Files {
     return FileBytes{found->second.bytes, found->second.stamp};
   }
 
+  std::unique_ptr<FileLock> LockFolderOf(std::u16string_view /*path*/) override {
+    if (beforeLock) std::exchange(beforeLock, nullptr)();
+    return nullptr;
+  }
+
   WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
                       FileStamp* stamp) override {
     if (beforeReplace) std::exchange(beforeReplace, nullptr)();
@@ -70,7 +74,7 @@ class CMemoryFiles : public Files {
       return WriteResult::kChanged;
     Put(key, bytes);
     if (stamp != nullptr) *stamp = files[key].stamp;
-    return syncFails ? WriteResult::kFailed : WriteResult::kWritten;
+    return syncFails ? WriteResult::kNotSynced : WriteResult::kWritten;
   }
 
   bool MoveToTrash(std::u16string_view path) override {

@@ -85,13 +85,14 @@ void SaveWindow(CPictureFolder& folder, const WindowPicture& picture, const QStr
   CMemoryStore store("\"CalendarName\"=\"Calendar\"\n");
   CMemoryFiles files;
   files.Put(u"/share/Legals/France.xml", FileOfFrance());
-  CCalendarStore calendars(files);
+  CCalendarStore calendars(files, kMemoryFolders);
+  const CPublicCalendars publicCalendars(files, kMemoryFolders);
   if (!isFresh) {
     WindowLayout layout;
     layout.rightPaneShown = 1;
     store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(layout))}});
   }
-  CCalendarFrame frame({store, calendars, {u"fr", u"FR"}});
+  CCalendarFrame frame({store, calendars, publicCalendars, {u"fr", u"FR"}});
   frame.Open();
   frame.activateWindow();
   QApplication::processEvents();

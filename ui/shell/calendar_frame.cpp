@@ -103,7 +103,8 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
 
 // What is stored goes into the live records here, and nowhere else at start-up.
 void CCalendarFrame::TakeSettings() {
-  StoredSettings stored = ReadSettings(m_doors.store, m_doors.calendars, VirtualScreen(), m_doors.locale);
+  StoredSettings stored = ReadSettings(m_doors.store, m_doors.calendars, m_doors.publicCalendars,
+                                       m_doors.locale, VirtualScreen());
   m_isFirst = !stored.layoutStored;
   if (m_isFirst) stored.display.mainLayout.rightPaneShown = FirstSize().width() >= kWidthForPane ? 1 : 0;
   Display() = std::move(stored.display);

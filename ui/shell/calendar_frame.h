@@ -1,7 +1,8 @@
 // The main window: menu bar, tool bar and status bar around the main dialog, and what every command does.
 //
-//   CCalendarFrame frame({store, calendars, {u"fr", u"FR"}});  // reads the settings and puts them in force
-//   frame.Open();                                              // where it stood when it was last closed
+//   CCalendarFrame frame({store, calendars, publicCalendars, {u"fr", u"FR"}});  // reads the settings and
+//   puts them in force frame.Open();                                              // where it stood when it
+//   was last closed
 //
 // Closing it stores where it stands.
 #pragma once
@@ -27,6 +28,7 @@ class CElidedLabel;
 struct FrameDoors {
   SettingsStore& store;
   CCalendarStore& calendars;
+  const CPublicCalendars& publicCalendars;
   UserLocale locale;
 };
 

@@ -41,8 +41,9 @@ int Run(const StartUp& startUp) {
   CSpaceKeyFilter spaceKey;
   QCoreApplication::instance()->installEventFilter(&spaceKey);
 
-  CCalendarStore calendars(startUp.files);
-  CCalendarFrame frame({startUp.store, calendars, startUp.locale});
+  CCalendarStore calendars(startUp.files, startUp.folders);
+  const CPublicCalendars publicCalendars(startUp.files, startUp.folders);
+  CCalendarFrame frame({startUp.store, calendars, publicCalendars, startUp.locale});
   std::unique_ptr<QSocketNotifier> calls;
   if (instance.Descriptor() >= 0) {
     calls = std::make_unique<QSocketNotifier>(instance.Descriptor(), QSocketNotifier::Read);
@@ -61,10 +62,11 @@ int Run(QApplication& application) {
   ResetCalendarConfig();
 
   const Folders folders = DesktopFolders();
-  CDesktopStore store(folders.stores);
-  CDesktopFiles files(folders);
+  CDesktopFiles files(folders.trash);
+  CDesktopStore store(files, folders.stores);
   return Run({store,
               files,
+              CalendarFoldersOf(folders),
               {locale.Language(), locale.Country()},
               {RuntimeFolder(), DisplayName(), ActivationToken()}});
 }

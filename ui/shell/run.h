@@ -2,8 +2,8 @@
 #pragma once
 
 #include "files/file_system.h"
-#include "platform/single_instance.h"
 #include "files/first_start.h"
+#include "platform/single_instance.h"
 #include "settings/settings_store.h"
 
 class QApplication;
@@ -13,7 +13,8 @@ namespace orbisol {
 // What start-up is given by the machine.
 struct StartUp {
   SettingsStore& store;
-  Files& files;
+  FileSystem& files;
+  CalendarFolders folders;
   UserLocale locale;
   InstancePlace instance;  // where a second start finds the first
 };

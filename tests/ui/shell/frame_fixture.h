@@ -38,7 +38,8 @@ class FrameTest : public ::testing::Test {
         m_rules(RulesWith(kRomanReform)),
         m_messages(messages),
         store("\"CalendarName\"=\"Calendar\"\n"),
-        calendars(files) {
+        calendars(files, kMemoryFolders),
+        publicCalendars(files, kMemoryFolders) {
     Select(20240515);
     WindowLayout layout;
     layout.rightPaneShown = 1;
@@ -55,7 +56,7 @@ class FrameTest : public ::testing::Test {
   static void Settle() { QApplication::processEvents(); }
 
   void Open() {
-    frame = std::make_unique<CCalendarFrame>(FrameDoors{store, calendars, {u"fr", u"FR"}});
+    frame = std::make_unique<CCalendarFrame>(FrameDoors{store, calendars, publicCalendars, {u"fr", u"FR"}});
     frame->Open();
     frame->activateWindow();
     Settle();
@@ -100,6 +101,7 @@ class FrameTest : public ::testing::Test {
   CMemoryStore store;
   CMemoryFiles files;
   CCalendarStore calendars;
+  CPublicCalendars publicCalendars;
   std::unique_ptr<CCalendarFrame> frame;
 };
 

@@ -28,7 +28,7 @@ class RunTest : public FrameTest {
 
 TEST_F(RunTest, WithoutASettingsKeyTheInstallationIsBroken) {
   store.text.reset();
-  EXPECT_EQ(orbisol::Run({store, files, {u"fr", u"FR"}, place}), 0);
+  EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
   ASSERT_EQ(messages.errors.size(), 1U);
   EXPECT_EQ(messages.errors[0], QString::fromUtf8("Installation incorrecte - réinstallez le programme."));
   EXPECT_EQ(Window(), nullptr);
@@ -47,7 +47,7 @@ TEST_F(RunTest, ASecondStartRaisesTheWindowOfTheFirst) {
     if (second.joinable() && !Window()->isMinimized()) Window()->close();
   });
   raised.start(1);
-  EXPECT_EQ(orbisol::Run({store, files, {u"fr", u"FR"}, place}), 0);
+  EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
   second.join();
   EXPECT_EQ(role, InstanceRole::kRaised);
 }
@@ -65,7 +65,7 @@ TEST_F(RunTest, WhereTheFirstIsSilentTheUserDecidesWhetherToOpenAnother) {
   shown.start(1);
   for (const int choice : {-1, 0}) {
     messages.choice = choice;
-    EXPECT_EQ(orbisol::Run({store, files, {u"fr", u"FR"}, place}), 0);
+    EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
     EXPECT_EQ(windows, choice + 1);
   }
   EXPECT_EQ(messages.questions.size(), 2U);
