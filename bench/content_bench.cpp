@@ -16,7 +16,7 @@ namespace {
 
 const CalendarContent& France() {
   static const CalendarContent content = [] {
-    std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+    std::ifstream file(ORBISOL_LEGALS "/France.xml", std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     CalendarContent legal = ReadCalendar(bytes).content;
     std::erase_if(legal.dayEvents, [](const DayEvent& event) { return !event.isPublic; });

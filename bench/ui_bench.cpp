@@ -142,7 +142,7 @@ void Register() {
 }
 
 void LoadFrance() {
-  std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+  std::ifstream file(ORBISOL_LEGALS "/France.xml", std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   Content() = ReadCalendar(bytes).content;
 }

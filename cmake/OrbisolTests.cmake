@@ -5,7 +5,8 @@
 #
 # Each program gets the common main() of tests/support/main.cpp, which gives the process a home of its
 # own. QT belongs to every program that links Qt in any way: its main() also makes the QApplication.
-# A test reads its data from ORBISOL_TEST_DATA, and what the program ships from ORBISOL_SOURCE_DIR.
+# A test reads its data from ORBISOL_TEST_DATA, and what the program ships from ORBISOL_SOURCE_DIR and, the public
+# calendars, from ORBISOL_LEGALS.
 
 include(GoogleTest)
 find_package(GTest REQUIRED)
@@ -29,7 +30,8 @@ function(orbisol_test name)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE ${main} ${TEST_LIBRARIES})
   target_compile_definitions(${name} PRIVATE
-    ORBISOL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" ORBISOL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    ORBISOL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" ORBISOL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    ORBISOL_LEGALS="${ORBISOL_LEGALS}")
   if(TEST_QT)
     target_link_libraries(${name} PRIVATE Qt6::Test)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)

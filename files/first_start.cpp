@@ -3,28 +3,15 @@
 #include <algorithm>
 #include <optional>
 
+#include "resources/country_calendars.h"
+
 namespace orbisol {
-namespace {
-
-constexpr std::u16string_view kFrance = u"France";
-
-// By country code, where the country has a shipped calendar of its own.
-constexpr struct {
-  std::u16string_view country;
-  std::u16string_view calendar;
-} kCountryCalendars[] = {
-    {u"FR", kFrance},
-};
-
-}  // namespace
 
 std::vector<std::u16string> FirstStartCalendars(const UserLocale& locale) {
   std::vector<std::u16string> names;
-  for (const auto& row : kCountryCalendars)
-    if (row.country == locale.country) names.emplace_back(row.calendar);
+  for (const std::u16string& place : {locale.language + u"_" + locale.country, locale.country})
+    if (const auto name = CountryCalendar(place); !name.empty()) names.emplace_back(name);
   if (locale.language.size() == 2) names.push_back(FirstStartName(locale.language));
-  names.emplace_back(kFrance);
-  names.push_back(FirstStartName(u"fr"));
   return names;
 }
 

@@ -16,8 +16,8 @@ struct UserLocale {
   std::u16string country;   // "FR", empty when only a language is known
 };
 
-// Returns the names of the public calendars that suit, the best first: that of the country, that of the
-// language ("fr_public"), those of France. Not every one need exist.
+// Returns the names of the public calendars that suit, the best first: that of the language in its country,
+// that of the country, that of the language ("fr_public"). Not every one need exist.
 std::vector<std::u16string> FirstStartCalendars(const UserLocale& locale);
 
 // Returns the content of the first of them that can be read; empty when none can.

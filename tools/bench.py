@@ -41,7 +41,7 @@ def make_home(folder):
         shutil.copy(os.path.join(ROOT, source), target)
 
     copy("resources/Calendar.reg", "config", "Corvalen", "Calendar.reg")
-    copy("resources/legals/France.xml", "data", "Corvalen", "orbisol", "Legals", "France.xml")
+    copy("build/bench/resources/Legals/France.xml", "data", "Corvalen", "orbisol", "Legals", "France.xml")
     screen = os.path.join(folder, "screen.json")
     with open(screen, "w", encoding="ascii") as file:
         file.write(SCREEN)

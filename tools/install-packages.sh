@@ -13,7 +13,7 @@ set -eu
 # pkg-config (pc:), or nothing to ask (-).
 packages_of() {
   case $1 in
-    build) echo "g++=g++ cmake=cmake ninja-build=ninja ccache=ccache
+    build) echo "g++=g++ cmake=cmake ninja-build=ninja ccache=ccache python3=python3
                  qt6-base-dev=pc:Qt6PrintSupport qt6-svg-dev=pc:Qt6Svg" ;;
     run) echo "qt6-wayland=- qt6-image-formats-plugins=- qt6-translations-l10n=- fonts-dejavu=-" ;;
     test) echo "libgtest-dev=pc:gtest python3=python3 qt6-translations-l10n=- fonts-dejavu=-

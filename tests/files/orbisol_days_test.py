@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """orbisol-days prints the marked days, and says what it cannot do.
 
-    orbisol_days_test.py PATH_OF_ORBISOL_DAYS
+    orbisol_days_test.py PATH_OF_FRANCE_XML PATH_OF_ORBISOL_DAYS
 """
 
 import os
@@ -10,9 +10,9 @@ import sys
 import unittest
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..")
-FRANCE = os.path.join(ROOT, "resources", "legals", "France.xml")
 WHOLE = os.path.join(ROOT, "tests", "data", "files", "whole.xml")
 PROGRAM = sys.argv.pop()
+FRANCE = sys.argv.pop()
 
 
 def run(*arguments):

@@ -100,7 +100,9 @@ TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
   EXPECT_EQ(first({u"fr", u"FR"}), u"France");
   EXPECT_EQ(first({u"de", u"AT"}), u"de_public") << "the language, where the country has no calendar";
   EXPECT_EQ(first({u"de", u"FR"}), u"France") << "the country decides before the language";
-  EXPECT_EQ(first({u"../x", u"/"}), u"France");
+  for (const UserLocale& unknown :
+       {UserLocale{u"sv", u"SE"}, UserLocale{u"../x", u"/"}, UserLocale{u"", u""}})
+    EXPECT_EQ(first(unknown), u"(none)") << "no foreign holidays";
   EXPECT_EQ(files.files.size(), 3u);
   PutCalendar(u"/user/Autre.xml", {});
   EXPECT_EQ(first({u"fr", u"FR"}), u"(none)") << "whoever has calendars meets none they did not make";

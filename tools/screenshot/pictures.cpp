@@ -32,7 +32,7 @@ void CPictureFolder::Save(QWidget& window, const QString& name, QWidget* popup) 
 }
 
 std::string FileOfFrance() {
-  std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+  std::ifstream file(ORBISOL_LEGALS "/France.xml", std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reads the main window as a screen reader does: through the accessibility bus, on a virtual display.
 
-    at_spi_test.py PROGRAM SOURCES
+    at_spi_test.py PROGRAM SOURCES LEGALS
 
 Needs the packages of the `test` group (tools/install-packages.sh); with one missing it fails and names it.
 Everything runs in folders of its own, and all that was started ends with it.
@@ -78,12 +78,12 @@ def end_all_children():
         time.sleep(0.05)
 
 
-def make_stage(root, program, sources):
+def make_stage(root, program, sources, legals):
     """The program with what it ships, as it is installed; it looks for that beside its own file."""
     share = os.path.join(root, "stage", "share", "orbisol")
     os.makedirs(os.path.join(root, "stage", "bin"))
     os.makedirs(share)
-    os.symlink(os.path.join(sources, "resources", "legals"), os.path.join(share, "Legals"))
+    os.symlink(legals, os.path.join(share, "Legals"))
     os.symlink(os.path.join(sources, "resources", "Calendar.reg"), os.path.join(share, "Calendar.reg"))
     return shutil.copy2(program, os.path.join(root, "stage", "bin", "orbisol"))
 
@@ -140,7 +140,7 @@ def start_display(root, environment, log):
     wait_for("the window manager", has_manager)
 
 
-def run_outside(program, sources):
+def run_outside(program, sources, legals):
     missing = missing_packages()
     if missing:
         print("Cannot listen to the accessibility bus: missing here " + ", ".join(missing)
@@ -156,7 +156,7 @@ def run_outside(program, sources):
     try:
         with open(log_path, "w") as log:
             environment = environment_in(root)
-            staged = make_stage(root, program, sources)
+            staged = make_stage(root, program, sources, legals)
             start_display(root, environment, log)
             inside = subprocess.Popen(
                 ["dbus-run-session", "--", sys.executable, os.path.abspath(__file__), "--inside", staged, log_path],
@@ -369,4 +369,4 @@ def run_inside(program, log_path):
 if __name__ == "__main__":
     if sys.argv[1] == "--inside":
         sys.exit(run_inside(*sys.argv[2:4]))
-    sys.exit(run_outside(*sys.argv[1:3]))
+    sys.exit(run_outside(*sys.argv[1:]))

@@ -48,7 +48,7 @@ std::string ResidentMemory() {
 class RandomEventsTest : public FrameTest {
  protected:
   RandomEventsTest() : m_random(kSeed) {
-    std::ifstream file(ORBISOL_SOURCE_DIR "/resources/legals/France.xml", std::ios::binary);
+    std::ifstream file(ORBISOL_LEGALS "/France.xml", std::ios::binary);
     const std::string france{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     files.Put(u"/share/Legals/France.xml", france);
   }

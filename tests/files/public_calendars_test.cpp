@@ -15,11 +15,9 @@
 namespace orbisol {
 namespace {
 
-constexpr char kLegals[] = ORBISOL_SOURCE_DIR "/resources/legals";
-
 // The names of the days that bear such a mark.
 std::map<PackedDate, std::string> MarkedDays(const std::string& file, int mark, int firstYear, int lastYear) {
-  const CalendarContent content = ReadCalendar(BytesOf(kLegals + ("/" + file))).content;
+  const CalendarContent content = ReadCalendar(BytesOf(ORBISOL_LEGALS "/" + file)).content;
   std::map<PackedDate, std::string> days;
   for (int n = Date(firstYear, 1, 1).DayNumber(); n <= Date(lastYear, 12, 31).DayNumber(); ++n) {
     const PackedDate ymd = DateOfDayNumber(n).Packed();
@@ -29,8 +27,8 @@ std::map<PackedDate, std::string> MarkedDays(const std::string& file, int mark, 
   return days;
 }
 
-TEST(LegalsTest, EveryShippedCalendarIsWhatTheWriterWrites) {
-  for (const auto& entry : std::filesystem::directory_iterator(kLegals)) {
+TEST(PublicCalendarsTest, EveryShippedCalendarIsWhatTheWriterWrites) {
+  for (const auto& entry : std::filesystem::directory_iterator(ORBISOL_LEGALS)) {
     SCOPED_TRACE(entry.path().string());
     const std::string bytes = BytesOf(entry.path());
     EXPECT_EQ(WriteCalendar(ReadCalendar(bytes), CalendarForm::kPublic), bytes);
@@ -38,7 +36,7 @@ TEST(LegalsTest, EveryShippedCalendarIsWhatTheWriterWrites) {
   }
 }
 
-TEST(LegalsTest, PublicDaysAgreeWithAnIndependentList) {
+TEST(PublicCalendarsTest, PublicDaysAgreeWithAnIndependentList) {
   const std::map<std::string, std::string> lists = {
       {"France.xml", "FR"}, {"fr_public.xml", "FR"}, {"France (Alsace-Moselle).xml", "FR-67"}};
   for (const auto& [file, list] : lists) {
@@ -54,7 +52,7 @@ TEST(LegalsTest, PublicDaysAgreeWithAnIndependentList) {
   }
 }
 
-TEST(LegalsTest, NoHolidayIsOlderThanItsLaw) {
+TEST(PublicCalendarsTest, NoHolidayIsOlderThanItsLaw) {
   const std::map<int, std::size_t> counts = {{1801, 0},  {1803, 4},  {1811, 5},  {1881, 6},  {1887, 8},
                                              {1923, 9},  {1948, 10}, {1953, 11}, {1958, 11}, {1959, 10},
                                              {1965, 11}, {1966, 10}, {1981, 10}, {1982, 11}};
@@ -63,7 +61,7 @@ TEST(LegalsTest, NoHolidayIsOlderThanItsLaw) {
 }
 
 // It gives way to Whit Sunday.
-TEST(LegalsTest, TheFeastOfMothersMovesToJuneBeforeWhitSunday) {
+TEST(PublicCalendarsTest, TheFeastOfMothersMovesToJuneBeforeWhitSunday) {
   std::set<PackedDate> days;
   for (const auto& [ymd, names] : MarkedDays("France.xml", kEventMark, 1951, 2050))
     if (names.find("Fête des mères") != std::string::npos) days.insert(ymd);

@@ -1,0 +1,93 @@
+#!/usr/bin/env python3
+"""A fault in the sources of the public calendars is told with its line, and every kind of rule becomes its record."""
+
+import contextlib
+import io
+import os
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools"))
+import make_holidays  # noqa: E402
+
+HEAD = 'name = "Here"\ninfo = "Laws & <days>"\nfirst_start = ["XX"]\n'
+RULE = '[[rule]]\nname = "Day"\nsource = "law"\n'
+
+# The kind, the record in the order of the file: type, month, day, weekday, weeknum.
+KINDS = [
+    ('"fixed date"\ndate = "29 February"', [0, 2, 29, 0, 0]),
+    ('"Roman Easter"\ndays = -2', [1, 0, -2, 0, 0]),
+    ('"Orthodox Easter"\ndays = 50', [2, 0, 50, 0, 0]),
+    ('"weekday of month"\nwhich = "last"\nweekday = "Sunday"\nmonth = "May"', [3, 5, 0, 7, 5]),
+    ('"weekday before"\nweekday = "Monday"\ndate = "24 May"', [4, 5, 24, 1, 1]),
+    ('"weekday after"\nweekday = "Thursday"\ndate = "5 September"', [5, 9, 5, 4, 1]),
+    ('"moved from weekend"\ndate = "25 December"', [6, 12, 25, 0, 0]),
+    ('"except Sunday"\ndate = "1 July"', [7, 7, 1, 0, 0]),
+]
+
+# A whole source, and where and why it is refused.
+FAULTS = [
+    (HEAD + "rule = [\n", ":4: Invalid value"),
+    (HEAD + "colour = 1\n" + RULE, ":4: a calendar has no key"),
+    (HEAD, ":1: the calendar has no rules"),
+    (HEAD.replace("XX", "France") + RULE, ":3: 'first_start'"),
+    (HEAD + RULE, ":4: the rule has no 'kind'"),
+    (HEAD + RULE + 'kind = "weekly"\n', ":7: 'kind' is one of"),
+    (HEAD + RULE + 'kind = "fixed date"\ndate = "31 June"\n', ":8: June has no day 31"),
+    (HEAD + RULE + 'kind = "fixed date"\ndate = "1 May"\ndays = 3\n', ":9: a rule of the kind 'fixed date'"),
+    (HEAD + RULE + 'kind = "weekday after"\nweekday = "Monday"\ndate = "1 May"\n', ":9: this kind cannot count"),
+    (HEAD + RULE + 'kind = "Roman Easter"\ndays = "one"\n', ":8: 'days' is the distance"),
+    (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nfrom = 2000-01-01\nto = 1999-12-31\n', ":10: 'to' lies before"),
+    (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nto = 2000-01-01\nmoved = [2001-05-05]\n', ":10: 'moved' has a"),
+    (HEAD + RULE.replace("Day", "x" * 255) + 'kind = "Roman Easter"\ndays = 1\n', ":5: 'name' is longer"),
+    ('extends = "YY"\n' + HEAD, ":1: there is no source 'YY.toml'"),
+]
+
+
+def made_of(sources):
+    """(exit code, what was complained of, the files made) for sources by name."""
+    with tempfile.TemporaryDirectory() as folder:
+        paths = []
+        for name, text in sources.items():
+            paths.append(os.path.join(folder, name + ".toml"))
+            with open(paths[-1], "w", encoding="utf-8") as file:
+                file.write(text)
+        out = os.path.join(folder, "out")
+        os.mkdir(out)
+        said = io.StringIO()
+        with contextlib.redirect_stderr(said):
+            code = make_holidays.main(["--calendars", out, "--table", os.path.join(out, "table"), *paths])
+        made = {}
+        for name in os.listdir(out):
+            with open(os.path.join(out, name), encoding="utf-8", newline="") as file:
+                made[name] = file.read()
+        return code, said.getvalue(), made
+
+
+class MakeHolidaysTest(unittest.TestCase):
+    def test_every_kind_becomes_its_record(self):
+        for kind, fields in KINDS:
+            code, said, made = made_of({"XX": HEAD + RULE + "kind = " + kind + "\n"})
+            self.assertEqual((code, said), (0, ""))
+            number, month, day, weekday, weeknum = fields
+            for tag, value in [("type", number), ("public", 1), ("month", month), ("day", day), ("weekday", weekday),
+                               ("weeknum", weeknum), ("ymdFrom", -39991231), ("ymdTo", 39991231)]:
+                self.assertIn(f"<{tag}>{value}</{tag}>\r\n", made["Here.xml"])
+            self.assertIn("<info>Laws &amp; &lt;days&gt;</info>", made["Here.xml"])
+            self.assertIn('if (locale == u"XX") return u"Here";', made["table"])
+
+    def test_faults_are_told_with_their_line_and_nothing_is_made(self):
+        for text, complaint in FAULTS:
+            code, said, made = made_of({"XX": text})
+            self.assertEqual((code, made), (1, {}), text)
+            self.assertIn("XX.toml" + complaint, said)
+
+    def test_no_two_calendars_share_a_name_or_a_locale(self):
+        text = HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\n'
+        self.assertIn("YY.toml:1: there is another", made_of({"XX": text, "YY": text.replace("Here", "HERE")})[1])
+        self.assertIn("YY.toml:3: XX is answered", made_of({"XX": text, "YY": text.replace("Here", "There")})[1])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,305 @@
+#!/usr/bin/env python3
+"""Makes the public calendars, and the table that tells which of them a first start shows, from resources/holidays/.
+
+    tools/make_holidays.py --calendars FOLDER --table FILE.cpp SOURCE.toml...
+
+Each source is one calendar; resources/holidays/README.md says what stands in it. A fault in one ends the run with its
+file, its line and the reason, and nothing is written.
+"""
+
+import argparse
+import datetime
+import os
+import re
+import sys
+import tomllib
+
+ALWAYS_FROM, ALWAYS_TO = -39991231, 39991231
+LONGEST_NAME = 254  # UTF-16 units
+WEEKDAYS = ["Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"]
+MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
+          "November", "December"]
+LONGEST = [31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
+ORDINALS = ["first", "second", "third", "fourth", "last"]
+
+# How a file numbers each kind, and the keys that it asks for.
+KINDS = {
+    "fixed date": (0, ["date"]),
+    "Roman Easter": (1, ["days"]),
+    "Orthodox Easter": (2, ["days"]),
+    "weekday of month": (3, ["which", "weekday", "month"]),
+    "weekday before": (4, ["weekday", "date"]),
+    "weekday after": (5, ["weekday", "date"]),
+    "moved from weekend": (6, ["date"]),
+    "except Sunday": (7, ["date"]),
+}
+CALENDAR_KEYS = {"name": str, "countries": list, "first_start": list, "info": str, "extends": str, "rule": list}
+RULE_KEYS = {"name", "kind", "public", "date", "days", "which", "weekday", "month", "from", "to", "moved", "source"}
+LOCALE = re.compile(r"(?:[a-z]{2,3}_)?[A-Z]{2}")
+
+
+class Fault(Exception):
+    """A fault in a source; its text is the whole line to print."""
+
+
+class Source:
+    """One file, and where in it things stand."""
+
+    def __init__(self, path):
+        self.path = path
+        self.stem = os.path.splitext(os.path.basename(path))[0]
+        with open(path, "rb") as file:
+            text = file.read()
+        try:
+            self.lines = text.decode("utf-8").splitlines()
+            self.data = tomllib.loads("\n".join(self.lines))
+        except UnicodeDecodeError as error:
+            self.fail(text.count(b"\n", 0, error.start) + 1, "is not UTF-8")
+        except tomllib.TOMLDecodeError as error:
+            place = re.search(r"\(at line (\d+), column \d+\)", str(error))
+            self.fail(int(place[1]) if place else len(self.lines), str(error))
+
+    def fail(self, line, reason):
+        raise Fault(f"{self.path}:{line}: {reason}")
+
+    def line_of(self, key=None, rule=None):
+        """The line of a key, of the calendar or of its rule of that number; else the line where those begin."""
+        heads = [n for n, line in enumerate(self.lines, 1) if line.strip() == "[[rule]]"]
+        begin, end = 1, heads[0] if heads else len(self.lines) + 1
+        if rule is not None:
+            begin, end = heads[rule], [*heads, len(self.lines) + 1][rule + 1]
+        for number in range(begin, end):
+            if key and re.match(rf"\s*{key}\s*=", self.lines[number - 1]):
+                return number
+        return begin
+
+    def fault(self, key, reason, rule=None):
+        self.fail(self.line_of(key, rule), reason)
+
+
+def packed(date):
+    return (date.year * 100 + date.month) * 100 + date.day
+
+
+class RuleReader:
+    """Turns one rule of a source into the records of a calendar file, in their order."""
+
+    def __init__(self, source, number, rule):
+        self.source, self.number, self.rule = source, number, rule
+
+    def fault(self, key, reason):
+        self.source.fault(key, reason, self.number)
+
+    def text(self, key):
+        value = self.rule.get(key)
+        if value is None:
+            self.fault(None, f"the rule has no '{key}'")
+        if not isinstance(value, str) or not value.strip() or re.search(r"[\x00-\x1f]", value):
+            self.fault(key, f"'{key}' is a text of one line")
+        return value
+
+    def choice(self, key, words):
+        value = self.text(key)
+        if value not in words:
+            self.fault(key, f"'{key}' is one of: {', '.join(words)}")
+        return words.index(value) + 1
+
+    def date_of_year(self, value, key):
+        found = re.fullmatch(r"(\d{1,2}) ([A-Z][a-z]+)", value)
+        if not found or found[2] not in MONTHS:
+            self.fault(key, "a date of the year is written like \"14 July\"")
+        month, day = MONTHS.index(found[2]) + 1, int(found[1])
+        if not 1 <= day <= LONGEST[month - 1]:
+            self.fault(key, f"{found[2]} has no day {day}")
+        return {"month": month, "day": day}
+
+    def bound(self, key, otherwise):
+        value = self.rule.get(key)
+        if value is None:
+            return otherwise
+        if type(value) is not datetime.date:
+            self.fault(key, f"'{key}' is a date such as 1981-10-02")
+        return packed(value)
+
+    def numbers(self):
+        """The fields that the kind asks for."""
+        kind = self.text("kind")
+        if kind not in KINDS:
+            self.fault("kind", f"'kind' is one of: {', '.join(KINDS)}")
+        number, keys = KINDS[kind]
+        for key in {key for _, others in KINDS.values() for key in others} - set(keys):
+            if key in self.rule:
+                self.fault(key, f"a rule of the kind '{kind}' has no '{key}'")
+        fields = {"type": number}
+        if "date" in keys:
+            fields.update(self.date_of_year(self.text("date"), "date"))
+        if "days" in keys:
+            fields["day"] = self.rule.get("days")
+            if type(fields["day"]) is not int or abs(fields["day"]) > 366:
+                self.fault("days", "'days' is the distance from Easter Sunday, negative before it")
+        if "weekday" in keys:
+            fields["weekday"] = self.choice("weekday", WEEKDAYS)
+            fields["weeknum"] = 1
+        if "which" in keys:
+            fields["weeknum"] = self.choice("which", ORDINALS)
+            fields["month"] = self.choice("month", MONTHS)
+        elif "weekday" in keys and fields["day"] == 1:
+            self.fault("date", "this kind cannot count from the 1st of a month; take the 2nd or the day before")
+        return fields
+
+    def records(self):
+        for key in self.rule:
+            if key not in RULE_KEYS:
+                self.fault(key, f"a rule has no key '{key}'")
+        name = self.text("name")
+        if len(name.encode("utf-16-le")) // 2 > LONGEST_NAME:
+            self.fault("name", f"'name' is longer than {LONGEST_NAME} characters")
+        self.text("source")
+        public = self.rule.get("public", True)
+        if not isinstance(public, bool):
+            self.fault("public", "'public' is true or false")
+        first, last = self.bound("from", ALWAYS_FROM), self.bound("to", ALWAYS_TO)
+        if first > last:
+            self.fault("to", "'to' lies before 'from'")
+        common = {"public": int(public), "name": name}
+        fields = self.numbers()
+        records = []
+        for year, date in self.moved(first, last):
+            if first // 10000 < year:
+                records.append({**common, **fields, "ymdFrom": first, "ymdTo": (year - 1) * 10000 + 1231})
+            records.append({**common, "type": 0, "month": date.month, "day": date.day,
+                            "ymdFrom": year * 10000 + 101, "ymdTo": year * 10000 + 1231})
+            first = (year + 1) * 10000 + 101
+        if first <= last:
+            records.append({**common, **fields, "ymdFrom": first, "ymdTo": last})
+        return records
+
+    def moved(self, first, last):
+        """The years in which the day stands elsewhere, with the date of each."""
+        dates = self.rule.get("moved", [])
+        if not isinstance(dates, list) or any(type(date) is not datetime.date for date in dates):
+            self.fault("moved", "'moved' is a list of dates such as 2020-06-07")
+        years = [date.year for date in dates]
+        if years != sorted(set(years)):
+            self.fault("moved", "'moved' has one date for a year, in the order of years")
+        if dates and not first <= packed(dates[0]) <= packed(dates[-1]) <= last:
+            self.fault("moved", "'moved' has a date outside 'from' and 'to'")
+        return zip(years, dates)
+
+
+class Calendar:
+    """One source, judged; its records are those of the calendar it extends and its own."""
+
+    def __init__(self, source, calendars):
+        data = source.data
+        for key, value in data.items():
+            if key not in CALENDAR_KEYS:
+                source.fault(key, f"a calendar has no key '{key}'")
+            if not isinstance(value, CALENDAR_KEYS[key]):
+                source.fault(key, f"'{key}' is no {'text' if CALENDAR_KEYS[key] is str else 'list'}")
+        self.source = source
+        self.name = data.get("name", "")
+        if not self.name or re.search(r'[\x00-\x1f/\\]', self.name):
+            source.fault("name", "the calendar needs a 'name' that can be the name of a file")
+        base = None
+        if "extends" in data:
+            base = calendars.get(data["extends"])
+            if base is None:
+                source.fault("extends", f"there is no source '{data['extends']}.toml', or it extends another one")
+        self.info = data.get("info", base.info if base else "")
+        if not self.info or re.search(r"[\x00-\x1f]", self.info):
+            source.fault("info", "the calendar needs an 'info', a text of one line")
+        self.locales = data.get("first_start", [])
+        for locale in self.locales:
+            if not isinstance(locale, str) or not LOCALE.fullmatch(locale):
+                source.fault("first_start", "'first_start' lists locales such as \"FR\" or \"fr_CH\"")
+        for country in data.get("countries", []):
+            if not isinstance(country, str) or not re.fullmatch(r"[A-Z]{2}(-[A-Z0-9]{1,3})?", country):
+                source.fault("countries", "'countries' lists codes such as \"FR\" or \"FR-67\"")
+        own = [record for number, rule in enumerate(data.get("rule", []))
+               for record in RuleReader(source, number, rule).records()]
+        # Public days first, those of the extended calendar before the own ones.
+        self.records = sorted((base.records if base else []) + own, key=lambda record: -record["public"])
+        if not self.records:
+            source.fault(None, "the calendar has no rules")
+
+
+FIELDS = ["type", "public", "month", "day", "weekday", "weeknum", "ymdFrom", "ymdTo", "name"]
+ENTITIES = [("&", "&amp;"), ("<", "&lt;"), (">", "&gt;"), ('"', "&quot;"), ("'", "&#39;")]
+
+
+def element(tag, value):
+    text = str(value)
+    for character, entity in ENTITIES:
+        text = text.replace(character, entity)
+    return f"<{tag}>{text}</{tag}>"
+
+
+def calendar_bytes(calendar):
+    """A calendar file, exactly as the program would write it."""
+    lines = ['<?xml version="1.0" encoding="UTF-8"?>', element("info", calendar.info)]
+    lines += ["<CalendarParams>", "</CalendarParams>", "<CalendarEvents>", "<dayEvents>"]
+    for record in calendar.records:
+        lines.append("\t<event>")
+        lines += ["\t\t" + element(field, record.get(field, 0)) for field in FIELDS]
+        lines.append("\t</event>")
+    lines += ["</dayEvents>", "</CalendarEvents>", ""]
+    return "\r\n".join(lines).encode("utf-8")
+
+
+def literal(text):
+    """A UTF-16 literal of C++."""
+    return 'u"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+
+
+def table_bytes(calendars):
+    rows = {}
+    for calendar in calendars:
+        for locale in calendar.locales:
+            if locale in rows:
+                calendar.source.fault("first_start", f"{locale} is answered by '{rows[locale]}' already")
+            rows[locale] = calendar.name
+    lines = ["// Made from resources/holidays/ by the build.", '#include "resources/country_calendars.h"', "",
+             "namespace orbisol {", "",
+             "std::u16string_view CountryCalendar(std::u16string_view locale) {"]
+    lines += [f"  if (locale == {literal(locale)}) return {literal(name)};" for locale, name in sorted(rows.items())]
+    lines += ["  return {};", "}", "", "}  // namespace orbisol", ""]
+    return "\n".join(lines).encode("utf-8")
+
+
+def read_all(paths):
+    """The calendars of the sources, in their order. Those that extend another one are read last."""
+    sources = [Source(path) for path in paths]
+    found = {}
+    for source in sorted(sources, key=lambda source: "extends" in source.data):
+        calendar = Calendar(source, {} if "extends" not in source.data else
+                            {stem: base for stem, base in found.items() if "extends" not in base.source.data})
+        if any(calendar.name.casefold() == other.name.casefold() for other in found.values()):
+            source.fault("name", f"there is another calendar named '{calendar.name}'")
+        found[source.stem] = calendar
+    return [found[source.stem] for source in sources]
+
+
+def main(arguments):
+    parser = argparse.ArgumentParser(description="Makes the public calendars from their sources.")
+    parser.add_argument("--calendars", required=True, help="the folder of the calendar files")
+    parser.add_argument("--table", required=True, help="the C++ source of the table of first starts")
+    parser.add_argument("sources", nargs="+")
+    options = parser.parse_args(arguments)
+    try:
+        calendars = read_all(options.sources)
+        files = {os.path.join(options.calendars, calendar.name + ".xml"): calendar_bytes(calendar)
+                 for calendar in calendars}
+        files[options.table] = table_bytes(calendars)
+    except (Fault, OSError) as fault:
+        print(fault, file=sys.stderr)
+        return 1
+    os.makedirs(options.calendars, exist_ok=True)
+    for path, wanted in files.items():
+        with open(path, "wb") as file:
+            file.write(wanted)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
