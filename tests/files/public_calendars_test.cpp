@@ -60,12 +60,16 @@ TEST(PublicCalendarsTest, NoHolidayIsOlderThanItsLaw) {
     EXPECT_EQ(MarkedDays("France.xml", kHolidayMark, year, year).size(), days) << year;
 }
 
-// It gives way to Whit Sunday.
+// The feast of mothers gives way to Whit Sunday, which with Easter is the only event of the years before the
+// laws.
 TEST(PublicCalendarsTest, TheFeastOfMothersMovesToJuneBeforeWhitSunday) {
   std::set<PackedDate> days;
   for (const auto& [ymd, names] : MarkedDays("France.xml", kEventMark, 1951, 2050))
     if (names.find("Fête des mères") != std::string::npos) days.insert(ymd);
   EXPECT_EQ(days.size(), 100u);
+  for (const char* const file : {"France.xml", "France (Alsace-Moselle).xml", "fr_public.xml"})
+    EXPECT_EQ(MarkedDays(file, kEventMark, 1581, 1581),
+              (std::map<PackedDate, std::string>{{15810326, "Pâques"}, {15810514, "Pentecôte"}}));
   for (const PackedDate known : {20120603, 20190526, 20200607, 20210530, 20230604, 20240526, 20500605})
     EXPECT_EQ(days.count(known), 1u) << known;
 }
