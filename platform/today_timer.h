@@ -4,38 +4,40 @@
 //   CTodayTimer timer([this] { CheckToday(); });
 //   timer.Restart();  // somebody is looking again
 //
-// It waits by the wall clock, in one piece: between two midnights nothing wakes up. Of another time zone the
-// system says nothing; until Restart() the timer waits for the midnight of the former one.
+// It waits by the wall clock, in one piece: between two midnights nothing wakes up. The system reports no
+// change of the time zone: until Restart() the timer waits for the midnight of the former one.
 #pragma once
-
-#include <QObject>
-#include <QTimer>
 
 #include <cstdint>
 #include <functional>
-
-class QSocketNotifier;
+#include <memory>
 
 namespace orbisol {
 
-class CTodayTimer : public QObject {
+class CTodayTimer {
  public:
-  // `newDay` may be called once too often, never once too seldom. `nextDay` gives the beginning of the next
-  // day, in seconds since 1970; without it that of the local calendar.
+  // Calls `newDay` from the event loop, perhaps once too often, never once too seldom. `nextDay` gives the
+  // beginning of the next day, in seconds since 1970; without it that is the next midnight of the local
+  // calendar.
   explicit CTodayTimer(std::function<void()> newDay, std::function<std::int64_t()> nextDay = {});
-  ~CTodayTimer() override;
+  ~CTodayTimer();
+  CTodayTimer(const CTodayTimer&) = delete;
+  CTodayTimer& operator=(const CTodayTimer&) = delete;
 
-  // Reckons anew when the next day begins.
+  // Computes anew when the next day begins.
   void Restart();
 
- private:
-  void Woken();
+  // Rings once at a moment of the wall clock. Each system has its own (today_timer.cpp).
+  struct Alarm {
+    virtual ~Alarm() = default;
+    // `moment` in seconds since 1970. One that has passed rings at once.
+    virtual void Set(std::int64_t moment) = 0;
+  };
 
+ private:
   std::function<void()> m_newDay;
   std::function<std::int64_t()> m_nextDay;
-  int m_descriptor = -1;  // of the system's timer, where there is one that follows the wall clock
-  QSocketNotifier* m_notifier = nullptr;
-  QTimer m_fallback;  // elsewhere: late by the time that the machine slept
+  std::unique_ptr<Alarm> m_alarm;
 };
 
 }  // namespace orbisol
