@@ -62,6 +62,16 @@ function(orbisol_layer name)
   endif()
 endfunction()
 
+# orbisol_forms(NAME FORM ...)
+#
+# Dialogs drawn in Qt Designer, which stand in resources/dialogs: "about.ui" is included as "ui_about.h".
+function(orbisol_forms name)
+  list(TRANSFORM ARGN PREPEND "${PROJECT_SOURCE_DIR}/resources/dialogs/" OUTPUT_VARIABLE forms)
+  qt_wrap_ui(headers ${forms})
+  target_sources(${name} PRIVATE ${headers})
+  target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+endfunction()
+
 # The Qt headers that nearly every window includes, compiled once for all layers of windows.
 function(orbisol_precompiled_qt name)
   if(NOT TARGET orbisol_qt_headers)

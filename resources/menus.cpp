@@ -29,7 +29,7 @@ constexpr MenuItem kToolsMenu[] = {
 };
 
 constexpr MenuItem kHelpMenu[] = {
-    {kCmdHelpContents, u"Sommaire...", u""},
+    {kCmdHelpContents, u"Sommaire...", u"F1"},
     {kCmdHelpIndex, u"Index...", u""},
     {kNoCommand, u"", u""},
     {kCmdAbout, u"À propos...", u""},

@@ -142,12 +142,15 @@ constexpr Entry kStrings[] = {
      u"Ce n'est pas une image TIFF, JPEG, PNG, GIF ou BMP.|Cette image est trop grande.|"
      u"Cette image est endommagée."},
     {kTextPictureChooser, u"Chemin de l'image|Parcourir...|Image choisie|Image fournie avec le programme"},
+    {kTextHelp,
+     u"Aide d'Orbisol|Sommaire|Index|Chercher dans l'index|Page de l'aide|Page précédente|Page suivante"},
+    {kTextVersion, u"Version %d.%d.%d / %s %d bits"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
     {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},
-    {kCmdHelpContents, u"Afficher le sommaire de l'aide\nAide"},
+    {kCmdHelpContents, u"Afficher le sommaire de l'aide\nAide (F1)"},
     {kCmdToggleToolBar, u"Afficher ou masquer la barre d'outils\nBarre d'outils"},
     {kCmdToggleStatusBar, u"Afficher ou masquer la barre d'état\nBarre d'état"},
 };

@@ -61,6 +61,8 @@ enum TextId : int {
   kTextDateEdit = 5151,        // of a date field: the button, and what its drop-down is
   kTextPictureFaults = 5160,   // why a file is no picture, in the order of PictureFault, kNone left out
   kTextPictureChooser = 5161,  // accessible names of path and picture, the button, the empty path
+  kTextHelp = 5170,            // of the help window: title, contents, index, filter, page, back, forward
+  kTextVersion = 5180,         // in the about box: three numbers, system, bits
 };
 
 // Empty for a number that the table does not hold.

@@ -32,6 +32,7 @@ std::string FileOfFrance();
 void TakeFirstWindow(CPictureFolder& folder);  // as a newcomer sees it on the screen of this run
 void TakeMainWindow(CPictureFolder& folder);
 void TakeMonths(CPictureFolder& folder);  // the month alone, in what the settings can make of it
+void TakeHelp(CPictureFolder& folder);    // the help and the about box
 void TakeFields(CPictureFolder& folder);  // the fields that dialogs share
 
 }  // namespace orbisol

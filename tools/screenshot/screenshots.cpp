@@ -26,6 +26,7 @@ constexpr struct {
     {"main_window", TakeMainWindow},
     {"months", TakeMonths},
     {"fields", TakeFields},
+    {"help", TakeHelp},
 };
 
 // Returns the exit code: 0 when all pictures were written, 2 for a set that does not exist.

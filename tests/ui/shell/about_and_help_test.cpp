@@ -1,0 +1,52 @@
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTimer>
+
+#include "tests/ui/shell/frame_fixture.h"
+#include "ui/window/help.h"
+
+namespace orbisol {
+namespace {
+
+// The version stands once, where the build begins.
+TEST_F(FrameTest, TheAboutBoxSaysTheVersionOfTheBuild) {
+  QFile build(QStringLiteral(ORBISOL_SOURCE_DIR "/CMakeLists.txt"));
+  ASSERT_TRUE(build.open(QIODevice::ReadOnly));
+  const QRegularExpression version(QStringLiteral("project\\(orbisol VERSION ([0-9.]+)"));
+  const QString expected = version.match(QString::fromUtf8(build.readAll())).captured(1);
+  Open();
+  QStringList texts;
+  QTimer::singleShot(0, frame.get(), [&] {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    for (const QLabel* const label : box->findChildren<QLabel*>()) {
+      texts << label->text();
+      EXPECT_FALSE(label->openExternalLinks() || label->textFormat() == Qt::RichText);
+    }
+    QTest::mouseClick(box->findChild<QPushButton*>(), Qt::LeftButton);
+  });
+  frame->RunCommand(kCmdAbout);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(
+      texts.contains(QStringLiteral("Version %1 / Linux %2 bits").arg(expected).arg(8 * sizeof(void*))))
+      << qPrintable(texts.join(u'|'));
+}
+
+TEST_F(FrameTest, F1OpensTheHelpWhichDoesNotOutliveTheProgram) {
+  Open();
+  QTest::keyClick(&Dialog().Month(), Qt::Key_F1);
+  CHelpWindow* help = nullptr;
+  for (QWidget* const widget : QApplication::topLevelWidgets())
+    if (auto* const found = dynamic_cast<CHelpWindow*>(widget)) help = found;
+  ASSERT_TRUE(help != nullptr && help->isVisible());
+  EXPECT_TRUE(help->Browser().toPlainText().startsWith(QString::fromUtf8("La fenêtre principale")));
+  EXPECT_FALSE(help->testAttribute(Qt::WA_QuitOnClose));
+  help->close();
+}
+
+}  // namespace
+}  // namespace orbisol
