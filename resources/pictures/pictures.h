@@ -5,7 +5,14 @@
 
 namespace orbisol {
 
-QString MoonPicturePath();  // four glyphs of 48 x 48 side by side: new, first quarter, full, last quarter
-QString BackgroundPicturePath();  // 336 x 248, made to be stretched over a month
+// Path of four glyphs of 48 x 48 side by side: new moon, first quarter, full moon, last quarter.
+QString MoonPicturePath();
+
+// Path of a picture of 336 x 248 that is made to be stretched over a month.
+QString BackgroundPicturePath();
+
+// Returns the path of an icon by its name, "copy" or "copy-16". Whether there is such an icon is seen when it
+// is opened.
+QString IconPath(const QString& name);
 
 }  // namespace orbisol

@@ -8,7 +8,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
-#include "resources/pictures/icons/icons.h"
+#include "resources/pictures/pictures.h"
 
 namespace orbisol {
 namespace {
