@@ -132,6 +132,13 @@ constexpr Entry kStrings[] = {
      u"Des options avancées se contredisent. Voulez-vous les corriger ?|"
      u"Les réglages de recto verso se contredisent. Voulez-vous les corriger ?|"
      u"Les options « Pages par feuille » et « Jeu de pages » ne vont pas ensemble.|Disque|Dossier"},
+    {kTextDayOfMonth, u"%d %s|1er %s"},
+    {kTextMissingDate, u"Le %s n'existe pas ; il compte comme le %s"},
+    {kTextRange, u"le %s, 1 jour|du %s au %s, %d jours"},
+    {kTextDayKinds, u"jour férié|événement|vacances|aujourd'hui"},
+    {kTextOfKind, u", %s : %s"},
+    {kTextWeekOf, u"Semaine|Semaine %d"},
+    {kTextLeadsTo, u"%s : %s %d"},
     {kTextDateFaults,
      u"Écrivez la date en entier, sous la forme %date%.|Ce n'est pas une date. Écrivez-la sous la forme "
      u"%date%.|Les mois vont de 1 à 12.|Cette date n'existe pas : %s %d n'a pas de jour %d.|"

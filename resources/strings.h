@@ -57,6 +57,13 @@ enum TextId : int {
   kTextOpenAnyway = 5127,      // the button of that question
   kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
+  kTextDayOfMonth = 5140,      // by day and month, by month for its first day
+  kTextMissingDate = 5141,     // a date that does not exist, and the one it counts as
+  kTextRange = 5142,           // of days: a single one; first, last and length
+  kTextDayKinds = 5143,        // public holiday, event, vacation; today
+  kTextOfKind = 5144,          // goes on with a kind and its texts
+  kTextWeekOf = 5145,          // week numbers: their title, and one of them
+  kTextLeadsTo = 5146,         // a button, with month and year that it leads to
   kTextDateFaults = 5150,      // why a text is no date, in the order of DateFault, kNone left out
   kTextDateEdit = 5151,        // of a date field: the button, and what its drop-down is
   kTextPictureFaults = 5160,   // why a file is no picture, in the order of PictureFault, kNone left out

@@ -1,0 +1,41 @@
+#include "content/spoken_text.h"
+
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "tests/support/fakes.h"
+#include "tests/support/rules.h"
+
+namespace orbisol {
+namespace {
+
+TEST(SpokenTextTest, ADateThatDoesNotExistSaysWhichDayItCountsAs) {
+  const struct {
+    PackedDate date;
+    const char* text;
+    PackedDate reform = kRomanReform;
+  } kDates[] = {
+      {20261131, "Le 31 novembre 2026 n'existe pas ; il compte comme le 1er décembre"},
+      {20250229, "Le 29 février 2025 n'existe pas ; il compte comme le 1er mars"},
+      {15821010, "Le 10 octobre 1582 n'existe pas ; il compte comme le 20 octobre"},
+      {17000101, "Le 1er janvier 1700 n'existe pas ; il compte comme le 11 janvier", 17000111},
+      {20240229, ""},
+      {20261201, ""},
+      {15821015, ""},
+      {-80229, ""},  // On purpose: it exists, though it has the day number of 1 March.
+  };
+  for (const auto& row : kDates) {
+    const ScopedRules rules(RulesWith(row.reform));
+    EXPECT_EQ(ToUtf8(MissingDateText(Date(row.date))), row.text) << row.date;
+  }
+}
+
+TEST(SpokenTextTest, ARangeSaysItsEndsAndItsLength) {
+  const ScopedRules rules(RulesWith(kRomanReform));
+  EXPECT_EQ(ToUtf8(RangeText(Date(15821001), Date(15821015))),
+            "du 1er octobre 1582 au 15 octobre 1582, 5 jours");
+  EXPECT_EQ(ToUtf8(RangeText(Date(20240513), Date(20240513))), "le 13 mai 2024, 1 jour");
+}
+
+}  // namespace
+}  // namespace orbisol
