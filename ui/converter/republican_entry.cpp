@@ -67,7 +67,7 @@ void CRepublicanEntry::FitToFont() {
 }
 
 int CRepublicanEntry::Year() const {
-  return std::clamp(ParseDecimal(Units(m_year->text())), 1, kLastRepublicanYear);
+  return std::clamp(ParseDecimal(Utf16View(m_year->text())), 1, kLastRepublicanYear);
 }
 
 void CRepublicanEntry::Load(const RepublicanDate& date) {

@@ -1,20 +1,18 @@
 // Mouse, keys, month menu and year editor of the header.
 
-#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include <utility>
 
 #include "content/selected_date.h"
 #include "core/civil_year.h"
-#include "core/date_text.h"
-#include "resources/command_ids.h"
 #include "ui/header/header_part.h"
 #include "ui/header/header_wnd.h"
+#include "ui/header/month_menu.h"
 #include "ui/header/year_edit.h"
 #include "ui/toolkit/geometry.h"
 #include "ui/toolkit/keys.h"
@@ -23,16 +21,34 @@
 namespace orbisol {
 
 void CHeaderWnd::mouseMoveEvent(QMouseEvent* event) {
-  const QPoint point = Cut(event->position());
-  const bool isOnPart = m_layout.PartAt(point.x(), point.y()) != HeaderPart::kNone;
-  setCursor(isOnPart ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  const QPoint point = PixelAt(event->position());
+  const HeaderPart part = m_layout.PartAt(point.x(), point.y());
+  setCursor(part == HeaderPart::kNone ? Qt::ArrowCursor : Qt::PointingHandCursor);
+  SetPointedAt(part);
 }
 
-// Taken, so that the release comes here too.
+void CHeaderWnd::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  SetPointedAt(HeaderPart::kNone);
+}
+
+void CHeaderWnd::SetPointedAt(HeaderPart part) {
+  if (part != std::exchange(m_pointedAt, part)) update();
+}
+
+void CHeaderWnd::wheelEvent(QWheelEvent* event) {
+  const int steps = m_wheel.Take(*event);
+  if (steps == 0) return;
+  CloseYearEditor();
+  StepMonthsOrYears(Selected(), -steps, event->modifiers() & Qt::ControlModifier ? 1 : 0);
+  Changed(DateMove::kStep);
+}
+
+// Accepts the press, so that the release comes here too.
 void CHeaderWnd::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
-  const QPoint point = Cut(event->position());
+  const QPoint point = PixelAt(event->position());
   const HeaderPart part = m_layout.PartAt(point.x(), point.y());
   if (event->button() == Qt::LeftButton) {
     if (part == HeaderPart::kNone) CloseYearEditor();
@@ -73,14 +89,8 @@ void CHeaderWnd::Step(bool isForward, Qt::KeyboardModifiers modifiers) {
 
 void CHeaderWnd::OpenMonthMenu() {
   CloseYearEditor();
-  auto* const menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  for (int month = 1; month <= 12; ++month) {
-    QAction* const item = menu->addAction(MenuText(UpperFirst(MonthName(month))));
-    item->setData(kCmdFirstMonth + month - 1);
-    connect(item, &QAction::triggered, this, [this, month] { SelectMonth(month); });
-    if (month == Selected().month) menu->setActiveAction(item);
-  }
+  auto* const menu = new CMonthMenu(Selected().month, this);
+  connect(menu, &CMonthMenu::monthChosen, this, &CHeaderWnd::SelectMonth);
   constexpr int kOverlap = 5;
   menu->popup(mapToGlobal(QPoint(m_layout.month.left, m_layout.month.bottom - kOverlap)));
 }
@@ -115,13 +125,14 @@ void CHeaderWnd::CloseYearEditor() {
 void CHeaderWnd::YearEditorClosed(bool byEnter) {
   if (!IsEditingYear()) return;
   const QSignalBlocker closesOnce(m_year);  // losing the focus closes it too
-  // In its window, which may have lost the focus as a whole.
+  // Asked of its window, which may have lost the focus as a whole.
   const bool hadFocus = window()->focusWidget() == m_year;
   // Enter means "today" in the month below: until the key is up its repetitions end here.
   m_isEnterDown = byEnter && hadFocus;
   if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
-  m_year->hide();
+  // Before the editor is hidden: the toolkit would give the focus to the arrow beside it first.
   if (hadFocus && !m_isEnterDown) GiveFocusBack();
+  m_year->hide();
   TakeDate();  // the title stood still under the editor
   LayOut();
   update();

@@ -13,7 +13,7 @@
 
 namespace orbisol {
 
-// The height of a band, from the pixel size of the host's font (its em, not its cell).
+// Returns the height of a band, from the pixel size of the host's font (its em, not its cell).
 constexpr int HeaderBandHeight(int fontPixels) {
   return MulDiv(fontPixels < 0 ? -fontPixels : fontPixels, 120, 100);
 }
@@ -27,7 +27,7 @@ struct HeaderMeasures {
   int space = 0;
   int month = 0;
   int year = 0;
-  int widestYear = 0;  // of "-0000"
+  int widestYear = 0;  // width of "-0000"
 
   int spinButtons = 0;  // width of the spin control beside the year editor, its frame included
 };
@@ -42,28 +42,31 @@ struct HeaderLayout {
     bool operator==(const Point&) const = default;
   };
 
-  Rect previous;  // where a click steps back
+  Rect previous;  // area where a click steps back
   Rect next;
   std::array<Point, 3> previousArrow;  // corners of the triangles
   std::array<Point, 3> nextArrow;
-  Rect previousTip;  // where the tip of an arrow is shown
+  Rect previousTip;  // area where the tip of an arrow is shown
   Rect nextTip;
   Rect topBand;
   Rect title;
   Rect bottomBand;
-  Rect month;  // the name of the month inside the title
+  Rect month;  // place of the name of the month inside the title
   Rect year;
-  Rect yearEditor;  // over the year, with its spin control
+  Rect yearEditor;  // place over the year, with its spin control
 
   HeaderLayout() = default;
   explicit HeaderLayout(const HeaderMeasures& measures);
 
-  // The arrows come before the texts where these overlap.
+  // Returns the part at a point. The arrows come before the texts where these overlap.
   HeaderPart PartAt(int x, int y) const;
 
-  // What the title may take between the two arrows, and the height of its font (ascent + descent).
+  // Returns the width that the title may take between the two arrows.
   static int TitleRoom(int width, int height);
+  // Returns the height of the title's font, ascent and descent together.
   static int TitleHeight(int height, int band) { return height - 2 * band; }
+  // Returns the height of a header whose title is a third higher than a line of the dialogs, at least.
+  static int LeastHeight(int band, int lineHeight) { return 2 * band + lineHeight * 4 / 3; }
 };
 
 }  // namespace orbisol

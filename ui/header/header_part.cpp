@@ -37,7 +37,7 @@ void CHeaderPart::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// From the first part to the left and from the last to the right there is none.
+// Moves the focus to the part beside this one; at either end it stays.
 void CHeaderPart::FocusNeighbor(int step) {
   const auto parts = parentWidget()->findChildren<CHeaderPart*>(QString(), Qt::FindDirectChildrenOnly);
   const qsizetype place = parts.indexOf(this) + step;

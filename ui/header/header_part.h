@@ -9,8 +9,8 @@
 
 namespace orbisol {
 
-// One part. It shows nothing but its focus; the mouse belongs to the header. The parts of a header are made
-// in their order from left to right.
+// One part of the header. It shows nothing but its focus; the mouse belongs to the header. The parts of a
+// header are made in their order from left to right.
 class CHeaderPart : public QAbstractButton {
   Q_OBJECT
 

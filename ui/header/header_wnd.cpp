@@ -43,9 +43,7 @@ CHeaderWnd::CHeaderWnd(QWidget* parent) : QWidget(parent) {
   m_yearPart = new CHeaderPart(HeaderPart::kYear, press, this);
   m_year = new CYearEdit(this);
   m_nextPart = new CHeaderPart(HeaderPart::kNext, press, this);
-  m_previousPart->setAccessibleName(TablePiece(kTextHeaderNames, kNamePrevious));
   m_previousPart->setAccessibleDescription(TableText(kTextPrevious));
-  m_nextPart->setAccessibleName(TablePiece(kTextHeaderNames, kNameNext));
   m_nextPart->setAccessibleDescription(TableText(kTextNext));
 
   m_year->hide();
@@ -106,7 +104,7 @@ void CHeaderWnd::TakeDate() {
   UpdateNames();
 }
 
-// The font of the title, by the size of the header and the face; a date changes neither.
+// Makes the font of the title, which depends on the size of the header and the face; a date changes neither.
 void CHeaderWnd::FitTitle() {
   QFont face = CalendarFont(Display(), font());
   face.setBold(true);
@@ -114,7 +112,9 @@ void CHeaderWnd::FitTitle() {
   m_fittedSize = size();
   m_fittedFace = face;
 
-  m_titleFont = FontOfHeight(face, HeaderLayout::TitleHeight(height(), m_band));
+  // Never smaller than the text of the dialogs, however large the user made that.
+  const int least = QFontMetrics(font()).height();
+  m_titleFont = FontOfHeight(face, std::max(least, HeaderLayout::TitleHeight(height(), m_band)));
   const auto widest = [&] {
     const QFontMetrics metrics(m_titleFont);
     int name = 0;
@@ -129,7 +129,7 @@ void CHeaderWnd::FitTitle() {
         std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
 }
 
-// The font of the year editor, which is as large as the title's where its frame leaves room for that.
+// Makes the font of the year editor, which is as large as the title's where its frame leaves room for that.
 void CHeaderWnd::FitEditor() {
   constexpr int kFieldFrame = 4;  // above and below the text together
   const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
@@ -159,16 +159,47 @@ void CHeaderWnd::LayOut() {
   m_nextPart->setGeometry(ToQRect(m_layout.next));
 }
 
-// What a screen reader says.
+QSize CHeaderWnd::minimumSizeHint() const {
+  const int band = HeaderBandHeight(QFontInfo(font()).pixelSize());
+  return {0, HeaderLayout::LeastHeight(band, QFontMetrics(font()).height())};
+}
+
+// Names the parts for a screen reader: the arrows by the month that they lead to.
 void CHeaderWnd::UpdateNames() {
+  const auto leadsTo = [](int name, int step) {
+    Date there = Selected();
+    StepMonths(there, step);
+    const std::u16string month = MonthName(there.month);
+    return ToQString(FormatText(StringText(kTextLeadsTo), {Piece(StringText(kTextHeaderNames), u'|', name),
+                                                           month, CivilYearOf(there)}));
+  };
   const std::u16string month = UpperFirst(MonthName(Selected().month));
   setAccessibleDescription(LeftText() + QLatin1Char('\n') + RightText());
+  m_previousPart->setAccessibleName(leadsTo(kNamePrevious, -1));
+  m_nextPart->setAccessibleName(leadsTo(kNameNext, 1));
   m_monthPart->setAccessibleName(
       ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameMonth), {month})));
   m_yearPart->setAccessibleName(
       ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameYear), {CivilYearOf(Selected())})));
   m_monthPart->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
   m_yearPart->setAccessibleDescription(YearTip());
+}
+
+// Shows that a click on the part under the pointer does something.
+void CHeaderWnd::PaintPointedAt(QPainter& painter, const QColor& ink) const {
+  const bool isYear = m_pointedAt == HeaderPart::kYear;
+  if (m_pointedAt == HeaderPart::kNone || (isYear && IsEditingYear())) return;
+  const Rect& place = m_pointedAt == HeaderPart::kPrevious ? m_layout.previous
+                      : m_pointedAt == HeaderPart::kNext   ? m_layout.next
+                      : isYear                             ? m_layout.year
+                                                           : m_layout.month;
+  constexpr float kTint = 0.12F;
+  constexpr int kBeside = 4;  // pixels left and right of a text
+  QColor tint = ink;
+  tint.setAlphaF(kTint);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(tint);
+  painter.drawRoundedRect(ToQRect(place).adjusted(-kBeside, 0, kBeside, 0), kBeside, kBeside);
 }
 
 void CHeaderWnd::paintEvent(QPaintEvent*) {
@@ -178,6 +209,7 @@ void CHeaderWnd::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), ToQColor(settings.ColorAt(kColorBgCal)));
 
   painter.setRenderHint(QPainter::Antialiasing);
+  PaintPointedAt(painter, ink);
   painter.setPen(QPen(ink, 1));
   painter.setBrush(ink);
   for (const auto& arrow : {m_layout.previousArrow, m_layout.nextArrow}) {
@@ -229,7 +261,7 @@ QString CHeaderWnd::YearTip() const {
   return lines.join(QLatin1Char('\n'));
 }
 
-// The text that belongs to a point, and the area in which it is the same.
+// Returns the tip of a point, and the area in which it is the same.
 QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
   const auto isIn = [&](const Rect& place) {
     if (!place.Contains(position.x(), position.y())) return false;

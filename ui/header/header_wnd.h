@@ -8,7 +8,8 @@
 //
 // A click on an arrow steps by a month, with Ctrl by a year, with Shift by ten, with both by a hundred; the
 // right button goes to the end of the range. The month opens a menu, the year an editor with a spin control.
-// With the keyboard, Tab and the left and right arrows reach the four, Enter and Space press them.
+// With the keyboard, Tab and the left and right arrows reach the four, Enter and Space press them. The wheel
+// steps by a month, with Ctrl by a year.
 #pragma once
 
 #include <QFont>
@@ -17,6 +18,7 @@
 
 #include "content/selected_date.h"
 #include "ui/header/header_layout.h"
+#include "ui/toolkit/wheel_steps.h"
 
 namespace orbisol {
 
@@ -29,8 +31,8 @@ class CHeaderWnd : public QWidget {
  public:
   explicit CHeaderWnd(QWidget* parent = nullptr);
 
-  // The selected date, the colors, the font or the calendar rules were changed elsewhere. While the year is
-  // being typed its box is left alone.
+  // Shows the selected date, the colors, the font and the calendar rules. While the year is being typed its
+  // box is left alone.
   void Refresh();
 
   bool IsEditingYear() const;
@@ -38,13 +40,16 @@ class CHeaderWnd : public QWidget {
 
   const HeaderLayout& Places() const { return m_layout; }
 
-  // As the bands and the title show them, for tests and for whoever cannot see them.
+  // Return the texts of the title and the bands.
   QString TitleText() const;
-  QString LeftText() const;   // bottom left: the long date
-  QString RightText() const;  // bottom right: week, day of the civil year, days left in it
-  QString EraText() const;    // top right; empty from year 1 on
-  // Empty where civil years begin on 1 January.
-  QString CivilYearText() const;
+  QString LeftText() const;       // bottom left: the long date
+  QString RightText() const;      // bottom right: week, day of the civil year, days left in it
+  QString EraText() const;        // top right; empty from year 1 on
+  QString CivilYearText() const;  // top left; empty where civil years begin on 1 January
+
+  // Returns the height below which bands and title, which is never smaller than the text of the dialogs,
+  // would cover one another.
+  QSize minimumSizeHint() const override;
 
  signals:
   // The selected date was changed here, by the user's hand.
@@ -55,9 +60,11 @@ class CHeaderWnd : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
@@ -66,6 +73,8 @@ class CHeaderWnd : public QWidget {
   void FitTitle();
   void FitEditor();
   void LayOut();
+  void SetPointedAt(HeaderPart part);
+  void PaintPointedAt(QPainter& painter, const QColor& ink) const;
   void Press(HeaderPart part, Qt::KeyboardModifiers modifiers);
   void Step(bool isForward, Qt::KeyboardModifiers modifiers);
   void OpenMonthMenu();
@@ -80,21 +89,23 @@ class CHeaderWnd : public QWidget {
   void UpdateNames();
 
   HeaderLayout m_layout;
-  bool m_hasSize = false;  // one was given to it; until then nothing is laid out
+  bool m_hasSize = false;  // whether a size was given to it; until then nothing is laid out
   QFont m_titleFont;
-  QFont m_fittedFace;  // what the font of the title was made for
+  QFont m_fittedFace;  // face and size of the header that the font of the title was made for
   QSize m_fittedSize;
   int m_band = 0;  // height of the bands
   QString m_monthName;
-  int m_shownYear = 0;  // as the title shows it
+  int m_shownYear = 0;                         // civil year in the title
+  HeaderPart m_pointedAt = HeaderPart::kNone;  // part under the pointer
+  CWheelSteps m_wheel;
   CHeaderPart* m_previousPart = nullptr;
   CHeaderPart* m_monthPart = nullptr;
   CHeaderPart* m_yearPart = nullptr;
   CHeaderPart* m_nextPart = nullptr;
   CYearEdit* m_year = nullptr;
-  QPointer<QWidget> m_focusBefore;  // had the focus when the year editor was opened
-  bool m_isTyping = false;          // a year was entered since the editor was opened
-  bool m_isEnterDown = false;       // the Enter that closed the editor is not up again yet
+  QPointer<QWidget> m_focusBefore;  // widget that had the focus when the year editor was opened
+  bool m_isTyping = false;          // whether a year was entered since the editor was opened
+  bool m_isEnterDown = false;       // whether the Enter that closed the editor is still held down
 };
 
 }  // namespace orbisol

@@ -24,7 +24,7 @@ CYearEdit::CYearEdit(QWidget* parent) : QAbstractSpinBox(parent) {
     const bool hasDigit =
         std::any_of(entered.begin(), entered.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!hasDigit) return;
-    emit YearEntered(std::clamp(ParseDecimal(Units(entered)), -kLastYear, kLastYear));
+    emit YearEntered(std::clamp(ParseDecimal(Utf16View(entered)), -kLastYear, kLastYear));
   });
 }
 
@@ -72,7 +72,7 @@ int CYearEdit::ButtonsWidth() const {
   initStyleOption(&option);
   option.rect = QRect(0, 0, 200, option.fontMetrics.height() + 8);
   const QRect field = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
-  constexpr int kTextMargins = 6;  // of the line edit inside, left and right of its text, with the cursor
+  constexpr int kTextMargins = 6;  // pixels left and right of the text in the field, with the cursor
   return option.rect.width() - field.width() + kTextMargins;
 }
 

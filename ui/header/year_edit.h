@@ -8,11 +8,11 @@
 
 namespace orbisol {
 
-// It takes a sign and digits, and is never rewritten while the user types.
+// Takes a sign and digits, and is never rewritten while the user types.
 class CYearEdit : public QAbstractSpinBox {
   Q_OBJECT
 
-  // By these names a screen reader asks a spin control.
+  // Screen readers ask a spin control for these names.
   Q_PROPERTY(int value READ Position WRITE Enter)
   Q_PROPERTY(int minimum READ Minimum CONSTANT)
   Q_PROPERTY(int maximum READ Maximum CONSTANT)
@@ -20,20 +20,21 @@ class CYearEdit : public QAbstractSpinBox {
  public:
   explicit CYearEdit(QWidget* parent);
 
+  // Shows the editor with the year selected, and gives it the focus.
   void Open(int year);
-  // What the spin control steps from.
+  // Returns the year that the spin control steps from.
   int Position() const { return m_position; }
   void SetPosition(int year);
   int Minimum() const { return -kLastYear; }
   int Maximum() const { return kLastYear; }
-  // As if the year, clamped, were typed.
+  // Does what typing the year, clamped, would do.
   void Enter(int year);
   QString Text() const { return text(); }
 
   void stepBy(int steps) override;
   QValidator::State validate(QString& input, int& position) const override;
 
-  // Width of what stands beside the text: the buttons and the frame.
+  // Returns the width of the buttons and the frame beside the text.
   int ButtonsWidth() const;
 
  signals:

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "content/selected_date.h"
-#include "content/tip_text.h"
+#include "content/spoken_text.h"
 #include "core/civil_year.h"
 #include "core/date_text.h"
 #include "resources/strings.h"
@@ -19,11 +19,14 @@ const DayCell& CellIn(const MonthModel& month, int cell) {
   return month.cells[static_cast<std::size_t>(cell)];
 }
 
-void (*g_listener)(QAccessibleEvent*) = nullptr;
+// Pieces of kTextWeekOf.
+enum { kWeekTitle, kWeekNumber };
+
+void (*g_spy)(QAccessibleEvent*) = nullptr;
 
 void Emit(QAccessibleEvent& event) {
-  if (g_listener != nullptr) {
-    g_listener(&event);
+  if (g_spy != nullptr) {
+    g_spy(&event);
   } else {
     QAccessible::updateAccessibility(&event);
   }
@@ -43,13 +46,13 @@ void InstallMonthAccessible() {
   }();
 }
 
-void TellReader(CMonthWindow& window, MonthNews news) {
-  if (g_listener == nullptr && !QAccessible::isActive()) return;
+void NotifyScreenReader(CMonthWindow& window, MonthNews news) {
+  if (g_spy == nullptr && !QAccessible::isActive()) return;
   if (auto* const table = dynamic_cast<CMonthAccessible*>(QAccessible::queryAccessibleInterface(&window)))
     table->Tell(news);
 }
 
-void SetReader(void (*listener)(QAccessibleEvent* event)) { g_listener = listener; }
+void SetAccessibilitySpy(void (*spy)(QAccessibleEvent* event)) { g_spy = spy; }
 
 CMonthAccessible::CMonthAccessible(CMonthWindow* window) : QAccessibleWidget(window, QAccessible::Table) {}
 
@@ -68,7 +71,9 @@ void* CMonthAccessible::interface_cast(QAccessible::InterfaceType type) {
 QString CMonthAccessible::text(QAccessible::Text kind) const {
   if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
   const Date& selected = Selected();
-  return MonthAndYear(MonthTitle(selected.month), CivilYearOf(selected));
+  const QString month = MonthAndYear(MonthTitle(selected.month), CivilYearOf(selected));
+  const std::u16string missing = MissingDateText(selected);
+  return missing.empty() ? month : month + QLatin1String(". ") + ToQString(missing);
 }
 
 QAccessible::State CMonthAccessible::state() const {
@@ -90,7 +95,7 @@ CMonthItem* CMonthAccessible::Item(int index) const {
 }
 
 int CMonthAccessible::childCount() const {
-  return Window().Places().showWeekNumber ? kMostChildren : kWeekTitle;
+  return Window().Places().showWeekNumber ? kMostChildren : kWeekHeader;
 }
 
 QAccessibleInterface* CMonthAccessible::child(int index) const { return Item(index); }
@@ -130,7 +135,8 @@ QString CMonthAccessible::rowDescription(int row) const {
   const MonthLayout& places = Window().Places();
   if (row < 0 || row >= kWeekRows || !places.showWeekNumber) return {};
   const int week = places.WeekOfRow(Window().Month(), row + 1);
-  return week == 0 ? QString() : QString::number(week);
+  if (week == 0) return {};
+  return ToQString(FormatText(Piece(StringText(kTextWeekOf), u'|', kWeekNumber), {week}));
 }
 
 int CMonthAccessible::selectedCellCount() const { return static_cast<int>(selectedCells().size()); }
@@ -167,7 +173,6 @@ void CMonthAccessible::Tell(MonthNews news) {
     event.setLastColumn(kColumns - 1);
     Emit(event);
     // Readers keep the names that they have asked for until they hear of others.
-    Send(QAccessible::NameChanged, kTable);
     for (int index = 0; index < childCount(); ++index)
       if (m_ids[static_cast<std::size_t>(index)] != 0) Send(QAccessible::NameChanged, index);
   }
@@ -180,8 +185,16 @@ void CMonthAccessible::Tell(MonthNews news) {
     Send(isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, index);
   }
 
+  if (const QString name = text(QAccessible::Name); name != std::exchange(m_toldName, name))
+    Send(QAccessible::NameChanged, kTable);
+
   const int cell = window.SelectedCell();
   const bool isOtherCell = cell != std::exchange(m_toldCell, cell);
+  // The day at the end of a range says how long it is.
+  const int end = window.HasRange() ? IndexOfCell(cell) : -1;
+  const int endBefore = std::exchange(m_toldEnd, end);
+  for (const int index : {endBefore, end})
+    if (index >= 0 && m_ids[static_cast<std::size_t>(index)] != 0) Send(QAccessible::NameChanged, index);
   if (!window.hasFocus() || !(isOtherCell || isOtherMonth || news == MonthNews::kFocus)) return;
   // A reader is silent about the place that it stands on already, though it shows another day now. Over the
   // table, which says the new month, it comes to it anew.
@@ -207,7 +220,7 @@ const DayCell& CMonthItem::Day() const { return CellIn(m_table->Window().Month()
 Rect CMonthItem::Place() const {
   const MonthLayout& places = m_table->Window().Places();
   if (IsWeek()) return places.WeekNumberRect(m_index - CMonthAccessible::kFirstWeek + 1);
-  if (m_index == CMonthAccessible::kWeekTitle) return places.WeekHeaderRect();
+  if (m_index == CMonthAccessible::kWeekHeader) return places.WeekHeaderRect();
   return IsHeader() ? places.NameRect(m_index - CMonthAccessible::kFirstName) : places.CellRect(Cell());
 }
 
@@ -217,7 +230,8 @@ QRect CMonthItem::rect() const {
 
 QAccessible::Role CMonthItem::role() const {
   if (IsWeek()) return QAccessible::RowHeader;
-  return IsHeader() ? QAccessible::ColumnHeader : QAccessible::Cell;
+  // On purpose: a reader that comes to a cell reads the whole week, and never says which of its days it is.
+  return IsHeader() ? QAccessible::ColumnHeader : QAccessible::ListItem;
 }
 
 QAccessible::State CMonthItem::state() const {
@@ -242,11 +256,13 @@ QString CMonthItem::text(QAccessible::Text kind) const {
   CMonthWindow& window = m_table->Window();
   if (kind == QAccessible::Name) {
     if (IsWeek()) return m_table->rowDescription(m_index - CMonthAccessible::kFirstWeek);
-    if (m_index == CMonthAccessible::kWeekTitle) return TableText(kTextWeek);
+    if (m_index == CMonthAccessible::kWeekHeader) return TablePiece(kTextWeekOf, kWeekTitle);
     if (IsHeader()) return m_table->columnDescription(m_index - CMonthAccessible::kFirstName);
-    return ToQString(TipText(Day(), false)).replace(QLatin1Char('\n'), QLatin1String(", "));
+    const std::u16string day = SpokenDay(Day(), window.Today());
+    if (!window.HasRange() || Cell() != window.SelectedCell()) return ToQString(day);
+    return ToQString(day + u", " + window.RangeText());
   }
-  // Gray days: what is pressed there leads to another month.
+  // A gray day leads to another month.
   if (kind != QAccessible::Description || IsHeader() || Day().day == 0) return {};
   if (Day().month == window.Month().month) return {};
   return TablePiece(kTextHeaderNames, window.Places().IsInFirstRow(Cell()) ? kNamePrevious : kNameNext);

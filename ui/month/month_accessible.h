@@ -1,8 +1,9 @@
 // The month as a screen reader knows it: a table of six weeks under the names of the weekdays, with the week
-// numbers, where they are shown, as the headers of its rows. A day is named by what its tip says.
+// numbers, where they are shown, as the headers of its rows. A day is named by its date and all that falls on
+// it; the day at the end of a range also by the range.
 //
-//   InstallMonthAccessible();                     // once; again does nothing
-//   TellReader(window, MonthNews::kSelection);    // after each move of the selected date
+//   InstallMonthAccessible();                             // once; again does nothing
+//   NotifyScreenReader(window, MonthNews::kSelection);    // after each move of the selected date
 //
 // Texts, places and marks are asked of the window when somebody asks for them; nothing is kept but what was
 // last told.
@@ -20,20 +21,20 @@
 namespace orbisol {
 
 enum class MonthNews {
-  kSelection,  // the selected date or the range
-  kTexts,      // names of days too: content, rules or settings
-  kFocus,      // the window has taken the focus
+  kSelection,  // change of the selected date or of the range
+  kTexts,      // change of the names of days too: of content, rules or settings
+  kFocus,      // focus that the window has taken
 };
 
 // Makes CMonthWindow known to the toolkit.
 void InstallMonthAccessible();
 
-// Costs nothing where no reader listens.
-void TellReader(CMonthWindow& window, MonthNews news);
+// Tells readers what has changed. Costs nothing where none listens.
+void NotifyScreenReader(CMonthWindow& window, MonthNews news);
 
-// What is told goes to `listener` until it is nullptr again. For tests: off-screen the toolkit has no
+// Sends all news to `spy` instead, until it is nullptr again. For tests: off-screen the toolkit has no
 // readers.
-void SetReader(void (*listener)(QAccessibleEvent* event));
+void SetAccessibilitySpy(void (*spy)(QAccessibleEvent* event));
 
 class CMonthItem;
 
@@ -48,22 +49,22 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
   QString text(QAccessible::Text kind) const override;
   QAccessible::State state() const override;
 
-  // The days of the six weeks, each week from left to right; then the names of the weekdays; then, where they
-  // are shown, the title of the week numbers and the numbers.
+  // Children are the days of the six weeks, each week from left to right; then the names of the weekdays;
+  // then, where they are shown, the title of the week numbers and the numbers.
   int childCount() const override;
   QAccessibleInterface* child(int index) const override;
   int indexOfChild(const QAccessibleInterface* child) const override;
   QAccessibleInterface* childAt(int x, int y) const override;
   QAccessibleInterface* focusChild() const override;
 
-  // Rows 0..5 and columns 0..6 are the days, and further rows are the other children, seven a row. Never
-  // nullptr, the first day for any other place: the toolkit takes what readers send for a place, and uses the
-  // answer unseen.
+  // Returns a day in rows 0..5 and columns 0..6, and the other children in further rows, seven a row. Never
+  // nullptr but the first day for any other place: the toolkit takes what readers send for a place, and uses
+  // the answer unseen.
   QAccessibleInterface* cellAt(int row, int column) const override;
   int rowCount() const override { return kWeekRows; }
   int columnCount() const override { return kColumns; }
   QString columnDescription(int column) const override;
-  QString rowDescription(int row) const override;  // the week number; empty where none is shown
+  QString rowDescription(int row) const override;  // "Semaine 18"; empty where none is shown
   int selectedCellCount() const override;
   QList<QAccessibleInterface*> selectedCells() const override;
 
@@ -88,25 +89,28 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
 
   // Children by their index.
   static constexpr int kFirstName = kDayPlaces;
-  static constexpr int kWeekTitle = kFirstName + kColumns;
-  static constexpr int kFirstWeek = kWeekTitle + 1;
+  static constexpr int kWeekHeader = kFirstName + kColumns;
+  static constexpr int kFirstWeek = kWeekHeader + 1;
   static constexpr int kMostChildren = kFirstWeek + kWeekRows;
 
   CMonthWindow& Window() const;
-  // nullptr for one that is not shown.
+  // Returns nullptr for a child that is not shown.
   CMonthItem* Item(int index) const;
-  // Of a cell of the model; -1 for kNoCell and for a cell below the six weeks.
+  // Returns the child of a cell of the model; -1 for kNoCell and for a cell below the six weeks.
   int IndexOfCell(int cell) const;
   CMonthItem* ItemOfCell(int cell) const { return Item(IndexOfCell(cell)); }
   void Send(QAccessible::Event type, int index) const;
 
-  // Made when first asked for, and kept: a place keeps its identity whatever month it shows.
+  // Ids of the children, made when first asked for and kept: a place keeps its identity whatever month it
+  // shows.
   mutable std::array<QAccessible::Id, kMostChildren> m_ids{};
 
   std::bitset<kDayPlaces> m_toldSelected;
   int m_toldCell = kNoCell;
+  int m_toldEnd = -1;  // child that was named as the end of a range
+  QString m_toldName;
   int m_toldChildren = 0;
-  PackedDate m_toldMonth = 0;  // its first; 0: nothing told yet
+  PackedDate m_toldMonth = 0;  // first day of the month that was told; 0: nothing told yet
 };
 
 // A day, the name of a weekday or a week number: one place of the table.
@@ -151,9 +155,9 @@ class CMonthItem : public QAccessibleInterface,
  private:
   bool IsHeader() const { return m_index >= CMonthAccessible::kFirstName; }
   bool IsWeek() const { return m_index >= CMonthAccessible::kFirstWeek; }
-  int Cell() const;  // of the model; meant for days
+  int Cell() const;  // index in the model; meant for days
   const DayCell& Day() const;
-  Rect Place() const;  // in the window
+  Rect Place() const;  // rectangle in the window
 
   const CMonthAccessible* m_table;
   int m_index;

@@ -23,7 +23,7 @@ bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
-// Other keys that move the date name a day.
+// Tells which keys take a step; the others that move the date lead to a day that they name.
 bool IsStep(int key) { return IsArrow(key) || key == Qt::Key_PageUp || key == Qt::Key_PageDown; }
 
 }  // namespace
@@ -59,7 +59,8 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
   emit dateMoved(IsStep(key) ? DateMove::kStep : DateMove::kLeap);
 }
 
-// False for a key that moves nothing, as letters with Ctrl, which belong to the frame.
+// Moves the selected date. Returns false for a key that moves nothing, such as a letter with Ctrl, which
+// belongs to the frame.
 bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
   Date& date = Selected();
   const bool hasCtrl = modifiers & Qt::ControlModifier;
@@ -116,7 +117,7 @@ bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
   }
 }
 
-// The key has done what the menu of the keyboard stands for; the mouse has no menu here.
+// Accepts the event of the menu key, which has opened the day already; the mouse has no menu here.
 void CMonthWindow::contextMenuEvent(QContextMenuEvent* event) {
   event->setAccepted(event->reason() == QContextMenuEvent::Keyboard);
 }
@@ -138,7 +139,7 @@ void CMonthWindow::mousePressEvent(QMouseEvent* event) {
   }
   setFocus(Qt::MouseFocusReason);
   CancelRange();
-  const int cell = CellAt(Cut(event->position()));
+  const int cell = CellAt(PixelAt(event->position()));
   m_range.Press(cell);
   if (cell != kNoCell) SelectCell(cell, event->modifiers() & Qt::ControlModifier);
 }
@@ -167,7 +168,7 @@ DateMove CMonthWindow::TakeCell(int cell, bool byYear) {
 
 void CMonthWindow::mouseMoveEvent(QMouseEvent* event) {
   if (!m_range.IsDragging() || !(event->buttons() & Qt::LeftButton)) return;
-  const QPoint point = Cut(event->position());
+  const QPoint point = PixelAt(event->position());
   if (!m_range.Enters(Places().CellAt(point.x(), point.y()))) return;
   const int cell = CellAt(point);
   if (cell == kNoCell) return;
@@ -183,7 +184,7 @@ void CMonthWindow::mouseMoveEvent(QMouseEvent* event) {
 void CMonthWindow::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !m_range.Release()) return;
   const int cell = SelectedCell();
-  const QPoint point = Cut(event->position());
+  const QPoint point = PixelAt(event->position());
   if (cell != kNoCell && !Places().CellRect(cell).Contains(point.x(), point.y())) PullPointer();
   const PackedDate anchor = m_range.Anchor();
   CancelRange();
@@ -197,7 +198,7 @@ void CMonthWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   }
   CancelRange();
   m_range.Release();
-  const int cell = CellAt(Cut(event->position()));
+  const int cell = CellAt(PixelAt(event->position()));
   if (cell == kNoCell) return;
   UpdateCell(SelectedCell());
   if (Month().cells[static_cast<std::size_t>(cell)].month == Selected().month)
@@ -228,11 +229,11 @@ void CMonthWindow::OpenRange(PackedDate anchor) {
 void CMonthWindow::CancelRange() {
   if (m_range.End() == 0) return;
   update();
-  TellReader(*this, MonthNews::kSelection);
+  NotifyScreenReader(*this, MonthNews::kSelection);
 }
 
-// To the middle of the selected cell, where the settings want the pointer to stay on it. Wayland lets nobody
-// move the pointer, and the toolkit would complain.
+// Moves the pointer to the middle of the selected cell, where the settings want it to stay on the day.
+// Wayland lets nobody move the pointer, and the toolkit would complain.
 void CMonthWindow::PullPointer() {
   if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
   const int cell = SelectedCell();
@@ -241,7 +242,8 @@ void CMonthWindow::PullPointer() {
   QCursor::setPos(mapToGlobal(QPoint((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2)));
 }
 
-// False where there is nothing to say; a tip still shown there is hidden.
+// Shows the tip of the day at a position. Returns false where there is nothing to say, and hides the tip that
+// may still be shown there.
 bool CMonthWindow::ShowTip(const QPoint& position, const QPoint& onScreen) {
   const int cell = CellAt(position);
   const std::u16string text =

@@ -7,15 +7,14 @@
 
 #include <algorithm>
 
-#include "core/platform.h"
+#include "content/spoken_text.h"
 #include "ui/month/month_accessible.h"
-#include "ui/painting/month_pictures.h"
 #include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 namespace {
 
-// 0 for a clock that stands outside of the years shown.
+// Returns 0 while the clock stands outside of the years shown.
 PackedDate TodayPacked() {
   const Date today = Date::Today();
   return IsWithinBounds(today) ? today.Packed() : 0;
@@ -27,7 +26,11 @@ CMonthWindow::CMonthWindow(QWidget* parent) : QWidget(parent), m_shown(Selected(
   InstallMonthAccessible();
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
-  m_painter.SetBackground(LoadBackground(Display()));
+  connect(&m_background, &CBackgroundPicture::arrived, this, [this] {
+    m_painter.SetBackground(m_background.Picture());
+    update();
+  });
+  LoadPicture();
   CheckToday();
 }
 
@@ -36,16 +39,16 @@ void CMonthWindow::Refresh() {
   if (!m_range.IsDragging()) CancelRange();
   m_shown = Selected();
   update();
-  TellReader(*this, MonthNews::kSelection);
+  NotifyScreenReader(*this, MonthNews::kSelection);
 }
 
 void CMonthWindow::SettingsChanged() {
-  m_painter.SetBackground(LoadBackground(Display()));
+  LoadPicture();
   LayOut();
   m_builtFor = 0;
   Refresh();
   update();
-  TellReader(*this, MonthNews::kTexts);
+  NotifyScreenReader(*this, MonthNews::kTexts);
 }
 
 const MonthModel& CMonthWindow::Month() {
@@ -69,6 +72,14 @@ int CMonthWindow::CellAt(QPoint position) {
   return cell;
 }
 
+std::u16string CMonthWindow::RangeText() const {
+  if (!HasRange()) return {};
+  const Date anchor(m_range.Anchor());
+  const Date& selected = Selected();
+  const bool isForward = anchor.DayNumber() <= selected.DayNumber();
+  return isForward ? orbisol::RangeText(anchor, selected) : orbisol::RangeText(selected, anchor);
+}
+
 bool CMonthWindow::IsSelected(int cell) {
   const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
   if (HasRange()) return Marks().IsInRange(day);
@@ -90,32 +101,18 @@ bool CMonthWindow::event(QEvent* event) {
   return QWidget::event(event);
 }
 
+// The toolkit keeps what was painted and shows it at once, so nothing flickers here.
 void CMonthWindow::paintEvent(QPaintEvent* event) {
+  m_builtFor = 0;  // Rules, periods or colors may have changed since.
   QPainter painter(this);
-  // The device pixels that are this window's. At a fractional ratio it may begin in the middle of one, and
-  // then takes one more or less than its size alone would say.
-  const double ratio = devicePixelRatioF();
-  const QRectF exact = painter.deviceTransform().mapRect(QRectF(rect()));
-  const QPoint begin(qRound(exact.left()), qRound(exact.top()));
-  const QSize pixels(qRound(exact.right()) - begin.x(), qRound(exact.bottom()) - begin.y());
-  const bool fits = m_canvas.size() == pixels && m_canvas.devicePixelRatio() == ratio;
-  if (!fits) {
-    // A new size, or the window came to a screen of another resolution.
-    m_canvas = QImage(pixels, QImage::Format_RGB32);
-    m_canvas.setDevicePixelRatio(ratio);
-    m_isCanvasPainted = false;
-  }
-  RenderCanvas(m_isCanvasPainted ? event->region() : QRegion());
-  painter.drawImage((begin - exact.topLeft()) / ratio, m_canvas);
+  m_painter.Paint(painter, Month(), Marks(), event->region());
+  painter.end();
+  m_background.Read();
 }
 
-// An empty region stands for the whole canvas.
-void CMonthWindow::RenderCanvas(const QRegion& region) {
-  if (m_canvas.isNull()) return;
-  m_builtFor = 0;  // Rules, periods or colors may have changed since.
-  QPainter painter(&m_canvas);
-  m_painter.Paint(painter, Month(), Marks(), region);
-  m_isCanvasPainted = true;
+void CMonthWindow::LoadPicture() {
+  m_background.Load(Display());
+  m_painter.SetBackground(m_background.Picture());
 }
 
 MonthMarks CMonthWindow::Marks() {
@@ -147,15 +144,20 @@ void CMonthWindow::changeEvent(QEvent* event) {
 
 void CMonthWindow::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
+  m_focusLine.Show(*this);
   // The toolkit is going to name the whole window as what has the focus; the day must be named after it.
   QMetaObject::invokeMethod(
-      this, [this] { TellReader(*this, MonthNews::kFocus); }, Qt::QueuedConnection);
+      this, [this] { NotifyScreenReader(*this, MonthNews::kFocus); }, Qt::QueuedConnection);
+}
+
+void CMonthWindow::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  m_focusLine.Hide();
 }
 
 void CMonthWindow::LayOut() {
   m_painter.SetUp(MonthLayout(width(), height(), Display().showWeekNumber, Rules().iso8601), Display(),
                   font(), CMonthPainter::kScreen);
-  m_isCanvasPainted = false;
 }
 
 void CMonthWindow::UpdateCell(int cell) {
@@ -174,10 +176,10 @@ void CMonthWindow::ShowMove(const Date& before) {
     UpdateCell(SelectedCell());
   }
   m_shown = selected;
-  TellReader(*this, MonthNews::kSelection);
+  NotifyScreenReader(*this, MonthNews::kSelection);
 }
 
-// Underlines another day when the date has changed.
+// Marks another day when the date has changed.
 void CMonthWindow::CheckToday() {
   const PackedDate today = TodayPacked();
   if (today != m_today) update();

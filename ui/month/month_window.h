@@ -11,13 +11,16 @@
 // ever changed by it, always within the bounds, and each change made here is told by a signal.
 #pragma once
 
-#include <QImage>
 #include <QWidget>
+
+#include <string>
 
 #include "content/month_model.h"
 #include "content/selected_date.h"
 #include "platform/today_timer.h"
+#include "ui/month/focus_line.h"
 #include "ui/month/range_drag.h"
+#include "ui/painting/background_picture.h"
 #include "ui/painting/month_layout.h"
 #include "ui/painting/month_painter.h"
 #include "ui/toolkit/wheel_steps.h"
@@ -30,23 +33,27 @@ class CMonthWindow : public QWidget {
  public:
   explicit CMonthWindow(QWidget* parent = nullptr);
 
-  // Shows the selected date. Where it was moved here nothing is left to do; where it was moved elsewhere a
-  // range that is being selected with keys ends.
+  // Shows the selected date and tells nobody. Where it was moved here nothing is left to do; where it was
+  // moved elsewhere a range that is being selected with keys ends.
   void Refresh();
-  // Lays out, loads the background picture and paints anew.
+  // Lays out, drops the background picture and loads it anew, and paints.
   void SettingsChanged();
 
-  // The model of the month shown, built when another one was selected.
+  // Returns the model of the month shown, built when another one was selected.
   const MonthModel& Month();
   const MonthLayout& Places() const { return m_painter.Layout(); }
-  // The cell of the selected date; kNoCell for a date that has none, as 29 February 2025.
+  // Returns the cell of the selected date; kNoCell for a date that has none, as 29 February 2025.
   int SelectedCell();
-  // A cell with a day, by a position in the window; kNoCell elsewhere.
+  // Returns the cell with a day at a position in the window; kNoCell elsewhere.
   int CellAt(QPoint position);
   bool HasRange() const { return m_range.HasRange(); }
-  // Whether a cell's day is the selected one, or lies in the range where there is one.
+  // Returns ends and length of the range that is being drawn; empty where there is none.
+  std::u16string RangeText() const;
+  // Tells whether a cell's day is the selected one, or lies in the range where there is one.
   bool IsSelected(int cell);
-  // As a click on a cell; `byYear` turns a day of a neighboring month into a step of a year.
+  PackedDate Today() const { return m_today; }  // 0 while the clock stands outside of the years shown
+  // Selects a cell's day like a click on it; `byYear` turns a day of a neighboring month into a step of a
+  // year.
   void SelectCell(int cell, bool byYear = false);
 
   QSize sizeHint() const override { return {560, 392}; }
@@ -70,6 +77,7 @@ class CMonthWindow : public QWidget {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -79,15 +87,15 @@ class CMonthWindow : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  // Life (month_window.cpp).
+  // Life and views (month_window.cpp).
   void LayOut();
-  void RenderCanvas(const QRegion& region);
+  void LoadPicture();
   MonthMarks Marks();
   void UpdateCell(int cell);
   void ShowMove(const Date& before);
   void CheckToday();
 
-  // Hands (month_input.cpp).
+  // Keys, mouse and wheel (month_input.cpp).
   bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
   DateMove TakeCell(int cell, bool byYear);
   void CancelRange();
@@ -97,13 +105,13 @@ class CMonthWindow : public QWidget {
   bool ShowTip(const QPoint& position, const QPoint& onScreen);
 
   CMonthPainter m_painter;
+  CBackgroundPicture m_background;
   MonthModel m_month;
-  PackedDate m_builtFor = 0;  // first of the month that m_month was built for
-  Date m_shown;               // the selected date as this window last knew it
-  QImage m_canvas;            // opaque, in device pixels
-  bool m_isCanvasPainted = false;
+  PackedDate m_builtFor = 0;  // first day of the month that m_month was built for; 0: build it anew
+  Date m_shown;               // selected date as this window last knew it
   PackedDate m_today = 0;
   CTodayTimer m_midnight{[this] { CheckToday(); }};
+  CFocusLine m_focusLine;
   CRangeDrag m_range;
   CWheelSteps m_wheel;
 };

@@ -1,31 +1,35 @@
 #include "ui/painting/month_fonts.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
-#include <QString>
-#include <QStringList>
 
 #include <algorithm>
 
-#include "ui/toolkit/plain_text.h"
+#include "resources/strings.h"
 #include "ui/painting/month_texts.h"
+#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
 
-int WidestOf(const QStringList& texts, const QFont& font) {
-  const QFontMetrics metrics(font);
+constexpr int kLeastNamePixels = 11;  // below that a weekday name is abbreviated
+constexpr int kLeastWeekPixels = 8;   // below that two digits are a smudge
+
+template <class Texts>
+int WidestOf(const Texts& texts, const QFontMetrics& metrics) {
   int widest = 0;
   for (const QString& text : texts) widest = std::max(widest, metrics.horizontalAdvance(text));
   return widest;
 }
 
-// `font` in the largest size, at most its own, at which all the texts fit into `room`.
-QFont FontOfWidth(QFont font, const QStringList& texts, int room) {
-  const int widest = WidestOf(texts, font);
+// Returns `font` in the largest size, at most its own, at which all the texts fit into `room`.
+template <class Texts>
+QFont FontOfWidth(QFont font, const Texts& texts, int room) {
+  const int widest = WidestOf(texts, QFontMetrics(font));
   if (widest <= room) return font;
   const auto fits = [&](int size) {
     font.setPixelSize(size);
-    return WidestOf(texts, font) <= room;
+    return WidestOf(texts, QFontMetrics(font)) <= room;
   };
   // Widths grow with the size, nearly evenly.
   const int largest = font.pixelSize();
@@ -34,6 +38,13 @@ QFont FontOfWidth(QFont font, const QStringList& texts, int room) {
   while (size < largest && fits(size + 1)) ++size;
   font.setPixelSize(size);
   return font;
+}
+
+std::array<QString, kColumns> NamesOfColumns(int firstCell, QString (*nameOf)(int column, int firstCell)) {
+  std::array<QString, kColumns> names;
+  for (int column = 0; column < kColumns; ++column)
+    names[static_cast<std::size_t>(column)] = nameOf(column, firstCell);
+  return names;
 }
 
 }  // namespace
@@ -70,13 +81,37 @@ MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& sett
   fonts.upright = FontOfHeight(CalendarFont(settings, dialogFont), layout.FontHeight());
   fonts.italic = fonts.upright;
   fonts.italic.setItalic(true);
-  QStringList names;
-  for (int column = 0; column < kColumns; ++column) names << ColumnName(column, layout.firstCell);
-  fonts.names = FontOfWidth(fonts.upright, names, layout.NameRect(0).Width());
-  constexpr int kWeekMargin = 1;
-  fonts.small = FontOfWidth(FontOfHeight(fonts.upright, layout.SmallFontHeight()), {QStringLiteral("00")},
-                            layout.WeekNumberRect(1).Width() - 2 * kWeekMargin);
+
+  // An eighth of the column stays free, so that no name touches its lines.
+  const int room = std::min(layout.NameRect(0).Width(), layout.columnWidth - layout.columnWidth / 8);
+  const int least = std::max(kLeastNamePixels, QFontInfo(dialogFont).pixelSize()) * layout.lineScale;
+  fonts.nameTexts = NamesOfColumns(layout.firstCell, ColumnName);
+  fonts.names = FontOfWidth(fonts.upright, fonts.nameTexts, room);
+  if (fonts.names.pixelSize() < std::min(least, fonts.upright.pixelSize())) {
+    fonts.nameTexts = NamesOfColumns(layout.firstCell, ColumnAbbrev);
+    QFont dialogSize = fonts.upright;
+    dialogSize.setPixelSize(std::min(least, fonts.upright.pixelSize()));
+    fonts.names = FontOfWidth(dialogSize, fonts.nameTexts, room);
+  }
+
+  const QFont small = FontOfHeight(fonts.upright, layout.SmallFontHeight());
+  const auto ofWeeks = [&](const QString& widest) {
+    QFont font = FontOfWidth(small, std::array{widest}, layout.WeekNumberRect(1).Width());
+    font.setPixelSize(std::max(font.pixelSize(), kLeastWeekPixels * layout.lineScale));
+    return font;
+  };
+  fonts.small = ofWeeks(QStringLiteral("00"));
+  fonts.weekTitle = ofWeeks(TableText(kTextWeek));
   return fonts;
+}
+
+QSize LeastMonthSize(const QFont& dialogFont) {
+  const QFontMetrics metrics(dialogFont);
+  const int name = WidestOf(NamesOfColumns(1, ColumnAbbrev), metrics);
+  // Four and two thirds of the font's size, at least as wide as a name with an eighth free.
+  const int column = std::max(MulDiv(QFontInfo(dialogFont).pixelSize(), 14, 3), (name * 8 + 6) / 7);
+  const int row = (metrics.height() * 9 + 3) / 4;
+  return {column * kColumns, row * (kWeekRows + 1)};
 }
 
 }  // namespace orbisol

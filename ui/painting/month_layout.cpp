@@ -22,7 +22,6 @@ MonthLayout::MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool
 int MonthLayout::WeekOfRow(const MonthModel& month, int row) const {
   const auto cell = [&](int index) -> const DayCell& { return month.cells[static_cast<std::size_t>(index)]; };
   const int end = firstCell + row * kColumns - 1;
-  // On purpose: 0 where the last cell but one is empty, in the first row shown, where the range begins.
   if (cell(end).day != 0) return cell(end - 1).week;
   const int last = month.LastCell();
   return last != kNoCell && RowOf(last) == row ? cell(last).week : 0;
@@ -101,8 +100,8 @@ Rect MonthLayout::CircleRect(int cell) const {
 
 Rect MonthLayout::FrameRect(int cell, int penWidth) const {
   Rect frame = CellRect(cell);
-  // The strokes follow the cell shrunk by half the pen. One of an odd width ends a pixel behind the cell, but
-  // never outside of the canvas.
+  // The middle of each stroke lies on the edge of the cell shrunk by half the pen. A stroke of odd width ends
+  // a pixel behind the cell, but never outside of the canvas.
   frame.right = std::min(frame.right + penWidth % 2, width);
   frame.bottom = std::min(frame.bottom + penWidth % 2, height);
   return frame;
@@ -118,7 +117,7 @@ std::vector<Rect> MonthLayout::FrameStrokes(const Rect& frame, int thickness) {
 }
 
 Rect MonthLayout::DirtyRect(int cell) const {
-  constexpr int kWidestStroke = 3;  // of a mark, which leaves small cells by up to that
+  constexpr int kWidestStroke = 3;  // by which the mark may leave a small cell
   return CellRect(cell).Shrunk(-std::max(columnWidth / 10, kWidestStroke),
                                -std::max(rowHeight / 8, kWidestStroke));
 }

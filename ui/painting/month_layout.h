@@ -32,49 +32,50 @@ struct MonthLayout {
   MonthLayout() = default;
   MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale = 1);
 
-  // Column 0..6 and row 1..6 of a cell from firstCell on.
+  // Column 0..6 and row 1..6 of a cell, which must be firstCell or a later one.
   int ColumnOf(int cell) const { return (cell - firstCell) % kColumns; }
   int RowOf(int cell) const { return (cell - firstCell) / kColumns + 1; }
   bool IsInFirstRow(int cell) const { return RowOf(cell) == 1; }
 
-  // The week number at the end of row 1..6: that of the row's last cell but one, and in the row in which the
-  // month's cells end that of the last of them. 0: the row shows none.
+  // Returns the week number at the end of row 1..6: that of the row's last cell but one or, in the row in
+  // which the month's cells end, that of the last of them. 0 for a row that shows none.
   int WeekOfRow(const MonthModel& month, int row) const;
 
   Rect CellRect(int cell) const;
-  // kNoCell in the header row, in and right of the week numbers, in the rest that the divisions leave at the
-  // right and below, and outside.
+  // Returns kNoCell in the header row, in and right of the week numbers, in the rest that the divisions leave
+  // at the right and below, and outside.
   int CellAt(int x, int y) const;
 
   Rect HeaderBand() const { return {0, 0, width, rowHeight + 1}; }
   Rect PictureRect() const { return {0, rowHeight, width, height}; }
-  Rect NameRect(int column) const;  // of a weekday name, 0..6
-  Rect WeekHeaderRect() const;      // of the title of the week numbers
+  Rect NameRect(int column) const;  // place of a weekday name, 0..6
+  Rect WeekHeaderRect() const;      // place of the title over the week numbers
   Rect WeekNumberRect(int row) const;
 
-  // Left and upper edges of the grid's lines, the closing ones included, which lie just outside.
+  // Return the left and upper edges of the grid's lines, the closing ones included, which lie just outside.
   std::vector<int> VerticalLines(bool grid) const;
   std::vector<int> HorizontalLines(bool grid) const;
 
-  // What is filled for a day with a mark: a band across the top of its cell, or a rectangle with rounded
-  // corners.
+  // Return where a day with a mark is filled: in a band across the top of its cell, or in a rectangle with
+  // rounded corners.
   Rect BandRect(int cell) const;
   Rect RoundedRect(int cell) const { return CellRect(cell).Shrunk(4 * lineScale); }
   int RoundedDiameter() const;
 
-  // The phase of the moon, right of a number of two digits whose text is `textWidth` wide and `textHeight`
-  // high.
+  // Returns the square of the phase of the moon, right of a number of two digits whose text is `textWidth`
+  // wide and `textHeight` high.
   Rect GlyphRect(int cell, int textWidth, int textHeight) const;
 
-  Rect CircleRect(int cell) const;               // the ellipse of the active day
-  Rect FrameRect(int cell, int penWidth) const;  // its frame by the outer edges of the strokes
-  // The strokes of a frame, in any unit: top, bottom, left, right; one where it is all stroke.
+  Rect CircleRect(int cell) const;  // around the ellipse of the active day
+  // Returns the outer edges of the frame of the active day.
+  Rect FrameRect(int cell, int penWidth) const;
+  // Returns the strokes of a frame, in any unit: top, bottom, left, right; one where it is all stroke.
   static std::vector<Rect> FrameStrokes(const Rect& frame, int thickness);
 
-  // What is painted anew when the mark comes to a cell or leaves it.
+  // Returns what must be painted anew when the mark comes to a cell or leaves it.
   Rect DirtyRect(int cell) const;
 
-  // Heights of fonts, ascent and descent together.
+  // Return heights of fonts, ascent and descent together.
   int FontHeight() const;
   int SmallFontHeight() const;
 

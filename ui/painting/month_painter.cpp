@@ -1,7 +1,6 @@
 #include "ui/painting/month_painter.h"
 
 #include <QColor>
-#include <QPaintDevice>
 #include <QPainter>
 
 #include <algorithm>
@@ -17,8 +16,19 @@
 namespace orbisol {
 namespace {
 
-// On one line in the middle of a rectangle; what is too wide is cut at both sides. Returns the rectangle of
-// the text.
+// Opacity of the tint in today's cell: it is found at a glance and shouts beside no holiday.
+constexpr float kTodayTint = 0.14F;
+
+// Returns a region that is one unit larger at every side. At a fractional ratio a unit ends inside a device
+// pixel, and the whole of that pixel is to be painted.
+QRegion Grown(const QRegion& region) {
+  QRegion grown;
+  for (const QRect& rect : region) grown += rect.adjusted(-1, -1, 1, 1);
+  return grown;
+}
+
+// Draws a text on one line in the middle of a rectangle; one that is too wide is cut at both sides. Returns
+// the rectangle of the text.
 QRect DrawCentered(QPainter& painter, const QRect& rect, const QString& text) {
   const QFontMetrics metrics = painter.fontMetrics();
   const int textWidth = metrics.horizontalAdvance(text);
@@ -67,10 +77,12 @@ void CMonthPainter::Paint(QPainter& painter, const MonthModel& month, const Mont
                           const QRegion& region) const {
   if (m_layout.width == 0 || m_layout.height == 0) return;
   painter.save();
-  if (!region.isEmpty()) painter.setClipRegion(region, Qt::IntersectClip);
+  AlignToPixels(painter);
+  const QRegion asked = Grown(region);
+  if (!asked.isEmpty()) painter.setClipRegion(asked, Qt::IntersectClip);
   painter.setRenderHint(QPainter::TextAntialiasing);
 
-  const auto isAsked = [&](const Rect& rect) { return region.isEmpty() || region.intersects(ToQRect(rect)); };
+  const auto isAsked = [&](const Rect& rect) { return asked.isEmpty() || asked.intersects(ToQRect(rect)); };
   PaintBackground(painter);
   if (isAsked(m_layout.HeaderBand())) PaintHeader(painter);
   PaintGrid(painter);
@@ -89,7 +101,7 @@ void CMonthPainter::Paint(QPainter& painter, const MonthModel& month, const Mont
 
   if (marks.hasRange) {
     PaintRange(painter, month, marks);
-  } else if (marks.isVisible) {
+  } else {
     const int cell = month.CellOf(marks.month, marks.day);
     if (cell != kNoCell && isAsked(m_layout.DirtyRect(cell))) PaintMark(painter, cell);
   }
@@ -128,9 +140,10 @@ void CMonthPainter::PaintHeader(QPainter& painter) const {
   painter.setPen(ToQColor(m_settings.ColorAt(kHeaderTextColor)));
   painter.setFont(m_fonts.names);
   for (int column = 0; column < kColumns; ++column)
-    DrawCentered(painter, ToQRect(m_layout.NameRect(column)), ColumnName(column, m_layout.firstCell));
+    DrawCentered(painter, ToQRect(m_layout.NameRect(column)),
+                 m_fonts.nameTexts[static_cast<std::size_t>(column)]);
   if (m_settings.showWeekNumber) {
-    painter.setFont(m_fonts.small);
+    painter.setFont(m_fonts.weekTitle);
     DrawCentered(painter, ToQRect(m_layout.WeekHeaderRect()), TableText(kTextWeek));
   }
 }
@@ -140,22 +153,31 @@ void CMonthPainter::PaintGrid(QPainter& painter) const {
   for (const int y : m_layout.HorizontalLines(m_settings.grid)) FillLine(painter, y, Qt::Horizontal);
 }
 
-// Device pixels a unit of the layout; a printer's unit is its pixel.
+// Returns the device pixels in a unit of the layout; a printer's unit is its pixel.
 double CMonthPainter::Ratio(const QPainter& painter) const {
-  return m_medium == kScreen ? painter.device()->devicePixelRatio() : 1;
+  return m_medium == kScreen ? painter.deviceTransform().m11() : 1;
 }
 
-// A thin line of the grid, from edge to edge. It is whole device pixels wide at every ratio, so that none is
-// thicker than its neighbor.
+// Moves the origin to a whole device pixel. At a fractional ratio a window may begin in the middle of one,
+// and then takes one more or less than its size alone would say.
+void CMonthPainter::AlignToPixels(QPainter& painter) const {
+  const double ratio = Ratio(painter);
+  if (m_medium == kPaper) {
+    m_pixels = QSize(m_layout.width, m_layout.height);
+    return;
+  }
+  const QRectF exact = painter.deviceTransform().mapRect(QRectF(0, 0, m_layout.width, m_layout.height));
+  const QPoint begin(qRound(exact.left()), qRound(exact.top()));
+  m_pixels = QSize(qRound(exact.right()) - begin.x(), qRound(exact.bottom()) - begin.y());
+  painter.translate((begin - exact.topLeft()) / ratio);
+}
+
+// Draws a thin line of the grid, from edge to edge. It is whole device pixels wide at every ratio, so that
+// none is thicker than its neighbor.
 void CMonthPainter::FillLine(QPainter& painter, int position, Qt::Orientation orientation) const {
   const double ratio = Ratio(painter);
-  // A canvas may have a pixel more or less than its size in units says.
-  const auto extent = [&](int units, int pixels) {
-    const double all = std::ceil(units * ratio);
-    return m_medium == kScreen ? std::min<double>(all, pixels) : all;
-  };
-  const double width = extent(m_layout.width, painter.device()->width());
-  const double height = extent(m_layout.height, painter.device()->height());
+  const double width = m_pixels.width();
+  const double height = m_pixels.height();
   const double thickness = std::max(1.0, std::floor(m_layout.lineScale * ratio));
   // On purpose: the closing lines lie just outside of the canvas; drawn at its edge they are seen.
   const double end = orientation == Qt::Vertical ? width : height;
@@ -170,6 +192,12 @@ void CMonthPainter::FillLine(QPainter& painter, int position, Qt::Orientation or
 void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int cell,
                               const MonthMarks& marks) const {
   const DayCell& day = month.cells[static_cast<std::size_t>(cell)];
+  const bool isToday = m_medium == kScreen && marks.today != 0 && day.ymd == marks.today;
+  if (isToday) {
+    QColor tint = ToQColor(kHighlightColor);
+    tint.setAlphaF(kTodayTint);
+    painter.fillRect(ToQRect(m_layout.CellRect(cell)), tint);
+  }
   // On purpose: compared with the window color of the palette, not with the background of the settings.
   if (day.marks != 0 && day.backColor != kWindowColor) PaintFill(painter, day, cell);
 
@@ -177,7 +205,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
   painter.setFont(day.month == month.month ? m_fonts.upright : m_fonts.italic);
   painter.setPen(ink);
   const QRect number = DrawCentered(painter, ToQRect(m_layout.CellRect(cell)), QString::number(day.day));
-  if (m_medium == kScreen && marks.today != 0 && day.ymd == marks.today) {
+  if (isToday) {
     const int descent = painter.fontMetrics().descent();
     const int thickness = std::max(1, number.height() / 20);
     painter.fillRect(number.x(), number.y() + number.height() - descent + std::max(1, descent / 4),

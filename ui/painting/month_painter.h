@@ -2,10 +2,10 @@
 //
 //   CMonthPainter painter;
 //   painter.SetUp(layout, settings, font(), CMonthPainter::kScreen);
-//   painter.SetBackground(LoadBackground(settings));
+//   painter.SetBackground(BuiltInBackground());
 //   painter.Paint(canvas, model, marks);
 //
-// Painting changes nothing but the canvas. Its origin is the upper left corner of the layout.
+// Painting changes nothing but the canvas. The painter's origin is the upper left corner of the layout.
 #pragma once
 
 #include <QFontMetrics>
@@ -24,11 +24,10 @@ class QPainter;
 
 namespace orbisol {
 
-// What is marked in a month.
+// The days that are marked in a month.
 struct MonthMarks {
-  int month = 0;  // of the selected date; with no such cell nothing is marked
+  int month = 0;  // month and day of the selected date; with no such cell nothing is marked
   int day = 0;
-  bool isVisible = true;  // the mark of the selected date
 
   // Day numbers of a range, both inclusive, whose cells are inverted instead. Not on paper.
   bool hasRange = false;
@@ -36,7 +35,7 @@ struct MonthMarks {
   int lastDayNumber = 0;
   bool IsInRange(const DayCell& cell) const;  // false for an empty cell, and where there is no range
 
-  PackedDate today = 0;  // its number is underlined; not on paper. 0: none
+  PackedDate today = 0;  // day whose number is underlined and whose cell is tinted, not on paper; 0: none
 };
 
 class CMonthPainter {
@@ -48,12 +47,12 @@ class CMonthPainter {
   void SetUp(const MonthLayout& layout, const DisplaySettings& settings, const QFont& dialogFont,
              Medium medium);
 
-  // Stretched over the rows; null for none, which leaves the plain background color.
+  // Sets the picture that is stretched over the rows; null for none, which leaves the plain background color.
   void SetBackground(const QImage& picture);
 
   const MonthLayout& Layout() const { return m_layout; }
 
-  // With a region only what lies in it is painted, the same as the whole painting would there.
+  // With a region only that is painted, and it looks there as if all had been painted anew.
   void Paint(QPainter& painter, const MonthModel& month, const MonthMarks& marks,
              const QRegion& region = QRegion()) const;
 
@@ -68,15 +67,18 @@ class CMonthPainter {
   void PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const;
   void PaintMark(QPainter& painter, int cell) const;
   void FillLine(QPainter& painter, int position, Qt::Orientation orientation) const;
+  void AlignToPixels(QPainter& painter) const;
   double Ratio(const QPainter& painter) const;
 
   MonthLayout m_layout;
   DisplaySettings m_settings;
   Medium m_medium = kScreen;
   MonthFonts m_fonts;
-  int m_pairWidth = 0;  // of a number of two digits in the upright font
+  int m_pairWidth = 0;  // width of a number of two digits in the upright font
   int m_lineHeight = 0;
   QImage m_background;
+
+  mutable QSize m_pixels;  // device pixels that the layout takes where it is being painted
 
   // Copies in device pixels, made when a size is first painted.
   mutable QImage m_stretched;

@@ -1,30 +1,11 @@
 #include "ui/painting/month_pictures.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include "resources/pictures/pictures.h"
-#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
-namespace {
-
-constexpr QSize kLargeScreen(3840, 2160);
-
-}  // namespace
-
-QImage LoadBackground(const DisplaySettings& settings) {
-  if (!settings.backgroundImage) return {};
-  const std::u16string_view path = settings.backgroundImagePath.View();
-  QImageReader reader(path.empty() ? BackgroundPicturePath() : ToQString(path));
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  // The toolkit refuses pictures of some 33 million pixels and more, unless they are made smaller on the way.
-  const QSize size = reader.size();
-  if (size.width() > kLargeScreen.width() || size.height() > kLargeScreen.height())
-    reader.setScaledSize(size.scaled(kLargeScreen, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-  return reader.read();
-}
+QImage BuiltInBackground() { return QImage(BackgroundPicturePath()); }
 
 QImage MoonGlyph(MoonPhase phase, int side) {
   static const QImage strip(MoonPicturePath());
@@ -42,7 +23,7 @@ void DrawMoonOnPaper(QPainter& painter, const QRectF& square, MoonPhase phase, d
   painter.setBrush(phase == kNewMoon ? Qt::black : Qt::white);
   painter.drawEllipse(disc);
   if (phase == kFirstQuarter || phase == kLastQuarter) {
-    constexpr int kQuarterTurn = 90 * 16;  // counted from the east, against the clock
+    constexpr int kQuarterTurn = 90 * 16;  // sixteenths of a degree, from the east against the clock
     const bool darkAtLeft = phase == kFirstQuarter;
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);

@@ -9,6 +9,10 @@ QString ColumnName(int column, int firstCell) {
   return ToQString(UpperFirst(WeekdayName(column + firstCell)));
 }
 
+QString ColumnAbbrev(int column, int firstCell) {
+  return ToQString(UpperFirst(WeekdayAbbrev(column + firstCell)));
+}
+
 QString MonthTitle(int month) { return ToQString(UpperFirst(MonthName(month))); }
 
 QString MonthAndYear(const QString& monthTitle, int year) {

@@ -8,13 +8,14 @@ namespace orbisol {
 // Pieces of kTextHeaderNames.
 enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
 
-// "Lundi": over column 0..6 of a month whose first cell is 1 (Monday) or 0 (Sunday).
+// Return "Lundi" and "Lun.", by the column 0..6 of a month whose first cell is 1 (Monday) or 0 (Sunday).
 QString ColumnName(int column, int firstCell);
+QString ColumnAbbrev(int column, int firstCell);
 
-// "Mai", by a month 1..12.
+// Returns "Mai", by a month 1..12.
 QString MonthTitle(int month);
 
-// "Mai 2024", by the civil year.
+// Returns "Mai 2024", by the civil year.
 QString MonthAndYear(const QString& monthTitle, int year);
 
 }  // namespace orbisol

@@ -12,9 +12,9 @@ namespace orbisol {
 
 inline QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
-// The pixel in which a position lies, as an event has it; on a screen of a fractional ratio that is often
+// Returns the pixel in which the position of an event lies. On a screen of a fractional ratio that is often
 // none of its corners.
-inline QPoint Cut(const QPointF& position) {
+inline QPoint PixelAt(const QPointF& position) {
   return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
 }
 

@@ -8,9 +8,11 @@
 #include <QMenu>
 #include <QTest>
 #include <QToolTip>
+#include <QWheelEvent>
 
 #include "tests/ui/month/month_fixture.h"
 #include "ui/header/year_edit.h"
+#include "ui/toolkit/colors.h"
 
 namespace orbisol {
 namespace {
@@ -100,10 +102,39 @@ TEST_F(HeaderWndTest, TheMonthMenuKeepsTheDay) {
   const QList<QAction*> months = OpenMenu()->actions();
   EXPECT_EQ(months[7]->text(), QStringLiteral("Mois && co"));
   EXPECT_EQ(months[7]->data().toInt(), 1058);
+  EXPECT_TRUE(months[4]->isChecked());
   months[3]->trigger();
   OpenMenu()->close();
   EXPECT_EQ(Now(), 20240431);  // On purpose: 31 April is kept.
   EXPECT_EQ(changes, 1);
+}
+
+TEST_F(HeaderWndTest, TheMonthMenuGoesToFirstLettersAndToItsEnds) {
+  Click(header.Places().month);
+  for (const auto& [key, month] : {std::pair{Qt::Key_J, 6},
+                                   {Qt::Key_J, 7},
+                                   {Qt::Key_J, 1},
+                                   {Qt::Key_End, 12},
+                                   {Qt::Key_X, 12},
+                                   {Qt::Key_O, 10},
+                                   {Qt::Key_Home, 1},
+                                   {Qt::Key_Up, 12}}) {
+    QTest::keyClick(OpenMenu(), key);
+    ASSERT_NE(OpenMenu(), nullptr);
+    EXPECT_EQ(OpenMenu()->actions().indexOf(OpenMenu()->activeAction()), month - 1) << key;
+  }
+  OpenMenu()->close();
+}
+
+TEST_F(HeaderWndTest, TheWheelStepsByMonthsAndWithCtrlByYears) {
+  for (const auto& [turned, modifiers, to] : {std::tuple{-120, Qt::NoModifier, 20240329},
+                                              {240, Qt::NoModifier, 20240129},
+                                              {-120, Qt::ControlModifier, 20250129}}) {
+    QWheelEvent event({300, 30}, {300, 30}, {}, {0, turned}, {}, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&header, &event);
+    EXPECT_EQ(Now(), to);
+  }
+  EXPECT_EQ(changes, 3);
 }
 
 TEST_F(HeaderWndTest, TheYearEditorReadsEachChange) {
@@ -146,7 +177,7 @@ TEST_F(HeaderWndTest, TheYearEditorGivesTheFocusBackUnlessItWasTaken) {
   EXPECT_TRUE(other.hasFocus());
 
   for (const auto& [key, taker] :
-       {std::pair{Qt::Key_Tab, "Mois suivant"}, {Qt::Key_Backtab, "Année : 2024"}}) {
+       {std::pair{Qt::Key_Tab, "Mois suivant : mars 2024"}, {Qt::Key_Backtab, "Année : 2024"}}) {
     OpenYear();
     Key(key);
     EXPECT_FALSE(header.IsEditingYear());
@@ -167,7 +198,7 @@ TEST_F(HeaderWndTest, TheYearIsTheCivilOne) {
   }
 }
 
-TEST_F(HeaderWndTest, TheBandsSayWhatBelongsThere) {
+TEST_F(HeaderWndTest, TextsAreThoseOfTheDate) {
   Display().showWeekNumber = false;
   Show(20240101);
   EXPECT_EQ(header.LeftText(), QStringLiteral("Lundi 1 janvier 2024"));
@@ -179,12 +210,43 @@ TEST_F(HeaderWndTest, TheBandsSayWhatBelongsThere) {
   EXPECT_EQ(header.EraText(), QString());
 }
 
+// Each text and arrow leaves ink in its place, and another date other ink.
+TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
+  Show(101);  // has eras in the top band
+  const HeaderLayout& places = header.Places();
+  const QColor ink = ToQColor(Display().ColorAt(kColorCalHeader));
+  const QImage image = header.grab().toImage();
+  const auto half = [](const Rect& band, bool isRight) {
+    return QRect(isRight ? band.right / 2 : 0, band.top, band.right / 2, band.Height());
+  };
+  Rect previous = places.previous;
+  Rect next = places.next;
+  for (const QRect& place :
+       {ToQRect(previous.Shrunk(previous.Width() / 4)), ToQRect(next.Shrunk(next.Width() / 4)),
+        ToQRect(places.month), ToQRect(places.year), half(places.topBand, true),
+        half(places.bottomBand, false), half(places.bottomBand, true)}) {
+    int inked = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+      for (int x = place.left(); x <= place.right(); ++x) inked += image.pixelColor(x, y) == ink;
+    EXPECT_GE(inked, 5) << place.x() << ", " << place.y();
+  }
+  const auto point = [&](QPoint at) {
+    QMouseEvent event(QEvent::MouseMove, at, header.mapToGlobal(at), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&header, &event);
+    return header.grab().toImage();
+  };
+  for (const Rect& part : {previous, places.month, places.year, next})
+    EXPECT_NE(point(ToQRect(part).center()), image) << part.left;
+  EXPECT_EQ(point(QPoint(100, 3)), image);
+}
+
 TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
   Show(101);
   const HeaderLayout& places = header.Places();
   for (const auto& [point, text] : {std::pair{QPoint(3, 3), "Clic=mois précédent"},
                                     {QPoint(597, 3), "Clic=mois suivant"},
                                     {ToQRect(places.year).center(), "753 AUC | 1 av. JC"},
+                                    {ToQRect(places.year).center(), "siècle"},
                                     {QPoint(100, 3), "none"}})
     EXPECT_NE(TipAt(point).find(text), std::string::npos) << TipAt(point);
 
@@ -200,13 +262,13 @@ TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
 
 TEST_F(HeaderWndTest, TheKeyboardReachesAndPressesAllParts) {
   Key(Qt::Key_Tab);
-  EXPECT_EQ(Focused(), "Mois précédent");
+  EXPECT_EQ(Focused(), "Mois précédent : janvier 2024");
   Key(Qt::Key_Return, Qt::ShiftModifier);
   Key(Qt::Key_Space);
   RepeatEnter();
   EXPECT_EQ(Now(), 20131229);
   Key(Qt::Key_Left);  // there is nothing
-  EXPECT_EQ(Focused(), "Mois précédent");
+  EXPECT_EQ(Focused(), "Mois précédent : novembre 2013");
 
   Key(Qt::Key_Right);
   EXPECT_EQ(Focused(), "Mois : Décembre");
@@ -222,11 +284,15 @@ TEST_F(HeaderWndTest, TheKeyboardReachesAndPressesAllParts) {
   Key(Qt::Key_Return);
   RepeatEnter();
   EXPECT_TRUE(header.IsEditingYear());
+  int focused = 0;
+  const auto counted = QObject::connect(qApp, &QApplication::focusChanged, [&] { ++focused; });
   Key(Qt::Key_Escape);
-  EXPECT_EQ(Focused(), "Année : 2013");  // back where it came from
+  EXPECT_EQ(Focused(), "Année : 2013");  // back where it came from, over nothing else
+  EXPECT_EQ(focused, 1);
+  QObject::disconnect(counted);
   Key(Qt::Key_Right);
   Key(Qt::Key_Right);
-  EXPECT_EQ(Focused(), "Mois suivant");
+  EXPECT_EQ(Focused(), "Mois suivant : janvier 2014");
 }
 
 TEST_F(HeaderWndTest, EveryTitleFitsBetweenTheArrows) {
@@ -238,6 +304,13 @@ TEST_F(HeaderWndTest, EveryTitleFitsBetweenTheArrows) {
     EXPECT_LE(places.year.right, places.next.left) << size.width();
     EXPECT_LE(std::abs(places.month.left + places.year.right - size.width()), 1) << "centered together";
   }
+  QFont large;
+  large.setPixelSize(24);
+  header.setFont(large);
+  header.resize(900, header.minimumSizeHint().height());
+  const QFontMetrics texts(large);
+  EXPECT_GE(header.Places().title.Height(), texts.height());
+  EXPECT_GE(header.Places().month.Width(), texts.horizontalAdvance(QStringLiteral("Septembre")));
 }
 
 }  // namespace

@@ -19,10 +19,10 @@ void Hear(QAccessibleEvent* event) {
 class MonthAccessibleTest : public MonthWindowTest {
  protected:
   MonthAccessibleTest() {
-    SetReader(Hear);
+    SetAccessibilitySpy(Hear);
     Refresh();
   }
-  ~MonthAccessibleTest() override { SetReader(nullptr); }
+  ~MonthAccessibleTest() override { SetAccessibilitySpy(nullptr); }
 
   void Refresh() {
     window->SettingsChanged();
@@ -45,9 +45,12 @@ TEST_F(MonthAccessibleTest, IsATableWithHeadersWhoseDaysAreNamedByTheirTips) {
   Refresh();
   EXPECT_EQ(Name(&Reader()), "Mai 2024");
   QAccessibleInterface* const first = Table().cellAt(0, 2);
-  EXPECT_EQ(Name(first), "Mercredi 1 mai 2024, Fête <b>du</b> travail, Vacances, (Dernier quartier de lune)");
+  EXPECT_EQ(Name(first),
+            "Mercredi 1 mai 2024, jour férié : Fête <b>du</b> travail, vacances : Vacances, "
+            "Dernier quartier de lune");
+  EXPECT_EQ(first->role(), QAccessible::ListItem);  // On purpose: of cells a reader says the whole row.
   EXPECT_EQ(Name(first->tableCellInterface()->columnHeaderCells().at(0)), "Mercredi");
-  EXPECT_EQ(Name(first->tableCellInterface()->rowHeaderCells().at(0)), "18");
+  EXPECT_EQ(Name(first->tableCellInterface()->rowHeaderCells().at(0)), "Semaine 18");
   for (const auto& [index, what] : {std::pair{0, "Mois précédent"}, {2, ""}, {34, "Mois suivant"}})
     EXPECT_EQ(Reader().child(index)->text(QAccessible::Description).toStdString(), what);
 }
@@ -73,7 +76,7 @@ TEST_F(MonthAccessibleTest, EveryChildIsFoundByItsIndexAndByItsPlace) {
 }
 
 TEST_F(MonthAccessibleTest, SelectionAndFocusFollowTheDate) {
-  const std::string fifteenth = "Mercredi 15 mai 2024, (Premier quartier de lune)";
+  const std::string fifteenth = "Mercredi 15 mai 2024, aujourd'hui, Premier quartier de lune";
   EXPECT_EQ(Name(Reader().focusChild()), fifteenth);
   Press(Qt::Key_Right);
   EXPECT_EQ(Told(QAccessible::Focus), Texts{"Jeudi 16 mai 2024"});
@@ -82,6 +85,9 @@ TEST_F(MonthAccessibleTest, SelectionAndFocusFollowTheDate) {
   EXPECT_EQ(Told(QAccessible::NameChanged), Texts{});
   Press(Qt::Key_Down, Qt::ShiftModifier);
   EXPECT_EQ(Table().selectedCellCount(), 8);
+  const std::string range = "Jeudi 23 mai 2024, Pleine lune, du 16 mai 2024 au 23 mai 2024, 8 jours";
+  EXPECT_EQ(Name(Reader().focusChild()), range);
+  EXPECT_EQ(Told(QAccessible::Focus).back(), range);
   EXPECT_FALSE(Table().cellAt(2, 2)->state().selected);
 }
 
@@ -116,6 +122,7 @@ TEST_F(MonthAccessibleTest, EmptyPlacesHaveNoNameAndNoFocus) {
     for (int i = 0; i < 42; ++i)
       EXPECT_EQ(Reader().child(i)->state().disabled, Name(Reader().child(i)).empty()) << date << ": " << i;
     EXPECT_EQ(Reader().focusChild() == nullptr, date == 20250229);
+    EXPECT_EQ(Name(&Reader()).find("n'existe pas") != std::string::npos, date == 20250229);
   }
 }
 

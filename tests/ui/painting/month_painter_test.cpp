@@ -11,6 +11,7 @@
 #include <set>
 
 #include "core/calendar_config.h"
+#include "tests/support/rules.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/painting/month_texts.h"
 #include "ui/toolkit/colors.h"
@@ -32,6 +33,7 @@ struct Page {
   int width = 700, height = 420;
   double ratio = 1;
   CMonthPainter::Medium medium = CMonthPainter::kScreen;
+  MonthModel::Moon moon = MonthModel::kWithMoon;
 
   Page() {
     settings.grid = false;
@@ -47,11 +49,11 @@ struct Page {
     MonthModel model;
     model.year = 2024;
     model.month = 5;
-    model.Build(content, settings.colors, MonthModel::kWithMoon);
+    model.Build(content, settings.colors, moon);
     return model;
   }
 
-  Rect Cell(int day) const { return Layout().CellRect(Model().CellOf(5, day)); }
+  Rect Cell(int day, int month = 5) const { return Layout().CellRect(Model().CellOf(month, day)); }
 
   void FillDays(PackedDate from, PackedDate to) { content.holidays.push_back({from, to, {}}); }
 
@@ -191,7 +193,7 @@ TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighboringMonthsDay) {
 
 TEST(MonthPainterTest, RangeInvertsItsCellsAndNothingElseAndNothingOnPaper) {
   Page page;
-  page.picture = LoadBackground(DisplaySettings());
+  page.picture = BuiltInBackground();
   QImage expected = page.Paint();
   const QRect cells(100, 60, 300, 60);  // of 30 April to 2 May
   QImage inverted = expected.copy(cells);
@@ -215,7 +217,7 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
       page.ratio = ratio;
       page.width = 711;
       page.height = 433;
-      if (isCircle) page.picture = LoadBackground(DisplaySettings());
+      if (isCircle) page.picture = BuiltInBackground();
       page.settings.showWeekNumber = true;
       page.settings.circleTheDay = isCircle;
       page.settings.circleWidth = 3;
@@ -232,28 +234,117 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
     }
 }
 
-TEST(MonthPainterTest, WeekdayNamesFitTheirColumns) {
-  for (const int width : {1400, 700, 350, 170}) {
-    const MonthLayout layout(width, 392, true, true);
-    const QFontMetrics names(MakeMonthFonts(layout, DisplaySettings(), QFont()).names);
-    for (int column = 0; column < kColumns; ++column)
-      EXPECT_LE(names.horizontalAdvance(ColumnName(column, 1)), layout.NameRect(0).Width()) << width;
+bool Holds(const QImage& image, Color color) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (PixelAt(image, x, y) == color) return true;
+  return false;
+}
+
+TEST(MonthPainterTest, NumbersHaveTheirDaysColorAndNeighborsAreItalic) {
+  Page page;
+  page.moon = MonthModel::kWithoutMoon;
+  DayEvent holiday;
+  holiday.isPublic = true;
+  holiday.month = 5;
+  holiday.day = 8;
+  holiday.ymdFrom = kAlwaysFrom;
+  holiday.ymdTo = kAlwaysTo;
+  page.content.dayEvents = {holiday};
+  page.settings.colors[kHolidayText] = kMagenta;
+  page.settings.colors[kHolidayBack] = kWindowColor;
+  page.settings.colors[kGrayTextColor] = page.settings.colors[kStandardTextColor];
+  const QImage image = page.Paint();
+  const auto cell = [&](int day, int month) { return image.copy(ToQRect(page.Cell(day, month))); };
+  EXPECT_TRUE(Holds(cell(8, 5), kMagenta));
+  EXPECT_FALSE(Holds(cell(9, 5), kMagenta));
+  EXPECT_TRUE(Holds(cell(1, 5), page.settings.ColorAt(kStandardTextColor)));
+  EXPECT_NE(cell(1, 5), cell(1, 6)) << "the 1st of June leans";
+}
+
+TEST(MonthPainterTest, MoonStandsInItsSquareAndNowhereElse) {
+  Page page;
+  const QImage with = page.Paint();
+  page.moon = MonthModel::kWithoutMoon;
+  QImage without = page.Paint();
+  const MonthLayout layout = page.Layout();
+  const QFontMetrics metrics(MakeMonthFonts(layout, page.settings, QFont()).upright);
+  for (const int day : {1, 8, 15, 23, 30}) {
+    const QRect square = ToQRect(layout.GlyphRect(
+        page.Model().CellOf(5, day), metrics.horizontalAdvance(QStringLiteral("30")), metrics.height()));
+    EXPECT_NE(with.copy(square), without.copy(square)) << day;
+    QPainter(&without).drawImage(square, with.copy(square));
+  }
+  EXPECT_EQ(with, without);
+}
+
+// Today's tint lies under the fills of its day; today's date in another year is a day like others.
+TEST(MonthPainterTest, TodayIsTintedAndUnderlinedOnScreenInItsOwnMonth) {
+  Page page;
+  const QImage plain = page.Paint();
+  const Rect cell = page.Cell(14);
+  for (const PackedDate other : {20230514, 20240614}) {
+    page.marks.today = other;
+    EXPECT_EQ(page.Paint(), plain) << other;
+  }
+  page.marks.today = 20240514;
+  const QImage tinted = page.Paint();
+  EXPECT_EQ(PixelAt(tinted, cell.left + 1, cell.top + 1), Rgb(0xE0, 0xE5, 0xEA));
+  EXPECT_EQ(PixelAt(tinted, cell.left - 1, cell.top + 1), kWindowColor);
+  // A line as wide as the number, in its color.
+  const QFontMetrics metrics(MakeMonthFonts(page.Layout(), page.settings, QFont()).upright);
+  std::set<int> widths;
+  for (int y = cell.top + 40; y < cell.bottom; ++y) {
+    const auto inRow =
+        Widths(tinted.copy(cell.left, y, 100, 1), page.settings.ColorAt(kStandardTextColor), 0, false);
+    widths.insert(inRow.begin(), inRow.end());
+  }
+  EXPECT_EQ(widths.count(metrics.horizontalAdvance(QStringLiteral("14"))), 1U);
+  page.FillDays(20240514, 20240514);
+  EXPECT_EQ(PixelAt(page.Paint(), cell.left + 1, cell.top + 1), kYellow);
+  page.medium = CMonthPainter::kPaper;
+  const QImage paper = page.Paint();
+  page.marks.today = 0;
+  EXPECT_EQ(page.Paint(), paper);
+}
+
+TEST(MonthPainterTest, HeaderOfSundayFirstWeeksIsThatOfMondayFirstOnesMovedOn) {
+  Page page;
+  const QImage monday = page.Paint();
+  const ScopedRules rules(Rules());
+  Rules().iso8601 = false;
+  const QImage sunday = page.Paint();
+  for (int column = 0; column < kColumns; ++column) {
+    const QImage name = monday.copy(ToQRect(page.Layout().NameRect(column)));
+    EXPECT_TRUE(Holds(name, page.settings.ColorAt(kHeaderTextColor))) << column;
+    EXPECT_EQ(sunday.copy(ToQRect(page.Layout().NameRect((column + 1) % kColumns))), name) << column;
   }
 }
 
-TEST(MonthPicturesTest, BackgroundIsThePictureOfThePathOrNone) {
-  const QTemporaryDir folder;
-  const QString broken = folder.filePath(QStringLiteral("broken.png"));
-  std::ofstream(broken.toStdString()) << "no picture";
-  const QString renamed = folder.filePath(QStringLiteral("bitmap.gif"));
-  ASSERT_TRUE(QImage(8000, 30, QImage::Format_RGB32).save(renamed, "BMP"));
-  DisplaySettings settings;
-  for (const auto& [path, size] : {std::pair{QString(), QSize(336, 248)},
-                                   {broken, QSize(0, 0)},
-                                   {renamed, QSize(3840, 14)}}) {  // wider than any screen
-    settings.backgroundImagePath.Set(path.toStdU16String());
-    EXPECT_EQ(LoadBackground(settings).size(), size) << path.toStdString();
-  }
+// Nothing in a month is smaller than the text beside it where there is room, and nothing leaves its place.
+TEST(MonthPainterTest, FontsFillTheirPlacesAndStayLegible) {
+  for (const int dialogSize : {12, 19, 24})
+    for (const QSize size : {QSize(1400, 800), QSize(700, 392), QSize(504, 300), QSize(396, 240), QSize()}) {
+      SCOPED_TRACE(testing::Message() << size.width() << " wide, texts of " << dialogSize);
+      QFont dialogFont;
+      dialogFont.setPixelSize(dialogSize);
+      const QSize places = size.isValid() ? size : LeastMonthSize(dialogFont);
+      const MonthLayout layout(places.width(), places.height(), true, true);
+      const MonthFonts fonts = MakeMonthFonts(layout, DisplaySettings(), dialogFont);
+      const int height = QFontMetrics(fonts.upright).height();
+      EXPECT_LE(height, layout.FontHeight());
+      EXPECT_GE(height, layout.FontHeight() * 9 / 10);
+      const QFontMetrics names(fonts.names);
+      for (const QString& name : fonts.nameTexts)
+        EXPECT_LE(names.horizontalAdvance(name), layout.columnWidth * 7 / 8 + 1) << name.toStdString();
+      EXPECT_LE(fonts.names.pixelSize(), fonts.upright.pixelSize());
+      EXPECT_EQ(fonts.nameTexts[2].size() > 4, fonts.names.pixelSize() >= std::max(11, dialogSize) &&
+                                                   fonts.nameTexts[2] != QStringLiteral("Mer."));
+      EXPECT_GE(fonts.names.pixelSize(), size.isValid() ? 1 : dialogSize);
+      EXPECT_GE(fonts.small.pixelSize(), 8);
+      EXPECT_GE(fonts.weekTitle.pixelSize(), 8);
+      EXPECT_LE(QFontMetrics(fonts.small).height(), std::max(10, layout.SmallFontHeight()));
+    }
 }
 
 // In the north the waxing moon is lit at its right.

@@ -279,9 +279,9 @@ def check_month(reader):
     reader.key_moves_focus("r", "Samedi 22 septembre 1792")
     reader.wait_for("the month's name", lambda: "Septembre 1792" in reader.renamed)
     reader.selected.clear()
-    reader.key_moves_focus("Right", "Dimanche 23 septembre 1792, (Premier quartier de lune)")
+    reader.key_moves_focus("Right", "Dimanche 23 septembre 1792, Premier quartier de lune")
     reader.wait_for("the day selected", lambda: reader.selected)
-    same("selected", reader.selected, ["Dimanche 23 septembre 1792, (Premier quartier de lune)"])
+    same("selected", reader.selected, ["Dimanche 23 septembre 1792, Premier quartier de lune"])
 
     def cell_named(start):
         for row in range(6):
@@ -293,7 +293,7 @@ def check_month(reader):
 
     sunday, row, column = cell_named("Dimanche 23 ")
     same("header above it", table.getColumnHeader(column).name, "Dimanche")
-    same("week beside it", table.getRowHeader(row).name, "38")
+    same("week beside it", table.getRowHeader(row).name, "Semaine 38")
     for state in (atspi.STATE_SELECTED, atspi.STATE_FOCUSED):
         same(f"state {state}", reader.states_of(sunday).contains(state), True)
     saturday = cell_named("Samedi 22 ")[0]
@@ -319,22 +319,22 @@ def check_month(reader):
     # A day with a text, in the last month of all, and the focus brought to a day.
     reader.key_moves_focus("End", "Vendredi 31 décembre 3999")
     christmas = cell_named("Samedi 25 ")[0]
-    same("Christmas", reader.name_of(christmas), "Samedi 25 décembre 3999, Noël")
+    same("Christmas", reader.name_of(christmas), "Samedi 25 décembre 3999, jour férié : Noël")
     same("focusing a day", christmas.queryComponent().grabFocus(), True)
-    reader.wait_for("the day focused", lambda: "Samedi 25 décembre 3999, Noël" in reader.focused)
+    reader.wait_for("the day focused", lambda: "Samedi 25 décembre 3999, jour férié : Noël" in reader.focused)
     reader.key_moves_focus("r", "Samedi 22 septembre 1792")
     return month
 
 
 def check_header(reader, month):
     atspi = reader.atspi
-    for name in ("Mois précédent", "Mois : Septembre", "Année : 1792", "Mois suivant"):
+    for name in ("Mois précédent : août 1792", "Mois : Septembre", "Année : 1792", "Mois suivant : octobre 1792"):
         part = reader.find_named(name)
         same(f"{name}: role", part.getRole(), atspi.ROLE_PUSH_BUTTON)
         same(f"{name}: reached with the keyboard", part.getState().contains(atspi.STATE_FOCUSABLE), True)
         same(f"{name}: pressed", part.queryAction().nActions > 0, True)
 
-    reader.find_named("Mois précédent").queryAction().doAction(0)
+    reader.find_named("Mois précédent : août 1792").queryAction().doAction(0)
     reader.wait_for("August", lambda: reader.name_of(month) == "Août 1792")
 
     # The year's editor says its value.
@@ -348,7 +348,7 @@ def check_header(reader, month):
     # With the keyboard from the month to the arrow before it, and back to September.
     month.queryComponent().grabFocus()
     reader.wait_for("the keyboard in the month", lambda: reader.states_of(month).contains(atspi.STATE_FOCUSED))
-    reader.key_moves_focus("shift+Tab", "Mois suivant")
+    reader.key_moves_focus("shift+Tab", "Mois suivant : septembre 1792")
     reader.key("Return")
     reader.wait_for("September", lambda: reader.name_of(month) == "Septembre 1792")
 

@@ -1,0 +1,32 @@
+#include "ui/month/focus_line.h"
+
+#include <QPainter>
+
+#include "content/calendar_look.h"
+#include "ui/toolkit/colors.h"
+
+namespace orbisol {
+namespace {
+
+// The toolkit's frame follows its widget and is cut out to a line; styles draw it each in their own way.
+class CFrame : public QFocusFrame {
+ public:
+  using QFocusFrame::QFocusFrame;
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), ToQColor(kHighlightColor)); }
+};
+
+}  // namespace
+
+void CFocusLine::Show(QWidget& widget) {
+  if (widget.isWindow()) return;
+  if (!m_frame) m_frame = new CFrame(widget.parentWidget());
+  m_frame->setWidget(&widget);
+}
+
+void CFocusLine::Hide() {
+  if (m_frame) m_frame->setWidget(nullptr);
+}
+
+}  // namespace orbisol

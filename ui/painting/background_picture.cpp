@@ -1,0 +1,91 @@
+#include "ui/painting/background_picture.h"
+
+#include <QSize>
+
+#include <chrono>
+#include <exception>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "ui/painting/month_pictures.h"
+#include "ui/toolkit/picture_reader.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+constexpr QSize kLargeScreen(3840, 2160);  // pictures are made no larger than that
+
+constexpr std::chrono::milliseconds kBetweenLooks(20);
+constexpr int kMostLooks = 500;  // ten seconds
+constexpr std::chrono::seconds kFarewell(1);
+
+// Reads in a thread that nobody waits for: one that is stuck in the kernel ends with the process.
+std::future<QImage> ReadBeside(const QString& path) {
+  std::promise<QImage> promise;
+  std::future<QImage> picture = promise.get_future();
+  try {
+    std::thread([path, result = std::move(promise)]() mutable {
+      try {
+        result.set_value(ReadPicture(path, kLargeScreen).image);
+      } catch (...) {  // no memory for it
+        result.set_exception(std::current_exception());
+      }
+    }).detach();
+  } catch (const std::system_error&) {  // no thread to be had: there will be no picture
+  }
+  return picture;
+}
+
+}  // namespace
+
+CBackgroundPicture::CBackgroundPicture() {
+  m_looks.setInterval(kBetweenLooks);
+  m_looks.callOnTimeout(this, [this] { Look(); });
+}
+
+CBackgroundPicture::~CBackgroundPicture() {
+  if (m_reading.valid()) m_reading.wait_for(kFarewell);
+}
+
+void CBackgroundPicture::Load(const DisplaySettings& settings) {
+  m_looks.stop();
+  m_picture = QImage();
+  m_wanted.clear();
+  m_path.clear();
+  if (!settings.backgroundImage) return;
+  const QString path = ToQString(settings.backgroundImagePath.View());
+  if (path.isEmpty()) {
+    m_picture = BuiltInBackground();
+  } else if (path != m_silent) {
+    m_wanted = path;
+  }
+}
+
+void CBackgroundPicture::Read() {
+  if (m_wanted.isEmpty()) return;
+  m_path = std::exchange(m_wanted, QString());
+  m_reading = ReadBeside(m_path);
+  m_lookCount = 0;
+  m_looks.start();
+}
+
+void CBackgroundPicture::Look() {
+  if (m_reading.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+    if (++m_lookCount < kMostLooks) return;
+    m_silent = m_path;
+    m_reading = {};
+    m_looks.stop();
+    return;
+  }
+  m_looks.stop();
+  try {
+    m_picture = m_reading.get();
+  } catch (const std::exception&) {
+    m_picture = QImage();
+  }
+  if (!m_picture.isNull()) emit arrived();
+}
+
+}  // namespace orbisol
