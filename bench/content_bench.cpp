@@ -63,12 +63,12 @@ CalendarContent CrowdedCalendar(int rules, int periods) {
   CalendarContent content;
   for (int i = 0; i < rules; ++i) {
     DayEvent event;
-    event.type = any(0, 7);
+    event.type = static_cast<DayEventType>(any(0, 7));
     event.isPublic = any(0, 1) == 1;
     event.month = any(1, 12);
     event.day = any(2, 28);
     event.weekday = any(1, 7);
-    event.weeknum = event.type == 3 ? any(1, 5) : 1;
+    event.weeknum = event.type == DayEventType::kNthWeekday ? any(1, 5) : 1;
     event.ymdFrom = kAlwaysFrom;
     event.ymdTo = kAlwaysTo;
     event.name.Set(u"Événement de la bibliothèque municipale");
@@ -76,7 +76,7 @@ CalendarContent CrowdedCalendar(int rules, int periods) {
   }
   for (int i = 0; i < periods; ++i) {
     const int year = any(1950, 2050);
-    content.holidays.push_back(
+    content.vacations.push_back(
         {Pack(year, any(1, 6), 1), Pack(year, any(7, 12), 28), std::u16string_view(u"Vacances")});
   }
   return content;

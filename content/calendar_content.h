@@ -10,7 +10,7 @@ namespace orbisol {
 
 struct CalendarContent {
   std::vector<DayEvent> dayEvents;
-  std::vector<HolidayPeriod> holidays;
+  std::vector<HolidayPeriod> vacations;
 
   bool operator==(const CalendarContent&) const = default;
 };

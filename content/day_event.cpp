@@ -1,28 +1,24 @@
 #include "content/day_event.h"
 
-#include "content/selected_date.h"
+#include "core/date.h"
 
 namespace orbisol {
 namespace {
 
-// The longest that a month can be. On purpose: month 0 takes nearly any day; it falls on none.
-int LongestMonth(int month) {
-  if (month == 0) return 99;
-  if (month == 2) return 29;
-  return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
-}
+// On purpose: month 0 takes nearly any day; it falls on none.
+int LongestDay(int month) { return month == 0 ? 99 : LongestMonth(month); }
 
 bool IsBetween(int value, int low, int high) { return low <= value && value <= high; }
 
 }  // namespace
 
-bool AcceptDayEvent(const DayEvent& event) {
+bool IsAcceptableDayEvent(const DayEvent& event) {
   if (event.month > 12 || event.name.IsEmpty()) return false;
   if (!IsYearShown(Unpack(event.ymdFrom).year) || !IsYearShown(Unpack(event.ymdTo).year)) return false;
   if (event.ymdFrom > event.ymdTo) return false;
 
-  const int longest = LongestMonth(event.month);
-  switch (static_cast<DayEventType>(event.type)) {
+  const int longest = LongestDay(event.month);
+  switch (event.type) {
     case DayEventType::kFixedDate:
     case DayEventType::kBankHoliday:
     case DayEventType::kExceptSunday:

@@ -25,7 +25,7 @@ class CRuleYear {
   // Where a rule that counts from some day of the year looks for its own: day numbers, for the Orthodox
   // Easter a packed date. Nothing for the other kinds.
   Range RangeOf(const DayEvent& event) {
-    switch (static_cast<DayEventType>(event.type)) {
+    switch (event.type) {
       case DayEventType::kRomanEaster:
         if (m_year < kFirstEasterYear) return kNothing;
         return From(RomanEasterNumber() + event.day, 1);
@@ -89,7 +89,7 @@ bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
   constexpr int kFriday = 5;
   constexpr int kSunday = 7;
   const std::int64_t later = std::int64_t{day.day} - event.day;  // days past the rule's own, in its month
-  switch (static_cast<DayEventType>(event.type)) {
+  switch (event.type) {
     case DayEventType::kFixedDate:
       return event.month == day.month && later == 0;
     case DayEventType::kRomanEaster:
@@ -114,7 +114,7 @@ bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
 
 // Whether a rule looks at days by their month and not by a range.
 bool StaysInMonth(const DayEvent& event) {
-  switch (static_cast<DayEventType>(event.type)) {
+  switch (event.type) {
     case DayEventType::kFixedDate:
     case DayEventType::kNthWeekday:
     case DayEventType::kBankHoliday:
@@ -143,7 +143,7 @@ void ForEachMatch(std::span<const DayEvent> events, std::span<const RuleDay> day
     const Range validity{event.ymdFrom, event.ymdTo};
     if (!validity.Meets(dates)) continue;
     const Range range = year.RangeOf(event);
-    const bool orthodox = event.type == static_cast<int>(DayEventType::kOrthodoxEaster);
+    const bool orthodox = event.type == DayEventType::kOrthodoxEaster;
     const bool possible =
         StaysInMonth(event) ? event.month == days[0].month : range.Meets(orthodox ? dates : numbers);
     if (!possible) continue;

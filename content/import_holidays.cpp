@@ -41,7 +41,7 @@ void ImportHolidays(CalendarContent& content, const CalendarContent& holidays, b
   if (replace && std::any_of(holidays.dayEvents.begin(), holidays.dayEvents.end(), isPublic))
     std::erase_if(content.dayEvents, isPublic);
   AddMissing(content.dayEvents, holidays.dayEvents);
-  AddMissing(content.holidays, holidays.holidays);
+  AddMissing(content.vacations, holidays.vacations);
 }
 
 }  // namespace orbisol

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "content/day_rules.h"
-#include "content/selected_date.h"
+#include "core/date_range.h"
 #include "core/moon.h"
 
 namespace orbisol {

@@ -5,13 +5,12 @@
 #include <utility>
 
 #include "content/day_rules.h"
-#include "content/selected_date.h"
+#include "core/date_range.h"
 #include "core/week_number.h"
 
 namespace orbisol {
 namespace {
 
-constexpr int kDaysInWeek = 7;
 constexpr std::size_t kMaxDays = 31;  // of a month
 
 bool IsDropped(const Date& date) { return Rules().IsDropped(date.Packed()); }
@@ -51,12 +50,12 @@ void StepBack(Date& date) {
 }
 
 // On purpose: the weekday is that of the day's number, also where that differs from the column's.
-void SetDate(DayCell& cell, const Date& date, const RuleDay& asked) {
+void SetDate(DayCell& cell, const Date& date, const RuleDay& ruleDay) {
   cell.day = date.day;
-  cell.weekday = asked.weekday % kDaysInWeek;
+  cell.weekday = ruleDay.weekday % kDaysInWeek;
   cell.week = WeekNumber(date);
   cell.month = date.month;
-  cell.ymd = asked.ymd;
+  cell.ymd = ruleDay.ymd;
 }
 
 void SetDate(DayCell& cell, const Date& date) { SetDate(cell, date, RuleDayOf(date)); }
@@ -157,7 +156,7 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
   int start = day1;
   for (Date before = first; start > m_firstCell;) {
     StepBack(before);
-    if (before.year < Unpack(kFirstDateShown).year) break;
+    if (before.year < kFirstYearShown) break;
     SetDate(cells[static_cast<std::size_t>(--start)], before);
   }
 
@@ -178,7 +177,7 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
   --date.day;
   while (cells[static_cast<std::size_t>(end - 1)].weekday != lastWeekday && end < afterMonth + kDaysInWeek) {
     StepOn(date);
-    if (date.year > Unpack(kLastDateShown).year) break;
+    if (date.year > kLastYearShown) break;
     SetDate(cells[static_cast<std::size_t>(end++)], date);
     cells[static_cast<std::size_t>(end - 1)].week = cells[static_cast<std::size_t>(afterMonth)].week;
   }
@@ -188,13 +187,13 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
     return std::span(cells).subspan(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
   };
   const std::span<DayCell> ofMonth = between(day1, afterMonth);
-  const std::span<const RuleDay> asked(days.data(), dayCount);
-  MarkPeriods(content.holidays, ofMonth, Titles::kShown);
-  MarkRules(content.dayEvents, asked, ofMonth);
-  if (moon == kWithMoon) MarkMoon(asked, ofMonth);
+  const std::span<const RuleDay> ruleDay(days.data(), dayCount);
+  MarkPeriods(content.vacations, ofMonth, Titles::kShown);
+  MarkRules(content.dayEvents, ruleDay, ofMonth);
+  if (moon == kWithMoon) MarkMoon(ruleDay, ofMonth);
   ColorDays(ofMonth, colors);
   for (const std::span<DayCell> neighbors : {between(start, day1), between(afterMonth, end)}) {
-    MarkPeriods(content.holidays, neighbors, Titles::kHidden);
+    MarkPeriods(content.vacations, neighbors, Titles::kHidden);
     ColorNeighbors(neighbors, colors);
   }
 }

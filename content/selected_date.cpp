@@ -3,28 +3,6 @@
 #include <cstdlib>
 
 namespace orbisol {
-namespace {
-
-constexpr YearMonthDay kFirst = Unpack(kFirstDateShown);
-constexpr YearMonthDay kLast = Unpack(kLastDateShown);
-
-bool LiesBeforeFirst(const Date& date) {
-  return date.year < kFirst.year ||
-         (date.year == kFirst.year && MonthDay(date.month, date.day) < MonthDay(kFirst.month, kFirst.day));
-}
-
-bool LiesAfterLast(const Date& date) {
-  return date.year > kLast.year ||
-         (date.year == kLast.year && MonthDay(date.month, date.day) > MonthDay(kLast.month, kLast.day));
-}
-
-bool IsEarlier(const Date& date, const Date& other) {
-  return date.year != other.year ? date.year < other.year
-                                 : MonthDay(date.month, date.day) < MonthDay(other.month, other.day);
-}
-
-}  // namespace
-
 Date& Selected() {
   static Date selected = [] {
     Date today = Date::Today();
@@ -32,13 +10,6 @@ Date& Selected() {
     return today;
   }();
   return selected;
-}
-
-bool IsWithinBounds(const Date& date) { return !LiesBeforeFirst(date) && !LiesAfterLast(date); }
-
-void ClampToBounds(Date& date) {
-  if (LiesBeforeFirst(date)) date.SetPacked(kFirstDateShown);
-  if (LiesAfterLast(date)) date.SetPacked(kLastDateShown);
 }
 
 void StepDays(Date& date, int days) {
@@ -50,7 +21,7 @@ void StepDays(Date& date, int days) {
   const Date start = date;
   std::int64_t dayNumber = std::int64_t{start.DayNumber()} + days;
   date.SetDayNumber(Saturate(dayNumber));
-  for (int i = 0; days < 0 && i < kLongestRepeat && !IsEarlier(date, start); ++i)
+  for (int i = 0; days < 0 && i < kLongestRepeat && DayOrder(date) >= DayOrder(start); ++i)
     date.SetDayNumber(Saturate(--dayNumber));
   ClampToBounds(date);
 }

@@ -9,20 +9,14 @@
 #pragma once
 
 #include "core/date.h"
+#include "core/date_range.h"
 
 namespace orbisol {
-
-constexpr PackedDate kFirstDateShown = -39990101;
-constexpr PackedDate kLastDateShown = 39991231;
 
 // Days that keys and buttons lead to, beside the reform in force and the Republican epoch
 // (core/republican.h).
 constexpr PackedDate kFirstDayOfEra = 10101;
 constexpr PackedDate kFirstJulianDay = -440101;  // astronomical: 1 January 45 BC
-
-constexpr bool IsYearShown(int year) {
-  return year >= Unpack(kFirstDateShown).year && year <= Unpack(kLastDateShown).year;
-}
 
 // In what way a hand moved the selected date.
 enum class DateMove {
@@ -34,9 +28,6 @@ enum class DateMove {
 
 // The selected date. Today until something else is selected; the first call asks the clock.
 Date& Selected();
-
-bool IsWithinBounds(const Date& date);
-void ClampToBounds(Date& date);
 
 // Each ends within the bounds. Any number is accepted.
 void StepDays(Date& date, int days);      // back when negative; a step back of one day always leaves the date

@@ -1,6 +1,6 @@
 #include "content/vacation.h"
 
-#include "content/selected_date.h"
+#include "core/date.h"
 
 namespace orbisol {
 namespace {
@@ -12,7 +12,7 @@ bool MayBound(PackedDate packed) {
 
 }  // namespace
 
-bool AcceptPeriod(const HolidayPeriod& period) {
+bool IsAcceptablePeriod(const HolidayPeriod& period) {
   return period.ymdTo > period.ymdFrom && MayBound(period.ymdFrom) && MayBound(period.ymdTo);
 }
 

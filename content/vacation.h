@@ -10,7 +10,7 @@ namespace orbisol {
 struct HolidayPeriod {
   PackedDate ymdFrom = 0;  // both ends inclusive, compared as integers
   PackedDate ymdTo = 0;
-  FixedText<256> title;  // may be empty
+  NameText title;  // may be empty
 
   bool Holds(PackedDate ymd) const { return ymdFrom <= ymd && ymd <= ymdTo; }
   bool operator==(const HolidayPeriod&) const = default;
@@ -19,7 +19,7 @@ struct HolidayPeriod {
 // Both dates within the range shown and not past the end of their month under the rules in force. On purpose:
 // a period of one day is refused, and a day or month is refused only for being too great, a month also for
 // being less than 1.
-bool AcceptPeriod(const HolidayPeriod& period);
+bool IsAcceptablePeriod(const HolidayPeriod& period);
 
 // The first period in list order that holds a day; null when there is none.
 const HolidayPeriod* PeriodOfDay(std::span<const HolidayPeriod> periods, PackedDate ymd);

@@ -9,6 +9,7 @@
 
 #include <span>
 
+#include "core/date_range.h"
 #include "core/packed_date.h"
 
 namespace orbisol {
@@ -48,8 +49,11 @@ struct CalendarConfig {
   // possibly negative) for earlier ones. The early leap years count in it: set `proleptic` first.
   void ApplyGregorianStart(PackedDate start);
 
-  // Whether the reform removed this date: by days, so that a reform in the first centuries or before the era,
-  // where the Gregorian date is the earlier one, removes none. Any packed value is accepted.
+  // Returns the year of the first Gregorian day.
+  int ReformYear() const { return startGregorian / 10000; }
+
+  // Returns whether the reform removed this date: by days, so that a reform in the first centuries or before
+  // the era, where the Gregorian date is the earlier one, removes none. Any packed value is accepted.
   bool IsDropped(PackedDate date) const {
     return DayOrder(julianEquivalentOfStart) <= DayOrder(date) && DayOrder(date) < DayOrder(startGregorian);
   }

@@ -5,8 +5,6 @@
 namespace orbisol {
 namespace {
 
-constexpr int kNewYearsDay = 101;  // month * 100 + day
-
 bool TableIsEmpty() { return Rules().firstDayOfYear[0].from == 0; }
 
 // The first row that begins on or before a date, else the empty one. The end of the table is tested first: 0
@@ -21,7 +19,7 @@ int RowAt(PackedDate packed) {
 // The month and day of the row that governs a date, or 1 January.
 int GoverningStart(const Date& date) {
   const PackedDate from = Rules().firstDayOfYear[RowAt(date.Packed())].from;
-  return from == 0 ? kNewYearsDay : MonthDayOf(from);
+  return from == 0 ? kFirstOfJanuary : MonthDayOf(from);
 }
 
 // The day number of the day of a year that is given as month * 100 + day.
@@ -33,7 +31,7 @@ std::int64_t DayNumberInYear(std::int64_t year, int monthDay) {
 
 int CivilRowIndex(const Date& date) { return TableIsEmpty() ? -1 : RowAt(date.Packed()); }
 
-int CivilYearStartDay(const Date& date) { return std::max(GoverningStart(date), kNewYearsDay); }
+int CivilYearStartDay(const Date& date) { return std::max(GoverningStart(date), kFirstOfJanuary); }
 
 int CivilYear(PackedDate packed) {
   const YearMonthDay date = Unpack(packed);
@@ -42,7 +40,7 @@ int CivilYear(PackedDate packed) {
 
   const int start = MonthDayOf(row.from);
   const bool afterStart = date.month * 100 + date.day >= start;
-  if (row.plusOne) return start <= kNewYearsDay || !afterStart ? date.year : date.year + 1;
+  if (row.plusOne) return start <= kFirstOfJanuary || !afterStart ? date.year : date.year + 1;
   return date.year <= Unpack(row.from).year || afterStart ? date.year : date.year - 1;
 }
 
@@ -57,7 +55,7 @@ int DaysLeftInCivilYear(const Date& date) {
   const int i = RowAt(date.Packed());
   const CivilYearStart next = i > 0 ? rows[i - 1] : CivilYearStart{};
 
-  int start = kNewYearsDay;
+  int start = kFirstOfJanuary;
   bool inThisYear = false;
   if (next.from != 0 && Unpack(next.from).year == date.year) {
     start = MonthDayOf(next.from);

@@ -1,7 +1,6 @@
 #include "core/date.h"
 
 #include "core/civil_year.h"
-#include "core/platform.h"
 
 namespace orbisol {
 namespace {
@@ -10,22 +9,19 @@ namespace {
 // for all dates shown, so that '/' rounds down. Sums are 64 bits wide, because any int may come in.
 constexpr int kYearShift = 4800;
 
-constexpr int kFourYears = 1461;                // days of four Julian years
-constexpr int kJulianCycle = 100 * kFourYears;  // days of 400 Julian years
-constexpr int kGregorianCycle = 146097;         // days of 400 Gregorian years
-constexpr int kJulianOrigin = -32082;           // day number of 1 March -4800 in the Julian calendar
-constexpr int kGregorianOrigin = -32044;        // and in the Gregorian
+constexpr int kJulianCycle = 100 * kDaysIn4Years;  // days of 400 Julian years
+constexpr int kGregorianCycle = kDaysIn400Years;
+constexpr int kJulianOrigin = -32082;     // day number of 1 March -4800 in the Julian calendar
+constexpr int kGregorianOrigin = -32044;  // and in the Gregorian
 
 // The early Julian calendar had a leap year every third year from -44 on, none from 1 March -8 to 28 February
 // 4, and ordinary ones again from then on. The three stretches meet without a gap.
 constexpr int kTriennialStart = 1704987;  // day number of 1 January -44
 constexpr int kNoLeapStart = 1718199;     // of 1 March -8
 constexpr int kOrdinaryStart = 1722579;   // of 1 March 4
-constexpr int kThreeYears = 1096;         // days of three years with one leap year
 constexpr int kTriennialShift = 4799;     // its years are counted from 1 March -4799 ...
 constexpr int kTriennialOrigin = -32113;  // ... the day number of that day, had the cycle always held
-constexpr int kYear = 365;
-constexpr int kNoLeapOrigin = -30881;  // of 1 March -4800, had there never been a leap year
+constexpr int kNoLeapOrigin = -30881;     // of 1 March -4800, had there never been a leap year
 
 constexpr PackedDate kLastEarlyLeapDay = -80229;
 
@@ -74,7 +70,7 @@ constexpr MarchDay<U> MarchDayOf(U days, U years, U length) {
 template <typename U>
 constexpr MarchDay<U> MarchDayInCycles(U days, bool gregorian) {
   const U centuries = (4 * days + 3) / kGregorianCycle;
-  return MarchDayOf<U>(gregorian ? days + DroppedLeapDays(centuries) : days, 4, kFourYears);
+  return MarchDayOf<U>(gregorian ? days + DroppedLeapDays(centuries) : days, 4, kDaysIn4Years);
 }
 
 // Month and day of a day of a March year, with January and February as months 13 and 14. Months have 153 days
@@ -124,23 +120,17 @@ void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
   SetDate(date, MarchDayInCycles(days, gregorian), -kYearShift);
 }
 
-bool DateIsBefore(int year, std::int64_t monthDay, PackedDate packed) {
-  const int otherYear = packed / 10000;
-  return year != otherYear ? year < otherYear : monthDay < MonthDayOf(packed);
-}
-
 // The rare ways stand apart, so that the everyday one stays short: it is walked millions of times.
 
 // The day number of a date between 1 January -43 and 28 February 4 under the early leap years.
 [[gnu::noinline]] int EarlyDayNumber(int year, int month, int day) {
-  const std::int64_t monthDay = MonthDay(month, day);
   const int before = month < 3 ? 1 : 0;
   const std::int64_t y = std::int64_t{year} + kYearShift - before;
   const std::int64_t inYear = std::int64_t{day} - 1 + DaysSinceMarch(std::int64_t{month} + 12 * before);
   // On purpose: 29 February -8 is not before itself, and takes the number of 1 March.
-  if (year < 0 && DateIsBefore(year, monthDay, kLastEarlyLeapDay))
-    return Saturate(inYear + kYear * (y - 1) + (y - 1) / 3 + kTriennialOrigin);
-  return Saturate(inYear + kYear * y + kNoLeapOrigin);
+  if (DayOrder(year, month, day) < DayOrder(kLastEarlyLeapDay))
+    return Saturate(inYear + kDaysInYear * (y - 1) + (y - 1) / 3 + kTriennialOrigin);
+  return Saturate(inYear + kDaysInYear * y + kNoLeapOrigin);
 }
 
 [[gnu::noinline]] int DayNumberOfAny(int year, int month, int day, bool gregorian) {
@@ -149,7 +139,7 @@ bool DateIsBefore(int year, std::int64_t monthDay, PackedDate packed) {
   const std::int64_t cyclesBack = y < 0 ? (399 - y) / 400 : 0;
   y += 400 * cyclesBack;
   const std::int64_t inYear = std::int64_t{day} - 1 + DaysSinceMarch(std::int64_t{month} + 12 * before);
-  const std::int64_t toYear = kYear * y + y / 4 - (gregorian ? DroppedLeapDays(y / 100) : 0);
+  const std::int64_t toYear = kDaysInYear * y + y / 4 - (gregorian ? DroppedLeapDays(y / 100) : 0);
   const std::int64_t origin = (gregorian ? kGregorianOrigin : kJulianOrigin) -
                               cyclesBack * (gregorian ? kGregorianCycle : kJulianCycle);
   return Saturate(inYear + toYear + origin);
@@ -167,7 +157,8 @@ int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool
   const unsigned before = month < 3 ? 1 : 0;  // January and February belong to the March year before
   const unsigned y = static_cast<unsigned>(year + kYearShift) - before;
   const unsigned julian = static_cast<unsigned>(day - 1) +
-                          DaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + kYear * y + y / 4;
+                          DaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + kDaysInYear * y +
+                          y / 4;
   // The two calendars are joined by a mask, not a branch: dates come in any order, and the processor would
   // guess wrong at every change between them.
   const unsigned shift = static_cast<unsigned>(kGregorianOrigin - kJulianOrigin) - DroppedLeapDays(y / 100);
@@ -182,29 +173,15 @@ PackedDate JulianDateOfDayNumber(int dayNumber) {
 }
 
 int GregorianDaysInMonth(int year, int month) {
-  if (month == 2) return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : 28;
-  return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
+  const bool isCommonYear = year % 4 != 0 || (year % 100 == 0 && year % 400 != 0);
+  return month == 2 && isCommonYear ? 28 : LongestMonth(month);
 }
-
-Date::Date(PackedDate packed) : dateOrder(CurrentPlatform().locale->ShortDateOrder()) { SetPacked(packed); }
-
-Date::Date(int theYear, int theMonth, int theDay)
-    : year(theYear), month(theMonth), day(theDay), dateOrder(CurrentPlatform().locale->ShortDateOrder()) {}
 
 Date Date::Today() {
   if (Rules().startGregorian == 0) Rules().ApplyGregorianStart(kRomanReform);
   const YearMonthDay today = CurrentPlatform().clock->Today();
   // On purpose: the clock is Gregorian also where a reform yet to come leaves the calendar Julian.
-  constexpr PackedDate kAlwaysGregorian = -99990101;
   return DateOfDayNumber(DayNumberUnder(today.year, today.month, today.day, kAlwaysGregorian, false));
-}
-
-PackedDate Date::SetPacked(PackedDate packed) {
-  const YearMonthDay date = Unpack(packed);
-  year = date.year;
-  month = date.month;
-  day = date.day;
-  return Packed();
 }
 
 int Date::DayNumber() const {
@@ -217,10 +194,10 @@ void Date::SetDayNumber(int dayNumber) {
   if (dayNumber >= kTriennialStart && dayNumber < kOrdinaryStart && !rules.proleptic && !gregorian) {
     if (dayNumber < kNoLeapStart)
       SetDate(*this,
-              MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kThreeYears),
+              MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kDaysIn3Years),
               -kTriennialShift);
     else
-      SetDate(*this, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kNoLeapOrigin), 1, kYear),
+      SetDate(*this, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kNoLeapOrigin), 1, kDaysInYear),
               -kYearShift);
     return;
   }
@@ -243,7 +220,7 @@ int Date::DaysInMonth(int ofMonth) const {
   if (ofMonth != 2) return GregorianDaysInMonth(year, ofMonth);
   const CalendarRules& rules = Rules();
   if (!rules.proleptic && year >= -44 && year <= 7) return year <= -8 && (year - 7) % 3 == 0 ? 29 : 28;
-  if (year > rules.startGregorian / 10000) return GregorianDaysInMonth(year, 2);
+  if (year > rules.ReformYear()) return GregorianDaysInMonth(year, 2);
   // On purpose: the year of the reform is Julian here, also where the reform came before February.
   return CivilYear(Pack(year, 2, day)) % 4 == 0 ? 29 : 28;
 }
@@ -253,7 +230,7 @@ int Date::Weekday(bool raw) const {
   return weekday == 0 && !raw && Rules().iso8601 ? 7 : weekday;
 }
 
-bool Date::IsBefore(PackedDate packed) const { return DateIsBefore(year, MonthDay(month, day), packed); }
+bool Date::IsBefore(PackedDate packed) const { return DayOrder(*this) < DayOrder(packed); }
 
 PackedDate Date::JulianForm() const {
   const PackedDate packed = Packed();

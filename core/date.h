@@ -12,11 +12,21 @@
 #pragma once
 
 #include "core/calendar_config.h"
+#include "core/date_range.h"
 #include "core/packed_date.h"
+#include "core/platform.h"
 
 namespace orbisol {
 
 constexpr int kDayNumber1999Dec31 = 2451544;  // Gregorian, whatever reform is in force
+
+// Lengths of years and of their cycles, in days.
+constexpr int kDaysInWeek = 7;
+constexpr int kDaysInYear = 365;
+constexpr int kDaysIn3Years = 3 * kDaysInYear + 1;  // with one leap year, as the early Julian calendar had
+constexpr int kDaysIn4Years = 4 * kDaysInYear + 1;
+constexpr int kDaysIn100Years = 25 * kDaysIn4Years - 1;   // a Gregorian century without a leap day at its end
+constexpr int kDaysIn400Years = 4 * kDaysIn100Years + 1;  // 400 Gregorian years
 
 struct Date {
   int year;
@@ -25,14 +35,21 @@ struct Date {
   int dateOrder;  // for texts only: 0 month/day/year, 1 day/month/year, 2 year/month/day
 
   // `dateOrder` is the user's (platform.h).
-  explicit Date(PackedDate packed);
-  Date(int year, int month, int day);
+  explicit Date(PackedDate packed) : dateOrder(CurrentPlatform().dateOrder) { SetPacked(packed); }
+  Date(int theYear, int theMonth, int theDay)
+      : year(theYear), month(theMonth), day(theDay), dateOrder(CurrentPlatform().dateOrder) {}
 
   // The local date of the computer's clock. Applies the Roman reform first when none is set.
   static Date Today();
 
   // Returns what the fields pack to: `packed` again for every date that exists.
-  PackedDate SetPacked(PackedDate packed);
+  PackedDate SetPacked(PackedDate packed) {
+    const YearMonthDay date = Unpack(packed);
+    year = date.year;
+    month = date.month;
+    day = date.day;
+    return Packed();
+  }
   PackedDate Packed() const { return Pack(year, month, day); }
 
   // On purpose: a dropped date (5 to 14 October 1582) is read as Julian: the 10th has day number 2299166, and
@@ -65,6 +82,8 @@ struct Date {
   }
 };
 
+inline std::int64_t DayOrder(const Date& date) { return DayOrder(date.year, date.month, date.day); }
+
 Date DateOfDayNumber(int dayNumber);
 
 // 0 Sunday .. 6, for any day number, those below 0 included.
@@ -80,7 +99,14 @@ int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool
 // A day in the Julian calendar without its early leap-year errors.
 PackedDate JulianDateOfDayNumber(int dayNumber);
 
-// Of a month in the Gregorian calendar, whatever reform is in force; 31 for a month that does not exist.
+// Returns the length of a month in a leap year; 31 for a month that does not exist.
+constexpr int LongestMonth(int month) {
+  if (month == 2) return 29;
+  return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
+}
+
+// Returns the length of a month of the Gregorian calendar, whatever reform is in force; 31 for a month that
+// does not exist.
 int GregorianDaysInMonth(int year, int month);
 
 }  // namespace orbisol

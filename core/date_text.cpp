@@ -17,7 +17,9 @@ int NameIndex(int weekday) { return weekday == 0 ? 7 : weekday; }
 
 }  // namespace
 
-std::u16string DatePattern(int dateOrder) { return std::u16string(Piece(StringText(309), u'|', dateOrder)); }
+std::u16string DatePattern(int dateOrder) {
+  return std::u16string(Piece(StringText(kTextDatePatterns), u'|', dateOrder));
+}
 
 std::u16string WithDatePattern(std::u16string_view text, int dateOrder) {
   return ReplaceAll(text, u"%date%", DatePattern(dateOrder));
@@ -49,25 +51,33 @@ std::u16string JulianLongDate(const Date& date, bool historicalYear) {
                      DayMonthYear(date.dateOrder, julian.day, MonthName(julian.month), year));
 }
 
+std::u16string ProlepticGregorianText(const Date& date) {
+  const int dayNumber = date.DayNumber();
+  CalendarRules rules;
+  rules.ApplyGregorianStart(kAlwaysGregorian);
+  const ScopedRules inForce(rules);
+  return LongDate(DateOfDayNumber(dayNumber), true);
+}
+
 std::u16string CenturyText(int year) {
   const std::int64_t y = year;
   const std::int64_t century = (y >= 1 ? y - 1 : -y) / 100 + 1;
   if (century >= 50) return {};
 
   const auto n = static_cast<int>(century);
-  const auto ordinal = [](int unit) { return Piece(StringText(299), u'|', unit - 1); };
+  const auto ordinal = [](int unit) { return Piece(StringText(kTextCenturies), u'|', unit - 1); };
   std::u16string text;
   if (n < 20) {
     text = ordinal(n);
   } else if (n % 10 == 0) {
-    text = Piece(StringText(300), u'|', n / 10 - 2);
+    text = Piece(StringText(kTextTenthCenturies), u'|', n / 10 - 2);
   } else {
-    text = Piece(StringText(301), u'|', n / 10 - 2);
+    text = Piece(StringText(kTextCenturyTens), u'|', n / 10 - 2);
     text += u'-';
-    text += n % 10 == 1 ? StringText(302) : ordinal(n % 10);
+    text += n % 10 == 1 ? StringText(kTextCenturyFirst) : ordinal(n % 10);
   }
   text = UpperFirst(text) + u' ';
-  text += StringText(year >= 1 ? 303 : 304);
+  text += StringText(year >= 1 ? kTextCentury : kTextCenturyBeforeEra);
   return text;
 }
 

@@ -27,6 +27,10 @@ std::u16string LongDate(const Date& date, bool withoutWeekday);
 // `historicalYear`.
 std::u16string JulianLongDate(const Date& date, bool historicalYear);
 
+// Returns the same day as if the Gregorian calendar had always been in force, without the weekday and under
+// the year that begins on 1 January: "14 octobre 1582" for 4 October 1582.
+std::u16string ProlepticGregorianText(const Date& date);
+
 // Day, month name and year in an order (Date::dateOrder; year first for any order but 0 and 1).
 std::u16string DayMonthYear(int dateOrder, int day, std::u16string_view monthName, int year);
 

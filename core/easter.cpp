@@ -32,7 +32,7 @@ MonthAndDay GregorianEaster(std::int64_t year) {
   return FromMarch(i - j);
 }
 
-bool AfterReformYear(int year) { return year > Rules().startGregorian / 10000; }
+bool AfterReformYear(int year) { return year > Rules().ReformYear(); }
 
 }  // namespace
 
@@ -49,7 +49,6 @@ PackedDate OrthodoxEaster(int year, int offset) {
   const MonthAndDay easter = JulianEaster(year);
   if (!AfterReformYear(year)) return Pack(year, easter.month, easter.day);
 
-  constexpr PackedDate kNeverGregorian = 2147483647;
   Date date = DateOfDayNumber(DayNumberUnder(year, easter.month, easter.day, kNeverGregorian, true));
   date.AddDays(offset);
   return date.Packed();

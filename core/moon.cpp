@@ -14,14 +14,18 @@ constexpr double kDegrees = 57.29577951308232;     // of a radian
 
 // An angle by its sine and cosine. The perturbations are sums of few angles, and sums of these take products
 // only, where a sine costs ten times as much.
-struct Turn {
+struct SinCos {
   double sin;
   double cos;
 };
 
-Turn TurnOf(double degrees) { return {std::sin(degrees * kRadians), std::cos(degrees * kRadians)}; }
-Turn operator+(Turn a, Turn b) { return {a.sin * b.cos + a.cos * b.sin, a.cos * b.cos - a.sin * b.sin}; }
-Turn operator-(Turn a, Turn b) { return {a.sin * b.cos - a.cos * b.sin, a.cos * b.cos + a.sin * b.sin}; }
+SinCos SinCosOf(double degrees) { return {std::sin(degrees * kRadians), std::cos(degrees * kRadians)}; }
+SinCos operator+(SinCos a, SinCos b) {
+  return {a.sin * b.cos + a.cos * b.sin, a.cos * b.cos - a.sin * b.sin};
+}
+SinCos operator-(SinCos a, SinCos b) {
+  return {a.sin * b.cos - a.cos * b.sin, a.cos * b.cos + a.sin * b.sin};
+}
 
 double DegreesOf(double y, double x) { return std::atan2(y, x) * kDegrees; }
 
@@ -53,42 +57,42 @@ constexpr Element kMeanLead{kMoonNode.atStart + kMoonPerigee.atStart + kMoonAnom
                             kMoonNode.perDay + kMoonPerigee.perDay + kMoonAnomaly.perDay -
                                 kSunAnomaly.perDay - kSunPerihelion.perDay};
 
-double SunLongitude(double t, double perihelion, double meanAnomaly, Turn anomaly) {
+double SunLongitude(double t, double perihelion, double meanAnomaly, SinCos anomaly) {
   const double e = kSunEccentricity.At(t);
-  const Turn eccentric = TurnOf(meanAnomaly + e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
+  const SinCos eccentric = SinCosOf(meanAnomaly + e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
   return DegreesOf(std::sqrt(1.0 - e * e) * eccentric.sin, eccentric.cos - e) + perihelion;
 }
 
 // Kepler's equation by Newton's method. The first correction is always made.
-Turn MoonEccentricAnomaly(double meanAnomaly, Turn anomaly) {
+SinCos MoonEccentricAnomaly(double meanAnomaly, SinCos anomaly) {
   constexpr double kCloseEnough = 0.005;
   double angle =
       meanAnomaly + kMoonEccentricityInDegrees * anomaly.sin * (1.0 + kMoonEccentricity * anomaly.cos);
   for (;;) {
-    const Turn turn = TurnOf(angle);
-    const double correction =
-        (angle - kMoonEccentricityInDegrees * turn.sin - meanAnomaly) / (1.0 - kMoonEccentricity * turn.cos);
+    const SinCos eccentric = SinCosOf(angle);
+    const double correction = (angle - kMoonEccentricityInDegrees * eccentric.sin - meanAnomaly) /
+                              (1.0 - kMoonEccentricity * eccentric.cos);
     angle -= correction;
-    if (!(std::abs(correction) >= kCloseEnough)) return TurnOf(angle);
+    if (!(std::abs(correction) >= kCloseEnough)) return SinCosOf(angle);
   }
 }
 
 // On its ellipse, seen from the Earth, projected on the ecliptic.
-double UnperturbedMoonLongitude(double node, double perigee, double meanAnomaly, Turn anomaly) {
+double UnperturbedMoonLongitude(double node, double perigee, double meanAnomaly, SinCos anomaly) {
   static const double axes = std::sqrt(kMoonMinorAxis);
-  static const double tilt = TurnOf(kMoonInclination).cos;
-  const Turn eccentric = MoonEccentricAnomaly(meanAnomaly, anomaly);
+  static const double tilt = SinCosOf(kMoonInclination).cos;
+  const SinCos eccentric = MoonEccentricAnomaly(meanAnomaly, anomaly);
   const double x = eccentric.cos - kMoonEccentricity;
   const double y = axes * eccentric.sin;
-  const Turn turn = TurnOf(perigee);
-  const double along = x * turn.cos - y * turn.sin;  // toward the node
-  const double across = x * turn.sin + y * turn.cos;
+  const SinCos toPerigee = SinCosOf(perigee);
+  const double along = x * toPerigee.cos - y * toPerigee.sin;  // toward the node
+  const double across = x * toPerigee.sin + y * toPerigee.cos;
   return DegreesOf(across * tilt, along) + node;
 }
 
-double Perturbations(Turn moon, Turn sun, Turn lead, Turn fromNode) {
-  const Turn lead2 = lead + lead;
-  const Turn moonLessLead2 = moon - lead2;  // the evection's angle
+double Perturbations(SinCos moon, SinCos sun, SinCos lead, SinCos fromNode) {
+  const SinCos lead2 = lead + lead;
+  const SinCos moonLessLead2 = moon - lead2;  // the evection's angle
   return -1.274 * moonLessLead2.sin + 0.658 * lead2.sin - 0.186 * sun.sin -
          0.059 * (moonLessLead2 + moon).sin - 0.057 * (moonLessLead2 + sun).sin + 0.053 * (moon + lead2).sin +
          0.046 * (lead2 - sun).sin + 0.041 * (moon - sun).sin - 0.035 * lead.sin - 0.031 * (moon + sun).sin -
@@ -167,10 +171,10 @@ int MoonElongation(double t) {
   const double fromNode = perigee + moonAnomaly;
   const double lead = fromNode + node - sunAnomaly - sunPerihelion;
 
-  const Turn sun = TurnOf(sunAnomaly);
-  const Turn moon = TurnOf(moonAnomaly);
+  const SinCos sun = SinCosOf(sunAnomaly);
+  const SinCos moon = SinCosOf(moonAnomaly);
   const double longitude = UnperturbedMoonLongitude(node, perigee, moonAnomaly, moon) +
-                           Perturbations(moon, sun, TurnOf(lead), TurnOf(fromNode));
+                           Perturbations(moon, sun, SinCosOf(lead), SinCosOf(fromNode));
   const double elongation = Reduce(SunLongitude(t, sunPerihelion, sunAnomaly, sun) - longitude);
   return elongation < 360.0 ? static_cast<int>(elongation) : 0;
 }

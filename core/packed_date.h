@@ -10,7 +10,8 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
+
+#include "core/integers.h"
 
 namespace orbisol {
 
@@ -24,15 +25,11 @@ struct YearMonthDay {
   bool operator==(const YearMonthDay&) const = default;
 };
 
-// Cuts a sum that left the range of an int at the end it left by.
-constexpr int Saturate(std::int64_t value) {
-  if (value > std::numeric_limits<int>::max()) return std::numeric_limits<int>::max();
-  if (value < std::numeric_limits<int>::min()) return std::numeric_limits<int>::min();
-  return static_cast<int>(value);
-}
-
-// Month and day in one integer, 101..1231, for comparisons inside a year.
+// Packs month and day into one integer, 101..1231, for comparisons inside a year.
 constexpr std::int64_t MonthDay(int month, int day) { return std::int64_t{month} * 100 + day; }
+
+constexpr int kFirstOfJanuary = 101;  // month * 100 + day
+constexpr int kLastOfDecember = 1231;
 
 // Any integers are accepted; a result that no int holds is saturated.
 constexpr PackedDate Pack(int year, int month, int day) {
@@ -51,15 +48,6 @@ constexpr YearMonthDay Unpack(PackedDate packed) {
   return {packed / 10000, MonthDayOf(packed) / 100, MonthDayOf(packed) % 100};
 }
 
-// An integer that rises with the days also before the era, for packed dates and for their fields.
-constexpr std::int64_t DayOrder(int year, int month, int day) {
-  return std::int64_t{year} * 10000 + MonthDay(month, day);
-}
-constexpr std::int64_t DayOrder(PackedDate packed) {
-  return packed >= 0 ? packed : packed + std::int64_t{2} * MonthDayOf(packed);
-}
-
-static_assert(DayOrder(-440315) == DayOrder(-44, 3, 15) && DayOrder(-440315) > DayOrder(-440101));
 static_assert(Unpack(-440315) == YearMonthDay{-44, 3, 15} && Pack(-44, 3, 15) == -440315);
 static_assert(Unpack(301) == YearMonthDay{0, 3, 1} && Pack(0, 3, 1) == 301);
 

@@ -15,11 +15,19 @@ std::u16string Item(int textId, int fromOne) {
 
 const FrenchLocale kFrenchLocale;
 const LocalClock kLocalClock;
-constinit Platform currentPlatform{&kFrenchLocale, &kLocalClock};
+constexpr int kFrenchDateOrder = 1;
 
 }  // namespace
 
-Platform& CurrentPlatform() { return currentPlatform; }
+namespace detail {
+constinit Platform currentPlatform{&kFrenchLocale, &kLocalClock, kFrenchDateOrder};
+}
+
+void SetPlatform(const Locale& locale, const Clock& clock) {
+  detail::currentPlatform = {&locale, &clock, locale.ShortDateOrder()};
+}
+
+int FrenchLocale::ShortDateOrder() const { return kFrenchDateOrder; }
 
 std::u16string FrenchLocale::MonthName(int month) const { return Item(kTextFrenchMonths, month); }
 std::u16string FrenchLocale::MonthAbbrev(int month) const { return Item(kTextFrenchMonthAbbrevs, month); }

@@ -31,13 +31,20 @@ struct Clock {
 struct Platform {
   const Locale* locale;  // never null
   const Clock* clock;    // never null
+  int dateOrder;         // as in Date::dateOrder; asked of the locale once, because every new Date takes it
 };
 
-Platform& CurrentPlatform();
+namespace detail {
+extern Platform currentPlatform;
+}
+inline const Platform& CurrentPlatform() { return detail::currentPlatform; }
+
+// Puts other answers in force. Both live as long as they are.
+void SetPlatform(const Locale& locale, const Clock& clock);
 
 // The answers that need no desktop. Names are empty outside their range.
 struct FrenchLocale : Locale {
-  int ShortDateOrder() const override { return 1; }
+  int ShortDateOrder() const override;
   int FirstDayOfWeek() const override { return 0; }
   int FirstWeekOfYear() const override { return 2; }
   std::u16string MonthName(int month) const override;

@@ -8,11 +8,6 @@
 namespace orbisol {
 namespace {
 
-constexpr int k400Years = 146097;
-constexpr int k100Years = 36524;
-constexpr int k4Years = 1461;
-constexpr int kYear = 365;
-
 constexpr int LeapDaysBefore(int year) { return year / 4 - year / 100 + year / 400; }
 
 std::u16string_view Item(int textId, int index) { return Piece(StringText(textId), u'|', index); }
@@ -21,20 +16,20 @@ std::u16string_view Item(int textId, int index) { return Piece(StringText(textId
 
 RepublicanDate ToRepublican(const Date& date) {
   // Days since the first day of a year 0.
-  const std::int64_t days = std::int64_t{date.DayNumber()} - Date(kRepublicanEpoch).DayNumber() + kYear;
-  const std::int64_t q400 = days / k400Years;
-  auto rest = static_cast<int>(days - k400Years * q400);
-  const int q100 = rest / k100Years;
-  rest -= k100Years * q100;
-  const int q4 = (rest + 1) / k4Years;
-  rest -= k4Years * q4;
-  const int q1 = rest / kYear;
+  const std::int64_t days = std::int64_t{date.DayNumber()} - Date(kRepublicanEpoch).DayNumber() + kDaysInYear;
+  const std::int64_t q400 = days / kDaysIn400Years;
+  auto rest = static_cast<int>(days - kDaysIn400Years * q400);
+  const int q100 = rest / kDaysIn100Years;
+  rest -= kDaysIn100Years * q100;
+  const int q4 = (rest + 1) / kDaysIn4Years;
+  rest -= kDaysIn4Years * q4;
+  const int q1 = rest / kDaysInYear;
   auto year = static_cast<int>(400 * q400) + 100 * q100 + 4 * q4 + q1;
-  int dayOfYear = rest - kYear * q1;
+  int dayOfYear = rest - kDaysInYear * q1;
   if (dayOfYear == -1 &&
       year % 4 == 0) {  // the "+ 1" above took the last day of four years for the next year's
     --year;
-    dayOfYear = kYear;  // the sixth complementary day
+    dayOfYear = kDaysInYear;  // the sixth complementary day
   }
   return {year, dayOfYear / 30, dayOfYear % 30};
 }
@@ -49,7 +44,7 @@ Date FromRepublican(int year, int month, int day) {
   const int m = std::clamp(month, 1, kComplementaryMonth + 1);
   const int d = std::clamp(day, 1, m == kComplementaryMonth + 1 ? 6 : 30);
   Date date(kRepublicanEpoch);
-  date.AddDays(kYear * (a - 1) + LeapDaysBefore(a) + 30 * (m - 1) + d - 1);
+  date.AddDays(kDaysInYear * (a - 1) + LeapDaysBefore(a) + 30 * (m - 1) + d - 1);
   return date;
 }
 

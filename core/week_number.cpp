@@ -13,16 +13,10 @@ constexpr int kJulianWeeks = 1098;      // -4716, before three common years and 
 constexpr int kTriennialWeeks = 26;     // -44, before -43, -42 and the leap year -41
 constexpr int kNoLeapWeeks = 283;       // -7, years of 365 days
 
-constexpr int kYear = 365;
-constexpr int kThreeYears = 1096;
-constexpr int kFourYears = 1461;
-constexpr int kCentury = 36524;
-constexpr int kFourCenturies = 146097;
-
 // `days` from the beginning of a cycle of years, of which the last alone is a leap year.
 int WeekInCycle(std::int64_t days, int cycle) {
   const std::int64_t lastDay = days / (cycle - 1);  // 1 on the last day of the cycle, the leap day, else 0
-  const std::int64_t dayOfYear = lastDay + (days - lastDay) % kYear;
+  const std::int64_t dayOfYear = lastDay + (days - lastDay) % kDaysInYear;
   return static_cast<int>(dayOfYear / 7) + 1;
 }
 
@@ -38,11 +32,7 @@ std::int64_t CivilYearLead(const Date& date) {
 }
 
 // The day after the first Gregorian day, or later.
-bool IsAfterReform(const Date& date) {
-  const YearMonthDay start = Unpack(Rules().startGregorian);
-  return date.year > start.year ||
-         (date.year == start.year && MonthDay(date.month, date.day) > MonthDay(start.month, start.day));
-}
+bool IsAfterReform(const Date& date) { return DayOrder(date) > DayOrder(Rules().startGregorian); }
 
 }  // namespace
 
@@ -58,17 +48,18 @@ int IsoWeekNumber(const Date& date) {
     // one.
     const std::int64_t lastSunday = std::int64_t{rules.reformYearLastDayNumber} - rules.reformYearLastWeekday;
     if (n >= lastSunday + 8 || (rules.reformYearLastWeekday < 4 && n > lastSunday))
-      return WeekInCycle((monday + kGregorianWeeks) % kFourCenturies % kCentury % kFourYears, kFourYears);
+      return WeekInCycle((monday + kGregorianWeeks) % kDaysIn400Years % kDaysIn100Years % kDaysIn4Years,
+                         kDaysIn4Years);
   }
 
   if (!rules.proleptic && (date.year <= 0 || (date.year == 1 && date.month == 1 && date.day == 1))) {
     // On purpose: these bounds are not those of the early leap years, and the years before -44 are numbered
     // as if one in three had been a leap year then too.
-    if (!date.IsBefore(-60101)) return static_cast<int>(((monday + kNoLeapWeeks) % kYear) / 7) + 1;
-    return WeekInCycle((monday + kTriennialWeeks) % kThreeYears, kThreeYears);
+    if (!date.IsBefore(-60101)) return static_cast<int>(((monday + kNoLeapWeeks) % kDaysInYear) / 7) + 1;
+    return WeekInCycle((monday + kTriennialWeeks) % kDaysIn3Years, kDaysIn3Years);
   }
 
-  return WeekInCycle((monday + kJulianWeeks + CivilYearLead(date)) % kFourYears, kFourYears);
+  return WeekInCycle((monday + kJulianWeeks + CivilYearLead(date)) % kDaysIn4Years, kDaysIn4Years);
 }
 
 int CivilWeekNumber(const Date& date) {

@@ -22,20 +22,20 @@ PackedDate BoundOfYear(int year, int monthDay, PackedDate ifNone) {
 
 DayEvent ReadEvent(std::u16string_view record) {
   DayEvent event;
-  event.type = Number(record, u"type");
+  event.type = static_cast<DayEventType>(Number(record, u"type"));
   event.isPublic = Raw(record, u"public") == u"1";
   event.month = Number(record, u"month");
   event.day = Number(record, u"day");
   event.weekday = Number(record, u"weekday");
   event.weeknum = Number(record, u"weeknum");
   if (HasYearBounds(record)) {
-    event.ymdFrom = BoundOfYear(Number(record, u"yFrom"), 101, kAlwaysFrom);
-    event.ymdTo = BoundOfYear(Number(record, u"yTo"), 1231, kAlwaysTo);
+    event.ymdFrom = BoundOfYear(Number(record, u"yFrom"), kFirstOfJanuary, kAlwaysFrom);
+    event.ymdTo = BoundOfYear(Number(record, u"yTo"), kLastOfDecember, kAlwaysTo);
   } else {
     event.ymdFrom = Number(record, u"ymdFrom");
     event.ymdTo = Number(record, u"ymdTo");
   }
-  event.name.Set(Unescape(Raw(record, u"name")), kMaxNameUnits);
+  event.name.Set(Unescape(Raw(record, u"name")));
   return event;
 }
 
@@ -43,7 +43,7 @@ HolidayPeriod ReadPeriod(std::u16string_view record) {
   HolidayPeriod period;
   period.ymdFrom = Number(record, u"ymdFrom");
   period.ymdTo = Number(record, u"ymdTo");
-  period.title.Set(Unescape(Raw(record, u"title")), kMaxNameUnits);
+  period.title.Set(Unescape(Raw(record, u"title")));
   return period;
 }
 
@@ -69,7 +69,7 @@ void AppendNumber(std::u16string& out, std::u16string_view tag, int number) {
 
 void AppendEvent(std::u16string& out, const DayEvent& event) {
   out += u"\t<event>\r\n";
-  AppendNumber(out, u"type", event.type);
+  AppendNumber(out, u"type", static_cast<int>(event.type));
   AppendNumber(out, u"public", event.isPublic ? 1 : 0);
   AppendNumber(out, u"month", event.month);
   AppendNumber(out, u"day", event.day);
@@ -95,11 +95,11 @@ CalendarContent ReadCalendarEvents(std::u16string_view text) {
   CalendarContent content;
   ForEachElement(Raw(text, u"dayEvents"), u"event", [&](std::u16string_view record) {
     const DayEvent event = ReadEvent(record);
-    if (AcceptDayEvent(event)) content.dayEvents.push_back(event);
+    if (IsAcceptableDayEvent(event)) content.dayEvents.push_back(event);
   });
   ForEachElement(Raw(text, u"holidays"), u"period", [&](std::u16string_view record) {
     const HolidayPeriod period = ReadPeriod(record);
-    if (AcceptPeriod(period)) content.holidays.push_back(period);
+    if (IsAcceptablePeriod(period)) content.vacations.push_back(period);
   });
   return content;
 }
@@ -110,15 +110,15 @@ bool HasYearBounds(std::u16string_view event) {
 
 void AppendCalendarEvents(std::u16string& out, const CalendarContent& content) {
   constexpr std::size_t kUnitsOfRecord = 256;  // a rule with a name of middling length
-  out.reserve(out.size() + kUnitsOfRecord * (1 + content.dayEvents.size() + content.holidays.size()));
+  out.reserve(out.size() + kUnitsOfRecord * (1 + content.dayEvents.size() + content.vacations.size()));
   if (!content.dayEvents.empty()) {
     out += u"<dayEvents>\r\n";
     for (const DayEvent& event : content.dayEvents) AppendEvent(out, event);
     out += u"</dayEvents>\r\n";
   }
-  if (!content.holidays.empty()) {
+  if (!content.vacations.empty()) {
     out += u"<holidays>\r\n";
-    for (const HolidayPeriod& period : content.holidays) AppendPeriod(out, period);
+    for (const HolidayPeriod& period : content.vacations) AppendPeriod(out, period);
     out += u"</holidays>\r\n";
   }
 }

@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const orbisol::CalendarFile read = orbisol::ReadCalendar(bytes);
   const orbisol::CalendarFile again = CheckForm(read, orbisol::CalendarForm::kUser);
   Check(again.content.dayEvents.size() == read.content.dayEvents.size());
-  Check(again.content.holidays.size() == read.content.holidays.size());
+  Check(again.content.vacations.size() == read.content.vacations.size());
   Check(again.rules == read.rules);
   if (size % 4 == 0) {
     // A public calendar follows the rules of whoever reads it: what other rules alone accepted is gone.

@@ -15,8 +15,15 @@ enum TextId : int {
   kTextEras = 280,           // of a year before the first
   kTextNewMoon = 281,        // the other phases follow
   kTextWeek = 295,
-  kTextOpenPicture = 305,    // title of the file dialog
-  kTextColorCaptions = 297,  // one for each color, in the order of ColorTable()
+  kTextColorCaptions = 297,   // one for each color, in the order of ColorTable()
+  kTextCenturies = 299,       // ordinals from 1 to 19
+  kTextTenthCenturies = 300,  // from 20 on by tens
+  kTextCenturyTens = 301,     // the same as the first part of another ordinal
+  kTextCenturyFirst = 302,    // its second part for 21, 31, 41
+  kTextCentury = 303,
+  kTextCenturyBeforeEra = 304,
+  kTextOpenPicture = 305,   // title of the file dialog
+  kTextDatePatterns = 309,  // by Date::dateOrder
 
   kTextFrenchMonths = 5001,
   kTextFrenchMonthAbbrevs = 5002,

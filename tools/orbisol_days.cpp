@@ -27,8 +27,7 @@ enum class Marks { kPublic, kAll };
 std::optional<int> Year(std::string_view text) {
   int year = 0;
   const std::from_chars_result end = std::from_chars(text.data(), text.data() + text.size(), year);
-  const bool isShown =
-      year >= kFirstDateShown / 10000 && year <= kLastDateShown / 10000;  // the years that the program shows
+  const bool isShown = IsYearShown(year);
   if (end.ec != std::errc() || end.ptr != text.data() + text.size() || !isShown) return std::nullopt;
   return year;
 }
@@ -57,7 +56,8 @@ void PrintDays(const CalendarContent& content, int firstYear, int lastYear, Mark
     if ((match.bits & kHolidayMark) != 0) PrintDay(ymd, match.publicNames);
     if (marks == Marks::kPublic) continue;
     if ((match.bits & kEventMark) != 0) PrintDay(ymd, match.eventNames);
-    if (const HolidayPeriod* period = PeriodOfDay(content.holidays, ymd)) PrintDay(ymd, period->title.View());
+    if (const HolidayPeriod* period = PeriodOfDay(content.vacations, ymd))
+      PrintDay(ymd, period->title.View());
   }
 }
 

@@ -21,7 +21,7 @@ TEST(ImportHolidaysTest, PublicRulesAreAddedOrReplacedAndPersonalOnesStay) {
     ImportHolidays(content, holidays, replace);
     std::u16string names;
     for (const DayEvent& event : content.dayEvents) names.append(event.name.View()).append(u" ");
-    for (const HolidayPeriod& period : content.holidays) names.append(period.title.View()).append(u" ");
+    for (const HolidayPeriod& period : content.vacations) names.append(period.title.View()).append(u" ");
     return names;
   };
   EXPECT_EQ(imported(mine, theirs, false), u"old me both new both feast winter summer ");

@@ -50,7 +50,7 @@ constexpr Color kColorsOf[][2] = {
 // The judge of one cell. On purpose: the weekday is that of the day's number, not of the column.
 DayCell JudgedCell(PackedDate ymd, bool own, int week, const CalendarContent& content) {
   const Date date(ymd);
-  const HolidayPeriod* const period = PeriodOfDay(content.holidays, ymd);
+  const HolidayPeriod* const period = PeriodOfDay(content.vacations, ymd);
   const DayMatch match = own ? MatchDay(content.dayEvents, ymd) : DayMatch();
   const unsigned ofRules = match.bits == kEventMark ? kEventMark : match.bits != 0 ? kHolidayMark : 0;
   const unsigned marks = ofRules | (period != nullptr ? kVacationMark : 0);

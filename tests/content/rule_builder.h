@@ -23,7 +23,7 @@ struct RuleFields {
 
 inline DayEvent Rule(DayEventType type, const RuleFields& fields) {
   const auto& [isPublic, month, day, weekday, weeknum, from, to, name] = fields;
-  return {static_cast<int>(type), isPublic, month, day, weekday, weeknum, from, to, name};
+  return {type, isPublic, month, day, weekday, weeknum, from, to, name};
 }
 
 inline HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title = u"") {

@@ -26,6 +26,12 @@ TEST(DateTextTest, TheYearShownIsTheCivilOne) {
   EXPECT_EQ(JulianLongDate(Date(18000313), false), u"Jeudi 1 mars 1799");
 }
 
+TEST(DateTextTest, TheProlepticDateCountsAsIfTheReformHadAlwaysBeenInForce) {
+  constexpr std::pair<PackedDate, const char16_t*> kDates[] = {
+      {15821004, u"14 octobre 1582"}, {3250525, u"26 mai 325"}, {10101, u"31 décembre 0"}};
+  for (const auto& [date, text] : kDates) EXPECT_EQ(ProlepticGregorianText(Date(date)), text) << date;
+}
+
 TEST(DateTextTest, NamesAreThoseOfTheLocaleAndSundayHasOneWhateverItsNumber) {
   EXPECT_EQ(MonthName(2) + MonthAbbrev(2) + WeekdayName(3) + WeekdayAbbrev(3), u"févrierfévr.mercredimer.");
   EXPECT_EQ(MonthName(0) + MonthName(13) + WeekdayName(8) + WeekdayName(-1), u"");

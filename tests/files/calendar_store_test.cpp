@@ -14,7 +14,7 @@ const std::u16string kPath = u"/user/A.xml";
 
 CalendarFile WithRule(std::u16string_view name) {
   CalendarFile made;
-  made.content.dayEvents = {{0, true, 1, 1, 0, 0, kAlwaysFrom, kAlwaysTo, {name}}};
+  made.content.dayEvents = {{DayEventType::kFixedDate, true, 1, 1, 0, 0, kAlwaysFrom, kAlwaysTo, {name}}};
   return made;
 }
 

@@ -56,9 +56,9 @@ class ScopedPlatform {
  public:
   explicit ScopedPlatform(const FakeLocale& locale, const FakeClock& clock = FakeClock())
       : m_saved(CurrentPlatform()), m_locale(locale), m_clock(clock) {
-    CurrentPlatform() = {&m_locale, &m_clock};
+    SetPlatform(m_locale, m_clock);
   }
-  ~ScopedPlatform() { CurrentPlatform() = m_saved; }
+  ~ScopedPlatform() { SetPlatform(*m_saved.locale, *m_saved.clock); }
   ScopedPlatform(const ScopedPlatform&) = delete;
   ScopedPlatform& operator=(const ScopedPlatform&) = delete;
 

@@ -10,9 +10,6 @@
 
 namespace orbisol {
 
-constexpr PackedDate kNeverGregorian = 99990101;    // Julian for all the years shown
-constexpr PackedDate kAlwaysGregorian = -47990101;  // and Gregorian
-
 struct RuleOptions {
   bool proleptic = false;
   std::vector<CivilYearStart> rows = {};  // most recent first, at most kCivilYearRows

@@ -17,7 +17,7 @@ void AddPeriod(PackedDate from, PackedDate to) {
   HolidayPeriod period;
   period.ymdFrom = from;
   period.ymdTo = to;
-  Content().holidays.push_back(period);
+  Content().vacations.push_back(period);
 }
 
 void AddEvent(int month, int day) {

@@ -11,16 +11,6 @@
 
 namespace orbisol {
 
-std::u16string ProlepticGregorianText(const Date& date) {
-  constexpr PackedDate kBeforeAllDates = -47990101;
-  const int dayNumber = date.DayNumber();
-  CalendarRules rules;
-  rules.iso8601 = Rules().iso8601;
-  rules.ApplyGregorianStart(kBeforeAllDates);
-  const ScopedRules inForce(rules);
-  return LongDate(DateOfDayNumber(dayNumber), true);
-}
-
 CConverterPane::CConverterPane(QWidget* parent)
     : QWidget(parent),
       m_julian(new CJulianGroup),

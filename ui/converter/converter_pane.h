@@ -16,10 +16,6 @@ class CJulianGroup;
 class CKeptDateGroup;
 class CRepublicanGroup;
 
-// Returns "14 octobre 1582" for the day that the calendar in force calls 4 October 1582: its date as if the
-// Gregorian calendar had always been in force, years counted from 1 January.
-std::u16string ProlepticGregorianText(const Date& date);
-
 class CConverterPane : public QWidget {
   Q_OBJECT
 

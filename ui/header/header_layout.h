@@ -9,6 +9,7 @@
 
 #include <array>
 
+#include "core/integers.h"
 #include "core/rect.h"
 
 namespace orbisol {

@@ -74,7 +74,6 @@ QString CHeaderWnd::EraText() const {
 }
 
 QString CHeaderWnd::CivilYearText() const {
-  constexpr int kFirstOfJanuary = 101;
   const int start = CivilYearStartDay(Selected());
   if (start == kFirstOfJanuary) return {};
   const std::u16string month = MonthName(start / 100);

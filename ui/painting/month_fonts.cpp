@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "core/integers.h"
 #include "resources/strings.h"
 #include "ui/painting/month_texts.h"
 #include "ui/toolkit/plain_text.h"

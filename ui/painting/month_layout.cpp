@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/integers.h"
+
 namespace orbisol {
 namespace {
 

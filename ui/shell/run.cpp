@@ -58,7 +58,7 @@ int Run(const StartUp& startUp) {
 int Run(QApplication& application) {
   SpeakFrench(application);
   static const CDesktopLocale locale;
-  CurrentPlatform().locale = &locale;
+  SetPlatform(locale, *CurrentPlatform().clock);
   ResetCalendarConfig();
 
   const Folders folders = DesktopFolders();

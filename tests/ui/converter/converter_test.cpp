@@ -56,18 +56,6 @@ TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
   EXPECT_FALSE(ShowsLine("Grégorien proleptique : 15 octobre 1582"));
 }
 
-TEST_F(ConverterTest, TheProlepticDateCountsAsIfTheReformHadAlwaysBeenInForce) {
-  const struct {
-    PackedDate date;
-    const char16_t* text;
-  } kDates[] = {{15821004, u"14 octobre 1582"},
-                {3250525, u"26 mai 325"},
-                {10010101, u"7 janvier 1001"},
-                {10101, u"31 décembre 0"}};
-  for (const auto& row : kDates) EXPECT_EQ(ProlepticGregorianText(Date(row.date)), row.text) << row.date;
-  EXPECT_EQ(Rules().startGregorian, kRomanReform);  // put back
-}
-
 TEST_F(ConverterTest, ARepublicanDateIsEnteredAndShown) {
   Show(20240101);
   EXPECT_FALSE(Day()->isVisible());

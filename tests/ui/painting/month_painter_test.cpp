@@ -55,7 +55,7 @@ struct Page {
 
   Rect Cell(int day, int month = 5) const { return Layout().CellRect(Model().CellOf(month, day)); }
 
-  void FillDays(PackedDate from, PackedDate to) { content.holidays.push_back({from, to, {}}); }
+  void FillDays(PackedDate from, PackedDate to) { content.vacations.push_back({from, to, {}}); }
 
   void PaintOn(QImage& canvas, const QRegion& region = {}) const {
     CMonthPainter painter;
