@@ -30,7 +30,7 @@ const std::array<Color, kColorCount>& Colors() {
   return look.colors;
 }
 
-// One item is one month.
+// Builds all months of the years given. One item is one month.
 void BuildYears(benchmark::State& state, int firstYear, int lastYear, MonthModel::Moon moon) {
   MonthModel model;
   std::int64_t months = 0;
@@ -54,7 +54,7 @@ void YearsOfTheEra_WithoutMoon(benchmark::State& state) {
 }
 BENCHMARK(YearsOfTheEra_WithoutMoon)->Unit(benchmark::kMillisecond);
 
-// Rules of all kinds, and periods all over a century.
+// Returns a calendar with rules of all kinds, and with periods all over a century.
 CalendarContent CrowdedCalendar(int rules, int periods) {
   std::mt19937 random(1792);
   const auto any = [&random](int low, int high) {
@@ -95,7 +95,7 @@ void CrowdedMonth(benchmark::State& state) {
 }
 BENCHMARK(CrowdedMonth)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
-// An import in which half of the rules are there already.
+// Imports a calendar of which half the rules are there already.
 void ImportRules(benchmark::State& state) {
   const auto number = [](int i) { return std::to_string(i); };
   CalendarContent mine;
@@ -118,7 +118,7 @@ void ImportRules(benchmark::State& state) {
 }
 BENCHMARK(ImportRules)->Arg(10000)->Arg(40000)->Unit(benchmark::kMillisecond);
 
-// A calendar's file of some ten and twenty million bytes.
+// Reads a calendar file of some ten and twenty million bytes.
 void ReadLargeFile(benchmark::State& state) {
   CalendarFile calendar;
   calendar.content = CrowdedCalendar(static_cast<int>(state.range(0)), 0);

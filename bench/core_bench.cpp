@@ -1,7 +1,7 @@
 // Calendar arithmetic beside the peers that do part of the same: std::chrono and QDate know no reform, a pair
 // of QDate and QCalendar can be switched at it by hand, ICU's GregorianCalendar has a change date.
 //
-// Days are drawn from the whole range shown and come shuffled, as no program would like them.
+// Days are drawn from the whole range shown and come shuffled, so that no order helps any of the programs.
 #include <benchmark/benchmark.h>
 #include <unicode/gregocal.h>
 

@@ -1,4 +1,5 @@
-// The least a program of this toolkit can be: a main window as large as ours with a menu bar, a tool bar, a
+// The least a program of this toolkit can be: a main window as large as the first one of ours on a screen of
+// 3840 x 2160, with a menu bar, a tool bar, a
 // status bar and French texts, and nothing in it.
 #include <QAction>
 #include <QApplication>
@@ -30,7 +31,7 @@ int main(int argc, char** argv) {
       bar->addAction(menu->addAction(QString::fromUtf8(item)));
   }
   window.statusBar()->showMessage(QStringLiteral("Premier quartier de lune"));
-  window.setGeometry(50, 50, 850, 400);
+  window.resize(1280, 800);
   window.show();
   return QApplication::exec();
 }

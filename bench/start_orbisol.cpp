@@ -1,4 +1,4 @@
-// The program as it is, saying how far its start has come.
+// The program as it is; it reports how far its start has come.
 #include <QApplication>
 
 #include "bench/start_report.h"

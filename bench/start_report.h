@@ -1,4 +1,4 @@
-// Says on the standard output how far the start of a program with a window has come, for the script that
+// Reports on the standard output how far the start of a program with a window has come, for the script that
 // measures it:
 //
 //   painted          its first window was painted and handed to the display

@@ -7,7 +7,10 @@
 
 namespace orbisol {
 
-// The entries that have no command or control of the same number.
+// The entries that have no command or control of the same number. Numbers below 5000 came with the calendar's
+// data and menus; above it each part of the program has a range: 50xx names that the calendar speaks, 51xx
+// the main window, the fields that dialogs share, help and about, 52xx commands, 53xx editing (events,
+// periods, calendars), 54xx printing, 55xx the preferences, 56xx the holidays of other countries.
 enum TextId : int {
   kTextPrevious = 131,  // tips of the header's arrows
   kTextNext = 132,

@@ -1,0 +1,8 @@
+// The benches of windows, one function a file of them. Content() holds the days of France while they run.
+#pragma once
+
+namespace orbisol {
+
+void RegisterMonthView();  // repaints, the next month, moving the selection, beside QCalendarWidget
+
+}  // namespace orbisol
