@@ -21,7 +21,7 @@ groups_coverage := coverage
 help:
 	@echo 'make run         build the program, install it into $(STAGE) and start it'
 	@echo 'make test        build and test (PRESET=dev, ci, sanitize, release-test; CTEST_FLAGS=-R name)'
-	@echo 'make screenshot  pictures of the windows in build/screenshots, at scale 1 and 2'
+	@echo 'make screenshot  pictures of the windows in build/screenshots, at several sizes and scales'
 	@echo 'make bench       measure, beside the peers (FILTER=name)'
 	@echo 'make coverage    which lines and branches the tests reach, layer by layer (LINES=1: which not)'
 	@echo 'make fuzz        each fuzzer for FUZZ_SECONDS ($(FUZZ_SECONDS))'
