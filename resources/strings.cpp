@@ -152,6 +152,12 @@ constexpr Entry kStrings[] = {
     {kTextHelp,
      u"Aide d'Orbisol|Sommaire|Index|Chercher dans l'index|Page de l'aide|Page précédente|Page suivante"},
     {kTextVersion, u"Version %d.%d.%d / %s %d bits"},
+    {kTextUsage,
+     u"Utilisation : orbisol [--help | --version]\n\n"
+     u"Ouvre le calendrier perpétuel : dates juliennes, grégoriennes et républicaines.\n\n"
+     u"  --help     affiche cette aide\n"
+     u"  --version  affiche la version du programme"},
+    {kTextUnknownWord, u"orbisol : « %s » n'est pas une option (voir orbisol --help)"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},

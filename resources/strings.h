@@ -80,6 +80,8 @@ enum TextId : int {
   kTextPictureChooser = 5161,  // accessible names of path and picture, the button, the empty path
   kTextHelp = 5170,            // of the help window: title, contents, index, filter, page, back, forward
   kTextVersion = 5180,         // in the about box: three numbers, system, bits
+  kTextUsage = 5190,           // answer to --help
+  kTextUnknownWord = 5191,     // of the command line, in one line
 };
 
 // Empty for a number that the table does not hold.

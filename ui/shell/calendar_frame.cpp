@@ -72,7 +72,6 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
       m_description(new CElidedLabel),
       m_dialog(nullptr) {
   TakeSettings();
-  setWindowIcon(ProgramIcon());
   setContextMenuPolicy(Qt::NoContextMenu);  // the toolkit's own would hide bars behind the menu's back
   setAttribute(Qt::WA_AlwaysShowToolTips);  // of inactive windows too
 
@@ -138,11 +137,15 @@ void CCalendarFrame::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && m_dialog != nullptr) m_dialog->ThemeChanged();
 }
 
-void CCalendarFrame::closeEvent(QCloseEvent* event) {
+void CCalendarFrame::StoreLayout() {
   ClosingFrame closing = m_placement->Closing();
   closing.paneShown = m_dialog->IsPaneShown();
   closing.paneWidth = m_dialog->PaneWidth();
   SaveMainWindowLayout(m_doors.store, Display().mainLayout, closing, VirtualScreen());
+}
+
+void CCalendarFrame::closeEvent(QCloseEvent* event) {
+  StoreLayout();
   QMainWindow::closeEvent(event);
 }
 

@@ -47,6 +47,9 @@ class CCalendarFrame : public QMainWindow {
   // asks for one.
   void Raise(const std::string& token = {});
 
+  // Stores where the window stands now, as closing it does.
+  void StoreLayout();
+
   void RunCommand(CommandId command);
 
   CMainDlg& Dialog() { return *m_dialog; }

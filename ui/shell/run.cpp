@@ -5,12 +5,12 @@
 
 #include <memory>
 
-#include "core/calendar_config.h"
 #include "core/platform.h"
 #include "platform/activation_token.h"
 #include "platform/desktop_files.h"
 #include "platform/desktop_locale.h"
 #include "platform/desktop_store.h"
+#include "platform/end_signals.h"
 #include "platform/folders.h"
 #include "platform/runtime_folder.h"
 #include "resources/strings.h"
@@ -19,6 +19,7 @@
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/space_key.h"
+#include "ui/window/tool_icons.h"
 
 namespace orbisol {
 namespace {
@@ -51,15 +52,28 @@ int Run(const StartUp& startUp) {
       if (const auto token = instance.TakeCall()) frame.Raise(*token);
     });
   }
+  const CEndSignals endSignals;
+  std::unique_ptr<QSocketNotifier> ending;
+  if (endSignals.Descriptor() >= 0) {
+    ending = std::make_unique<QSocketNotifier>(endSignals.Descriptor(), QSocketNotifier::Read);
+    QObject::connect(ending.get(), &QSocketNotifier::activated, &frame, [&] {
+      ending->setEnabled(false);
+      frame.close();
+      QApplication::quit();  // where a dialog is open too
+    });
+  }
+  // A session that ends waits for this one answer and then cuts the display off.
+  QObject::connect(
+      qApp, &QGuiApplication::commitDataRequest, &frame, [&] { frame.StoreLayout(); }, Qt::DirectConnection);
   frame.Open();
   return QApplication::exec();
 }
 
 int Run(QApplication& application) {
   SpeakFrench(application);
+  QApplication::setWindowIcon(ProgramIcon());
   static const CDesktopLocale locale;
   SetPlatform(locale, *CurrentPlatform().clock);
-  ResetCalendarConfig();
 
   const Folders folders = DesktopFolders();
   CDesktopFiles files(folders.trash);

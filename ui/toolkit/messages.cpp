@@ -4,18 +4,21 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "resources/strings.h"
+#include "ui/toolkit/plain_text.h"
+
 namespace orbisol {
 namespace {
 
 struct DesktopMessages : MessageDoor {
   void ShowError(QWidget* parent, const QString& text) override {
-    QMessageBox box(QMessageBox::Critical, QString(), text, QMessageBox::Ok, parent);
+    QMessageBox box(QMessageBox::Critical, TableText(kTextProgramName), text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.exec();
   }
 
   int Choose(QWidget* parent, const QString& text, const QStringList& buttons) override {
-    QMessageBox box(QMessageBox::Question, QString(), text, QMessageBox::NoButton, parent);
+    QMessageBox box(QMessageBox::Question, TableText(kTextProgramName), text, QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     QList<QAbstractButton*> made;
     for (const QString& button : buttons) made.append(box.addButton(button, QMessageBox::ActionRole));

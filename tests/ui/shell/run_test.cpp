@@ -4,11 +4,15 @@
 
 #include <QTimer>
 
+#include <algorithm>
+#include <csignal>
+#include <sstream>
 #include <thread>
 
 #include "platform/runtime_folder.h"
 #include "platform/single_instance.h"
 #include "tests/ui/shell/frame_fixture.h"
+#include "ui/shell/command_line.h"
 
 namespace orbisol {
 namespace {
@@ -29,8 +33,7 @@ class RunTest : public FrameTest {
 TEST_F(RunTest, WithoutASettingsKeyTheInstallationIsBroken) {
   store.text.reset();
   EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
-  ASSERT_EQ(messages.errors.size(), 1U);
-  EXPECT_EQ(messages.errors[0], QString::fromUtf8("Installation incorrecte - réinstallez le programme."));
+  EXPECT_EQ(messages.errors.at(0), QString::fromUtf8("Installation incorrecte - réinstallez le programme."));
   EXPECT_EQ(Window(), nullptr);
 }
 
@@ -69,6 +72,60 @@ TEST_F(RunTest, WhereTheFirstIsSilentTheUserDecidesWhetherToOpenAnother) {
     EXPECT_EQ(windows, choice + 1);
   }
   EXPECT_EQ(messages.questions.size(), 2U);
+}
+
+// The session, a terminal or another program ends this one: it stores where its window stood.
+TEST_F(RunTest, AnEndFromOutsideLosesNoLayout) {
+  void (*const kEnds[])() = {
+      [] { std::raise(SIGTERM); },
+      [] { std::raise(SIGHUP); },
+      [] { std::raise(SIGINT); },
+      [] {
+        alignas(void*) char session[sizeof(void*)] = {};  // answers nothing, and is asked nothing
+        emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(session));
+        Window()->hide();  // as the display is gone
+        qApp->exit();
+      },
+  };
+  for (const auto end : kEnds) {
+    StoreLayout({.rect = {50, 50, 900, 650}});
+    QTimer::singleShot(0, qApp, [&] {
+      Window()->setGeometry(100, 80, 1100, 720);
+      QTimer::singleShot(0, qApp, end);
+    });
+    EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
+    EXPECT_GT(Stored().rect.Height(), 720);
+  }
+}
+
+TEST(CommandLineTest, ItAsksForATextOrIsRefusedInOneLine) {
+  const struct {
+    std::vector<std::string_view> words;  // behind the name
+    std::optional<int> code;              // none: the program runs
+    std::string_view out, errors;         // beginnings
+  } kRows[] = {
+      {{}, {}, "", ""},
+      {{"--help"}, 0, "Utilisation : orbisol", ""},
+      {{"--version", "--blue"}, 0, "Orbisol " ORBISOL_VERSION, ""},
+      {{"--blue", "--version"}, 2, "", "orbisol : « --blue » n'est pas"},
+      {{"calendar.xml"}, 2, "", "orbisol : « calendar.xml » n'est pas"},
+      {{"-"}, 2, "", "orbisol : « - » n'est pas"},
+      {{""}, 2, "", "orbisol : «  » n'est pas"},
+      {{"-platform", "--help", "--style=x", "-reverse"}, {}, "", ""},  // the toolkit's, with their values
+      {{"-platform=x", "--help"}, 0, "Utilisation", ""},
+  };
+  for (const auto& row : kRows) {
+    std::vector<std::string_view> words{"orbisol"};
+    words.insert(words.end(), row.words.begin(), row.words.end());
+    SCOPED_TRACE(words.back());
+    std::ostringstream out, errors;
+    EXPECT_EQ(AnswerCommandLine(words, out, errors), row.code);
+    EXPECT_EQ(out.str().substr(0, row.out.size()), row.out);
+    EXPECT_EQ(errors.str().substr(0, row.errors.size()), row.errors);
+    const std::string lines = errors.str();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), row.errors.empty() ? 0 : 1);
+    EXPECT_EQ(out.str().empty(), row.out.empty());
+  }
 }
 
 }  // namespace
