@@ -20,6 +20,7 @@ enum CommandId : int {
   kCmdLastMonth = 1062,
   kCmdGoBack = 5201,
   kCmdGoForward = 5202,
+  kCmdGoToToday = 5203,
   kCmdEditVacations = 40027,
   kCmdChooseCalendar = 40036,
   kCmdHelpIndex = 57666,

@@ -20,6 +20,7 @@ constexpr MenuItem kViewMenu[] = {
     {kCmdToggleToolBar, u"Barre d'outils", u"", true},    {kCmdToggleStatusBar, u"Barre d'état", u"", true},
     {kCmdTogglePane, u"Fenêtre d'infos", u"Space", true}, {kNoCommand, u"", u""},
     {kCmdGoBack, u"Date précédente", u"Alt+Left"},        {kCmdGoForward, u"Date suivante", u"Alt+Right"},
+    {kCmdGoToToday, u"Aujourd'hui", u"Alt+Home"},
 };
 
 constexpr MenuItem kToolsMenu[] = {
@@ -47,6 +48,7 @@ constexpr ToolItem kMainToolBar[] = {
     {kNoCommand, ""},
     {kCmdGoBack, "back"},
     {kCmdGoForward, "forward"},
+    {kCmdGoToToday, "today"},
     {kNoCommand, ""},
     {kCmdEditEvents, "events"},
     {kCmdEditVacations, "vacations"},

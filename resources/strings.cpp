@@ -160,6 +160,7 @@ constexpr Entry kStrings[] = {
     {kTextUnknownWord, u"orbisol : « %s » n'est pas une option (voir orbisol --help)"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
+    {kCmdGoToToday, u"Revenir à la date d'aujourd'hui\nAujourd'hui (Alt+Début)"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
     {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},

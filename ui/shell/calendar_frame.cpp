@@ -56,6 +56,7 @@ const CCalendarFrame::Handler CCalendarFrame::kHandlers[] = {
     {kCmdTogglePane, &CCalendarFrame::OnTogglePane},
     {kCmdGoBack, &CCalendarFrame::OnGoBack},
     {kCmdGoForward, &CCalendarFrame::OnGoForward},
+    {kCmdGoToToday, &CCalendarFrame::OnGoToToday},
 };
 
 const CCalendarFrame::Handler* CCalendarFrame::HandlerOf(CommandId command) {
@@ -222,6 +223,11 @@ void CCalendarFrame::OnTogglePane() {
 void CCalendarFrame::OnGoBack() { m_dialog->GoBack(); }
 
 void CCalendarFrame::OnGoForward() { m_dialog->GoForward(); }
+
+void CCalendarFrame::OnGoToToday() {
+  Selected().SetPacked(Date::Today().Packed());
+  m_dialog->Refresh();
+}
 
 void CCalendarFrame::OnQuit() { close(); }
 

@@ -81,6 +81,7 @@ class CCalendarFrame : public QMainWindow {
   void OnTogglePane();
   void OnGoBack();
   void OnGoForward();
+  void OnGoToToday();
   void OnQuit();
 
   void TakeSettings();
