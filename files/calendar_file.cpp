@@ -1,6 +1,7 @@
 #include "files/calendar_file.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "files/calendar_events.h"
@@ -49,35 +50,60 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Whether each element of the block `read` has its like in `written`, in any order among elements of other
-// names, and no text stands beside the elements. An empty element says nothing.
+// The text behind the line in which a file calls itself XML.
+std::u16string_view WithoutHeader(std::u16string_view text) {
+  text = Trimmed(text);
+  if (text.starts_with(u"<?xml "))
+    if (const std::size_t end = text.find(u"?>"); end != kNotFound) text.remove_prefix(end + 2);
+  return text;
+}
+
+// An element of a block, both as they stand in the text.
+struct Element {
+  std::u16string_view tag;
+  std::u16string_view content;
+};
+
+// Cuts the next element off a block. Returns nothing where text stands beside the elements, or where one is
+// not closed.
+std::optional<Element> TakeElement(std::u16string_view& block) {
+  const std::size_t tagEnd = block.find(u'>');
+  if (block.empty() || block[0] != u'<' || tagEnd == kNotFound) return {};
+  const std::u16string_view tag = block.substr(1, tagEnd - 1);
+  const std::size_t closing = FindTag(block, tag, TagKind::kClosing, tagEnd + 1);
+  if (closing == kNotFound) return {};
+  const Element element{tag, Trimmed(block.substr(tagEnd + 1, closing - tagEnd - 1))};
+  block = Trimmed(block.substr(closing + tag.size() + 3));
+  return element;
+}
+
+// Returns whether each element of the block `read` has its like in the same block `written`, in any order
+// among elements of other names, and no text stands beside the elements. An empty element says nothing.
 bool SurvivesRewrite(std::u16string_view blockTag, std::u16string_view read, std::u16string_view written) {
-  struct Met {
+  struct Rest {
     std::u16string_view tag;
-    std::ptrdiff_t position;  // in `written`, behind the last of them
+    std::u16string_view written;  // behind the last element of that name that was met
   };
-  std::vector<Met> mets;
+  std::vector<Rest> rests;
   const bool isOlder = blockTag == u"event" && HasYearBounds(read);  // its years are written as dates
-  for (std::u16string_view rest = Trimmed(read); !rest.empty(); rest = Trimmed(rest)) {
-    const std::size_t tagEnd = rest.find(u'>');
-    if (rest[0] != u'<' || tagEnd == kNotFound) return false;
-    const std::u16string_view tag = rest.substr(1, tagEnd - 1);
-    const std::size_t closing = FindTag(rest, tag, TagKind::kClosing, tagEnd + 1);
-    if (closing == kNotFound) return false;
-    const std::u16string_view content = rest.substr(tagEnd + 1, closing - tagEnd - 1);
-    rest.remove_prefix(closing + tag.size() + 3);
-    const std::u16string_view value = Trimmed(content);
+  for (read = Trimmed(read); !read.empty();) {
+    const std::optional<Element> element = TakeElement(read);
+    if (!element) return false;
+    const auto& [tag, value] = *element;
     if (value.empty()) continue;
 
-    auto met = std::find_if(mets.begin(), mets.end(), [&](const Met& known) { return known.tag == tag; });
-    const bool isFirst = met == mets.end();
-    if (isFirst) met = mets.insert(met, {tag, 0});
+    auto rest = std::find_if(rests.begin(), rests.end(), [&](const Rest& known) { return known.tag == tag; });
+    const bool isFirst = rest == rests.end();
+    if (isFirst) rest = rests.insert(rest, {tag, Trimmed(written)});
     const bool isYear = isOlder && isFirst && (tag == u"yFrom" || tag == u"yTo");
     if (isYear && DecimalText(ParseDecimal(value)) == value) continue;
-    const std::u16string_view like = FindElement(written, tag, met->position);
-    if (met->position == kNoElement) return false;
+    std::optional<Element> like;
+    do {
+      like = TakeElement(rest->written);
+    } while (like && like->tag != tag);
+    if (!like) return false;
     const bool isBlock = value.find(u'<') != kNotFound;
-    if (isBlock ? !SurvivesRewrite(tag, value, like) : Unescape(value) != Unescape(Trimmed(like)))
+    if (isBlock ? !SurvivesRewrite(tag, value, like->content) : Unescape(value) != Unescape(like->content))
       return false;
   }
   return true;
@@ -96,10 +122,8 @@ bool WouldLoseData(std::string_view bytes, CalendarForm form) {
   const bool mayBeMalformed = text.find(u'\uFFFD') != kNotFound;
   if (mayBeMalformed && ToUtf8(text) != WithoutMark(bytes)) return true;
 
-  std::u16string_view elements = Trimmed(text);
-  if (elements.starts_with(u"<?xml "))
-    if (const std::size_t end = elements.find(u"?>"); end != kNotFound) elements.remove_prefix(end + 2);
-  return !SurvivesRewrite({}, elements, CalendarText(ReadText(text), form));
+  const std::u16string written = CalendarText(ReadText(text), form);
+  return !SurvivesRewrite({}, WithoutHeader(text), WithoutHeader(written));
 }
 
 }  // namespace orbisol

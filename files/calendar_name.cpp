@@ -12,6 +12,31 @@ constexpr std::u16string_view kEnding = u".xml";
 constexpr std::u16string_view kFirstStartEnding = u"_public";
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
+// The characters that are as wide as a blank and show as little.
+constexpr std::u16string_view kBlanks =
+    u" \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007"
+    u"\u2008\u2009\u200A\u202F\u205F\u2800\u3000\u3164\uFFA0";
+
+// The marks that nobody sees, in ranges: joiners, marks of direction, selectors of forms, the byte-order
+// mark.
+constexpr struct {
+  char16_t first, last;
+} kInvisible[] = {{0x00AD, 0x00AD}, {0x034F, 0x034F}, {0x061C, 0x061C}, {0x115F, 0x1160},
+                  {0x17B4, 0x17B5}, {0x180B, 0x180F}, {0x200B, 0x200F}, {0x2028, 0x202E},
+                  {0x2060, 0x206F}, {0xFE00, 0xFE0F}, {0xFEFF, 0xFEFF}, {0xFFF0, 0xFFFB}};
+
+bool IsInvisible(char16_t unit) {
+  return std::any_of(std::begin(kInvisible), std::end(kInvisible),
+                     [&](const auto& range) { return range.first <= unit && unit <= range.last; });
+}
+
+bool AreSameWithoutCase(std::u16string_view a, std::u16string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (UpperFirst(a.substr(i, 1)) != UpperFirst(b.substr(i, 1))) return false;
+  return true;
+}
+
 bool IsControl(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }
 
 // The letters under which U+00C0 to U+017F stand in an alphabet.
@@ -51,6 +76,15 @@ bool IsCalendarName(std::u16string_view name) {
   return bytes.size() <= kMaxCalendarNameBytes && FromUtf8(bytes) == name;  // half a pair names no file
 }
 
+NameFault FaultOfNewName(std::u16string_view name, std::span<const std::u16string> names) {
+  if (name.find_first_not_of(kBlanks) == kNotFound) return NameFault::kBlank;
+  if (std::any_of(name.begin(), name.end(), IsInvisible)) return NameFault::kInvisible;
+  if (!IsCalendarName(name)) return NameFault::kNoFileName;
+  if (name.ends_with(kFirstStartEnding)) return NameFault::kReserved;
+  const auto isSame = [&](const std::u16string& other) { return AreSameWithoutCase(name, other); };
+  return std::any_of(names.begin(), names.end(), isSame) ? NameFault::kTaken : NameFault::kNone;
+}
+
 std::u16string CalendarNameOrDefault(std::u16string_view name) {
   return std::u16string(IsCalendarName(name) ? name : kDefaultCalendarName);
 }
@@ -60,7 +94,9 @@ std::u16string FirstStartName(std::u16string_view language) {
 }
 
 bool IsFirstStartName(std::u16string_view name) {
-  return name.size() == 2 + kFirstStartEnding.size() && name.ends_with(kFirstStartEnding);
+  if (!name.ends_with(kFirstStartEnding)) return false;
+  name.remove_suffix(kFirstStartEnding.size());
+  return std::count_if(name.begin(), name.end(), [](char16_t unit) { return !IsLowSurrogate(unit); }) == 2;
 }
 
 std::u16string NumberedName(std::u16string_view name, int number) {

@@ -2,9 +2,11 @@
 //
 //   IsCalendarName(u"Famille");                  // true
 //   IsCalendarName(u"../Famille");               // false
+//   FaultOfNewName(u"famille", store.Names());   // NameFault::kTaken, where there is a "Famille"
 //   CalendarPath(u"/home/eva/…", u"Famille");    // u"/home/eva/…/Famille.xml"
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,14 +22,29 @@ constexpr std::size_t kMaxCalendarNameBytes = 200;  // in UTF-8
 // separators and control characters.
 bool IsCalendarName(std::u16string_view name);
 
+// The reason why a calendar cannot get a name.
+enum class NameFault {
+  kNone,
+  kBlank,       // empty, or blanks alone
+  kInvisible,   // it holds a mark that nobody sees: of no width, or for the direction of writing
+  kNoFileName,  // not accepted by IsCalendarName
+  kReserved,    // it ends in "_public", as the calendars that are meant for first starts do
+  kTaken,       // a calendar has that name, upper and lower case aside
+};
+
+// Judges a new or changed name, as it was typed. `names` are those of the calendars that there are, without
+// the one that is renamed. More is refused here than IsCalendarName refuses: that also lets through what
+// older releases and other programs made.
+NameFault FaultOfNewName(std::u16string_view name, std::span<const std::u16string> names);
+
 // Returns `name`, or "Calendar" if it is not a valid calendar name.
 std::u16string CalendarNameOrDefault(std::u16string_view name);
 
 // Returns the name of the public calendar that is meant for the first start in a language: "fr_public".
 std::u16string FirstStartName(std::u16string_view language);
 
-// Returns whether a name has that form: two characters of any kind and "_public". Older releases gave each
-// user copies of these calendars.
+// Returns whether a name has that form: exactly two characters of any kind and "_public". Older releases gave
+// each user copies of these calendars.
 bool IsFirstStartName(std::u16string_view name);
 
 // Returns "Famille (3)" for "Famille" and for "Famille (2)" and the number 3. A name that would become too

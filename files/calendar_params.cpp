@@ -1,6 +1,7 @@
 #include "files/calendar_params.h"
 
 #include <algorithm>
+#include <span>
 
 #include "files/elements.h"
 
@@ -71,9 +72,13 @@ void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
   for (int row = 0; row < kCivilYearRows && NextPiece(table, piece); ++row) {
     const bool plusOne = piece[0] == u'+';
     const PackedDate from = ParseDecimal(plusOne ? piece.substr(1) : piece);
-    if (from == 0) return;  // it ends the table for everything that scans it
+    if (from == 0) break;  // it ends the table for everything that scans it
     config.firstDayOfYear[row] = {from, plusOne};
   }
+  const std::span<CivilYearStart> rows(config.firstDayOfYear, kCivilYearRows);
+  for (int bad = FirstBadRow(rows, config.startGregorian); bad >= 0;
+       bad = FirstBadRow(rows, config.startGregorian))
+    std::fill(rows.begin() + bad, rows.end(), CivilYearStart());
 }
 
 void ReadCalendarParams(std::u16string_view block, CalendarLook& look, CalendarRules& rules) {

@@ -27,6 +27,12 @@ std::u16string CCalendarStore::FreeName(std::u16string_view name) const {
     if (const std::u16string free = NumberedName(known, number); !Exists(free)) return free;
 }
 
+std::optional<std::string> CCalendarStore::BytesOf(std::u16string_view name) const {
+  std::optional<FileBytes> file = IsCalendarName(name) ? m_files.Read(PathOf(name)) : std::nullopt;
+  if (!file) return std::nullopt;
+  return std::move(file->bytes);
+}
+
 LoadResult CCalendarStore::Load(std::u16string_view name, CalendarFile& calendar) {
   const std::u16string path = PathOf(name);
   const std::optional<FileBytes> file = path.empty() ? std::nullopt : m_files.Read(path);
@@ -45,7 +51,7 @@ SavedCalendar CCalendarStore::Save(std::u16string_view name, const CalendarFile&
   saved.result = Replace(name, calendar, ifChanged == IfChanged::kOverwrite);
   if (!IsInPlace(saved.result) && ifChanged == IfChanged::kKeepBoth) {
     CalendarFile copy = calendar;
-    if (copy.info.empty()) copy.info = InfoOf(name);
+    if (copy.info.empty()) copy.info = ReadCalendar(BytesOf(name).value_or("")).info;
     saved.name = FreeName(name);
     m_stamps.erase(PathOf(saved.name));
     saved.result = Replace(saved.name, copy, false);
@@ -78,11 +84,6 @@ WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile
   const WriteResult result = m_files.Replace(path, bytes, &judged, &written);
   if (IsInPlace(result)) m_stamps[path] = written;
   return result;
-}
-
-std::u16string CCalendarStore::InfoOf(std::u16string_view name) const {
-  const std::optional<FileBytes> file = m_files.Read(PathOf(name));
-  return file ? ReadCalendar(file->bytes).info : std::u16string();
 }
 
 bool CCalendarStore::Delete(std::u16string_view name) {

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,10 @@ class CCalendarStore {
   // Returns a name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)".
   std::u16string FreeName(std::u16string_view name) const;
 
+  // Returns the bytes of a calendar's file; nothing when it is missing or cannot be read. Saving remembers
+  // nothing of this look.
+  std::optional<std::string> BytesOf(std::u16string_view name) const;
+
   // Sets the whole of `calendar`.
   LoadResult Load(std::u16string_view name, CalendarFile& calendar);
 
@@ -77,7 +82,6 @@ class CCalendarStore {
 
  private:
   WriteResult Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites);
-  std::u16string InfoOf(std::u16string_view name) const;
 
   FileSystem& m_files;
   std::u16string m_folder;

@@ -25,9 +25,19 @@ CalendarContent FirstStartContent(const CPublicCalendars& publicCalendars, const
   return {};
 }
 
+bool IsFirstStartCopy(const CCalendarStore& calendars, std::u16string_view name) {
+  if (!IsFirstStartName(name)) return false;
+  const std::optional<std::string> bytes = calendars.BytesOf(name);
+  if (!bytes || WouldLoseData(*bytes, CalendarForm::kUser)) return false;
+  const CalendarContent content = ReadCalendar(*bytes).content;
+  return content.vacations.empty() && std::all_of(content.dayEvents.begin(), content.dayEvents.end(),
+                                                  [](const DayEvent& event) { return event.isPublic; });
+}
+
 bool IsFirstStart(const CCalendarStore& calendars) {
   const std::vector<std::u16string> names = calendars.Names();
-  return std::all_of(names.begin(), names.end(), IsFirstStartName);
+  return std::all_of(names.begin(), names.end(),
+                     [&](const std::u16string& name) { return IsFirstStartCopy(calendars, name); });
 }
 
 }  // namespace orbisol

@@ -23,8 +23,12 @@ std::vector<std::u16string> FirstStartCalendars(const UserLocale& locale);
 // Returns the content of the first of them that can be read; empty when none can.
 CalendarContent FirstStartContent(const CPublicCalendars& publicCalendars, const UserLocale& locale);
 
-// Returns whether the user has no calendar yet, the copies of public calendars aside that older releases
-// made.
+// Returns whether one of the user's calendars is a copy of a public calendar that an older release made: by
+// its name (IsFirstStartName), and because it holds public rules alone. A calendar with a personal event, a
+// vacation period or anything else is the user's own, whatever its name.
+bool IsFirstStartCopy(const CCalendarStore& calendars, std::u16string_view name);
+
+// Returns whether the user has no calendar yet but such copies.
 bool IsFirstStart(const CCalendarStore& calendars);
 
 }  // namespace orbisol

@@ -98,7 +98,7 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
 
   // Before the key says that all is done, so that a start interrupted here is not the last that tries.
   for (const std::u16string& other : calendars.Names())
-    if (IsFirstStartName(other)) calendars.Delete(other);
+    if (IsFirstStartCopy(calendars, other)) calendars.Delete(other);
 
   std::vector<StoreChange> changes = Deletions();
   for (StoreChange& change : KeyChanges(stored.display)) changes.push_back(std::move(change));

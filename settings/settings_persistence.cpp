@@ -2,7 +2,6 @@
 
 #include <variant>
 
-#include "core/packed_date.h"
 #include "settings/legacy_settings.h"
 #include "settings/window_layout.h"
 
@@ -12,8 +11,7 @@ namespace {
 constexpr char kMainLayout[] = "WindowLayout";
 constexpr char kPrintLayout[] = "PrintWindowLayout";
 
-constexpr Rect kMainRect{50, 50, 900, 450};
-constexpr Rect kPrintRect{50, 50, 800, 600};
+constexpr Rect kPrintRect{50, 50, 800, 600};  // where no layout of the print window is stored
 
 // The numbers of the key, in the order in which they are written.
 struct NumberValue {
@@ -43,9 +41,6 @@ void ReadNumbers(const StoredValues& values, DisplaySettings& display) {
       display.*std::get<int DisplaySettings::*>(row.field) = static_cast<int>(number);
   }
 }
-
-// False for an empty one, and for one turned inside out, as a damaged value may have it.
-bool HasRoom(const Rect& rect) { return rect.right > rect.left && rect.bottom > rect.top; }
 
 void ReadLayout(const StoredValues& values, const char* name, const Rect& ifAbsent, const Rect& screen,
                 WindowLayout& layout) {
@@ -80,7 +75,7 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
   std::optional<std::u16string> name;
   if (values) {
     stored.layoutStored = BinaryOf(*values, kMainLayout).has_value();
-    ReadLayout(*values, kMainLayout, kMainRect, screen, display.mainLayout);
+    ReadLayout(*values, kMainLayout, WindowLayout().rect, screen, display.mainLayout);
     ReadLayout(*values, kPrintLayout, kPrintRect, screen, display.printLayout);
     name = TextOf(*values, kCalendarNameValue, kMaxPathUnits);
     ReadNumbers(*values, display);
@@ -115,18 +110,6 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
   if (outcome.calendar == WriteResult::kWritten) display.changed = false;
   outcome.key = store.Write(KeyChanges(display));
   return outcome;
-}
-
-WindowLayout ClosingLayout(WindowLayout layout, const ClosingFrame& frame, const Rect& screen) {
-  layout.maximized = frame.maximized ? 1 : 0;
-  layout.rightPaneShown = frame.paneShown ? 1 : 0;
-  layout.rightPaneWidth = frame.paneWidth;
-  if (HasRoom(frame.rect)) {
-    layout.rect = frame.rect;
-    if (!frame.paneShown) layout.rect.right = Saturate(std::int64_t{layout.rect.right} + frame.paneWidth);
-  }
-  layout.rect = FitRectToScreen(layout.rect, screen);
-  return layout;
 }
 
 bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,

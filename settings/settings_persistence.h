@@ -59,21 +59,8 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
                          IfChanged ifChanged = IfChanged::kRefuse,
                          std::optional<std::u16string_view> newName = {});
 
-// The state of a window that closes.
-struct ClosingFrame {
-  Rect rect;  // with its frame; of a maximized window where it would stand restored, empty when that is not
-              // known
-  bool maximized = false;
-  bool minimized = false;
-  bool paneShown = true;
-  int paneWidth = 0;  // of the right pane, in pixels
-};
-
-// What a closing window stores: its rectangle with the right pane, also when that is hidden, moved onto the
-// screen.
-WindowLayout ClosingLayout(WindowLayout layout, const ClosingFrame& frame, const Rect& screen);
-
-// Store the layout, and set `layout` to it. False when nothing was stored; a minimized window stores nothing.
+// Store what a closing window leaves behind (ClosingLayout), and set `layout` to it. Return false when
+// nothing was stored; a minimized window stores nothing.
 bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,
                           const Rect& screen);
 bool SavePrintWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,

@@ -14,29 +14,48 @@
 
 namespace orbisol {
 
-// Stored in 24 bytes.
 struct WindowLayout {
   Rect rect{50, 50, 900, 450};  // screen coordinates with the frame; of the main window always with its pane
-  std::uint8_t maximized = 0;
-  std::uint8_t statusBarShown = 1;
-  std::uint8_t reserved = 1;        // carried along
-  std::uint8_t rightPaneShown = 0;  // a fresh window shows the month alone
-  int rightPaneWidth = 0;           // pixels; informative, measured anew at every start
+  bool maximized = false;
+  bool statusBarShown = true;
+  std::uint8_t reserved = 1;    // carried along
+  bool rightPaneShown = false;  // a fresh window shows the month alone
+  int rightPaneWidth = 0;       // pixels; informative, measured anew at every start
 
   bool operator==(const WindowLayout&) const = default;
 };
+
 constexpr std::size_t kWindowLayoutBytes = 24;
-// Little-endian: four integers, four bytes, one integer.
+
+// Returns the fields in little-endian order: four integers, four bytes, one integer. A flag is 0 or 1.
 std::array<std::uint8_t, kWindowLayoutBytes> LayoutToBytes(const WindowLayout& layout);
-// Takes as many whole fields as there are bytes; the others keep their value. Bytes past the 24th are
-// ignored.
+
+// Takes as many whole fields as there are bytes; the others keep their value. Any byte but 0 sets a flag.
+// Bytes past the 24th are ignored.
 void LayoutFromBytes(std::span<const std::uint8_t> bytes, WindowLayout& layout);
 
-// No larger than the screen, then moved into it by the shortest way:
+// Returns whether a rectangle has any room: false for an empty one, and for one turned inside out, as a
+// damaged value may be.
+constexpr bool HasRoom(const Rect& rect) { return rect.right > rect.left && rect.bottom > rect.top; }
+
+// Returns a rectangle no larger than the screen, moved into it by the shortest way:
 //
 //   FitRectToScreen({-100, 10, 700, 500}, {0, 0, 1920, 1080});  // {0, 10, 800, 500}
 //
 // `screen` is the smallest rectangle around all screens. Any integers are accepted.
 Rect FitRectToScreen(Rect rect, const Rect& screen);
+
+// The state of a window that closes.
+struct ClosingFrame {
+  Rect rect;  // with its frame; of a maximized window where it would stand restored; empty when not known
+  bool maximized = false;
+  bool minimized = false;
+  bool paneShown = true;
+  int paneWidth = 0;  // of the right pane, in pixels
+};
+
+// Returns what a closing window stores: its rectangle with the right pane, also when that is hidden, moved
+// onto the screen. Where the rectangle is not known that of `layout` stays.
+WindowLayout ClosingLayout(WindowLayout layout, const ClosingFrame& frame, const Rect& screen);
 
 }  // namespace orbisol

@@ -114,10 +114,13 @@ constexpr struct {
     {"iso8601", "", "0"},  // as in America
     {"iso8601", "-1", "0"},
     {"iso8601", "2", "1"},
-    {"firstDayOfYear", ";;17520101;;+11550325", "17520101;+11550325;"},
+    {"firstDayOfYear", ";;15640101;;+11550325", "15640101;+11550325;"},
     {"firstDayOfYear", "5;4;3;2;1;", "5;4;3;2;"},
-    {"firstDayOfYear", "17520101;0;11550325;", "17520101;"},
-    {"firstDayOfYear", "+;17520101;", ""},
+    {"firstDayOfYear", "15640101;0;11550325;", "15640101;"},
+    {"firstDayOfYear", "+;15640101;", ""},
+    {"firstDayOfYear", "15821015;11550325;12000101;",
+     "15821015;"},                                 // cut before a row not later than the next
+    {"firstDayOfYear", "15821016;11550325;", ""},  // and before one after the reform
 };
 
 TEST(CalendarFileTest, ParametersAreReadWithPatience) {
@@ -178,9 +181,11 @@ TEST(CalendarFileTest, EveryCalendarComesBackEqualInEveryField) {
     calendar.look.fontWeight = static_cast<int>(random());
     for (Color& color : calendar.look.colors) color = random() & 0xFFFFFF;
     RuleOptions options{.proleptic = between(0, 1) == 1, .iso8601 = between(0, 1) == 1};
-    for (int row = between(0, 4); row > 0; --row)
-      options.rows.push_back({between(1, 9) * 1000000 + 101, between(0, 1) == 1});
-    calendar.rules = RulesWith(kStarts[between(0, 3)], options);
+    const PackedDate start = kStarts[between(0, 3)];
+    PackedDate from = start;
+    for (int row = between(0, 4); row > 0; --row, from -= between(1, 9) * 10000)
+      options.rows.push_back({from, between(0, 1) == 1});
+    calendar.rules = RulesWith(start, options);
 
     const ScopedRules inForce(calendar.rules);
     for (int i = between(0, 20); i > 0; --i) {

@@ -50,6 +50,32 @@ TEST_F(CalendarStoreTest, ANameIsOneFileName) {
   EXPECT_TRUE(files.files.empty());
 }
 
+TEST_F(CalendarStoreTest, ANewNameIsVisibleAndNobodyElses) {
+  const std::u16string names[] = {u"Famille", u"ÉTÉ", u"Дом"};
+  const struct {
+    std::u16string_view name;
+    NameFault fault;
+  } kRows[] = {
+      {u"Travail", NameFault::kNone},
+      {u" été", NameFault::kNone},
+      {u"\u3000 \u00A0", NameFault::kBlank},
+      {u"", NameFault::kBlank},
+      {u"Fa\u200Bmille", NameFault::kInvisible},
+      {u"\u202Etravail", NameFault::kInvisible},
+      {u"../x", NameFault::kNoFileName},
+      {u"my_public", NameFault::kReserved},
+      {u"mes_public", NameFault::kReserved},
+      {u"famille", NameFault::kTaken},
+      {u"été", NameFault::kTaken},
+      {u"дом", NameFault::kTaken},
+  };
+  for (const auto& row : kRows)
+    EXPECT_EQ(FaultOfNewName(row.name, names), row.fault) << testing::PrintToString(row.name);
+  for (const char16_t* name : {u"fr_public", u"é🎂_public"}) EXPECT_TRUE(IsFirstStartName(name));
+  for (const char16_t* name : {u"🎂_public", u"mes_public", u"fr_publics"})
+    EXPECT_FALSE(IsFirstStartName(name));
+}
+
 TEST_F(CalendarStoreTest, CalendarsAreListedByNameAndDeletedToTheTrash) {
   for (const char16_t* name : {u"A.xml", u"famille.xml", u"Famille.xml", u"Été.xml", u"A.xml.bak", u".xml"})
     files.Put(u"/user/"s + name, "");

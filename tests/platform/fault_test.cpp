@@ -191,6 +191,9 @@ void CheckMigration(bool hasFile) {
   const std::string path = folders.calendars + "/Calendar.xml";
   const std::string copy = folders.calendars + "/fr_public.xml";
   const std::string trashed = folders.trash + "/files/fr_public.xml";
+  CalendarFile shared;
+  shared.info = u"old copy";
+  const std::string oldCopy = WriteCalendar(shared, CalendarForm::kPublic);
   CalendarFile migrated;
   const std::string before = hasFile ? WriteCalendar(migrated, CalendarForm::kUser) : "(none)";
   migrated.look.fontName.Set(u"Georgia");
@@ -203,7 +206,7 @@ void CheckMigration(bool hasFile) {
     fs::remove_all(folder / "");
     PutFile(folders.stores[0], KeyText("\"FontName\"=\"Georgia\"\n"));
     if (hasFile) PutFile(path, before);
-    PutFile(copy, "old copy");
+    PutFile(copy, oldCopy);
   };
   const Step step = [&] {
     CCalendarStore calendars(files, CalendarFoldersOf(folders));
@@ -212,13 +215,12 @@ void CheckMigration(bool hasFile) {
   };
   const auto check = [&](const Outcome& outcome) {
     const bool isOld =
-        BytesOf(path) == before && BytesOf(copy) == "old copy" && store.Read()->count("FontName") == 1;
+        BytesOf(path) == before && BytesOf(copy) == oldCopy && store.Read()->count("FontName") == 1;
     EXPECT_TRUE(isOld || BytesOf(path) == after) << "something was deleted before all was saved";
     ASSERT_TRUE(Taken(step).isDone);
     EXPECT_EQ(BytesOf(path), after);
     EXPECT_EQ(store.Read()->count("FontName"), 0u);
-    EXPECT_TRUE(outcome.isKilled || std::string_view(outcome.failed) != "-" ||
-                BytesOf(trashed) == "old copy");
+    EXPECT_TRUE(outcome.isKilled || std::string_view(outcome.failed) != "-" || BytesOf(trashed) == oldCopy);
   };
   ForEachFault({kKillFault, EIO, EROFS}, step, prepare, check);
 }

@@ -21,8 +21,8 @@ TEST(DisplaySettingsTest, StoredNumbersOutOfRangeAreClampedWhereTheyAreUsed) {
 
 TEST(WindowLayoutTest, IsStoredLittleEndianAndFewerBytesFillTheFieldsTheyHold) {
   constexpr std::array<std::uint8_t, kWindowLayoutBytes> kBytes = {
-      0xFE, 0xFF, 0xFF, 0xFF, 2, 1, 0, 0, 0, 0, 1, 0, 0xFF, 0xFF, 0xFF, 0x7F, 1, 0, 7, 255, 3, 0, 0, 0x80};
-  const WindowLayout layout{{-2, 258, 65536, 2147483647}, 1, 0, 7, 255, -2147483645};
+      0xFE, 0xFF, 0xFF, 0xFF, 2, 1, 0, 0, 0, 0, 1, 0, 0xFF, 0xFF, 0xFF, 0x7F, 1, 0, 7, 1, 3, 0, 0, 0x80};
+  const WindowLayout layout{{-2, 258, 65536, 2147483647}, true, false, 7, true, -2147483645};
   EXPECT_EQ(LayoutToBytes(layout), kBytes);
   constexpr std::size_t kEnds[] = {0, 4, 8, 12, 16, 17, 18, 19, 20, 24};  // of the fields
   for (std::size_t size = 0; size <= 30; ++size) {

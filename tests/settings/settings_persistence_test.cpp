@@ -84,7 +84,7 @@ TEST_F(SettingsTest, StoredValuesReachTheirFields) {
   expected.circleTheDay = expected.fullCellBackground = true;
   expected.circleWidth = 3;
   expected.backgroundAlpha = -1;
-  expected.mainLayout = {{60, 70, 900, 450}, 1, 0, 7, 0, 300};
+  expected.mainLayout = {{60, 70, 900, 450}, true, false, 7, false, 300};
   expected.printLayout.rect = {0, 10, 800, 500};  // moved in; 16 bytes hold no more
   EXPECT_EQ(Read().display, expected);
 }
@@ -104,8 +104,11 @@ TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
        {UserLocale{u"sv", u"SE"}, UserLocale{u"../x", u"/"}, UserLocale{u"", u""}})
     EXPECT_EQ(first(unknown), u"(none)") << "no foreign holidays";
   EXPECT_EQ(files.files.size(), 3u);
-  PutCalendar(u"/user/Autre.xml", {});
-  EXPECT_EQ(first({u"fr", u"FR"}), u"(none)") << "whoever has calendars meets none they did not make";
+  for (const char16_t* name : {u"/user/Autre.xml", u"/user/mes_public.xml"}) {
+    PutCalendar(name, {});
+    EXPECT_EQ(first({u"fr", u"FR"}), u"(none)") << "whoever has calendars meets none they did not make";
+    files.files.erase(name);
+  }
 }
 
 TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
@@ -165,15 +168,17 @@ TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
 }
 
 TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
-  const WindowLayout before{{50, 50, 900, 450}, 0, 1, 9, 1, 0};
+  const WindowLayout before{{50, 50, 900, 450}, false, true, 9, true, 0};
   const struct {
     ClosingFrame frame;
     WindowLayout stored;
   } kRows[] = {
-      {{{100, 80, 1000, 580}, true, false, true, 250}, {{100, 80, 1000, 580}, 1, 1, 9, 1, 250}},
-      {{{}, true, false, true, 250}, {{50, 50, 900, 450}, 1, 1, 9, 1, 250}},  // since the start
-      {{{100, 80, 750, 580}, false, false, false, 250}, {{100, 80, 1000, 580}, 0, 1, 9, 0, 250}},
-      {{{0, 0, 2147483647, 400}, false, false, false, 250}, {{0, 0, 1920, 400}, 0, 1, 9, 0, 250}},
+      {{{100, 80, 1000, 580}, true, false, true, 250}, {{100, 80, 1000, 580}, true, true, 9, true, 250}},
+      {{{}, true, false, true, 250}, {{50, 50, 900, 450}, true, true, 9, true, 250}},  // since the start
+      // maximized with the pane hidden: still with its width
+      {{{100, 80, 750, 580}, true, false, false, 250}, {{100, 80, 1000, 580}, true, true, 9, false, 250}},
+      {{{100, 80, 750, 580}, false, false, false, 250}, {{100, 80, 1000, 580}, false, true, 9, false, 250}},
+      {{{0, 0, 2147483647, 400}, false, false, false, 250}, {{0, 0, 1920, 400}, false, true, 9, false, 250}},
   };
   for (const auto& row : kRows) {
     WindowLayout layout = before;
@@ -192,7 +197,18 @@ TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
 TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   store.text = Known("legacy.reg");  // its name cannot be read
   PutShipped(u"France");
+  PutCalendar(u"/user/fr_public.xml", WithRule(u"Noël"));
+  PutCalendar(u"/user/mes_public.xml", WithRule(u"three letters"));
+  CalendarFile own = WithRule(u"a name like that of a copy");
+  own.content.vacations = {{20240706, 20240901, {}}};
+  PutCalendar(u"/user/my_public.xml", own);
+  own = WithRule(u"Ana");
+  own.content.dayEvents[0].isPublic = false;
+  PutCalendar(u"/user/to_public.xml", own);
+  files.Put(u"/user/xx_public.xml", "<not>understood</not>");
   const CalendarFile calendar = Session(Read());
+  EXPECT_EQ(files.trash.size(), 1u) << "the calendars of the user stay";
+  EXPECT_EQ(files.trash.count(u"/user/fr_public.xml"), 1u);
   EXPECT_EQ(files.files[kOwnPath].bytes, Known("migrated.xml"));
   EXPECT_EQ(*store.text, Known("migrated.reg"));
   store.written.clear();

@@ -205,9 +205,9 @@ void CCalendarFrame::OnCopyRepublicanDate() { CopyTextToClipboard(m_dialog->Repu
 void CCalendarFrame::OnToggleToolBar() { m_toolBar->setVisible(!m_toolBar->isVisibleTo(this)); }
 
 void CCalendarFrame::OnToggleStatusBar() {
-  std::uint8_t& isShown = Display().mainLayout.statusBarShown;
-  isShown = isShown != 0 ? 0 : 1;
-  statusBar()->setVisible(isShown != 0);
+  bool& isShown = Display().mainLayout.statusBarShown;
+  isShown = !isShown;
+  statusBar()->setVisible(isShown);
 }
 
 // The frame takes or gives the room of the pane, so that the month stays as it is.
