@@ -161,6 +161,23 @@ constexpr Entry kStrings[] = {
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdGoToToday, u"Revenir à la date d'aujourd'hui\nAujourd'hui (Alt+Début)"},
+    {kTextCalendarChanged,
+     u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
+     u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"
+     u"Garder les deux : le vôtre est enregistré sous le nom « %s ».\n"
+     u"Recharger : vos modifications sont abandonnées, celles du fichier sont affichées.\n"
+     u"Remplacer : le vôtre remplace l'autre, dont une copie reste à côté (.bak)."},
+    {kTextCalendarChangedButtons, u"Garder les deux|Recharger|Remplacer"},
+    {kTextCalendarNotWritten,
+     u"Le calendrier « %s » n'a pas été enregistré.\n\n"
+     u"Le fichier %s est resté tel qu'il était ; vos modifications ne sont encore que dans le programme."},
+    {kTextCalendarNotMade,
+     u"Le calendrier « %s » n'a pas été enregistré.\n\n"
+     u"Le fichier %s n'existe pas ; vos modifications ne sont encore que dans le programme."},
+    {kTextCalendarNotWrittenButtons, u"Enregistrer sous « %s »|Réessayer"},
+    {kTextCalendarNotSynced,
+     u"Le calendrier « %s » est enregistré, mais le disque ne l'a pas confirmé.\n\n"
+     u"Le fichier %s contient vos modifications ; une coupure de courant pourrait encore les faire perdre."},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
     {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},

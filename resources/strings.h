@@ -82,6 +82,13 @@ enum TextId : int {
   kTextVersion = 5180,         // in the about box: three numbers, system, bits
   kTextUsage = 5190,           // answer to --help
   kTextUnknownWord = 5191,     // of the command line, in one line
+
+  kTextCalendarChanged = 5300,            // its file, by somebody else: name, path, free name
+  kTextCalendarChangedButtons = 5301,     // keep both, reload, replace
+  kTextCalendarNotWritten = 5302,         // the file is as it was: name, path
+  kTextCalendarNotMade = 5303,            // there is no file: name, path
+  kTextCalendarNotWrittenButtons = 5304,  // save under the free name, try again
+  kTextCalendarNotSynced = 5305,          // name, path
 };
 
 // Empty for a number that the table does not hold.

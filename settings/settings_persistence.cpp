@@ -104,6 +104,7 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
   const SavedCalendar saved = calendars.Save(name, {display.Look(), rules, content, u""}, ifChanged);
   outcome.calendar = saved.result;
+  outcome.name = saved.name;
   if (outcome.calendar == WriteResult::kChanged) return outcome;
 
   if (IsInPlace(outcome.calendar)) SetName(display, calendars, newName ? *newName : saved.name);

@@ -43,7 +43,8 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
                             const Rect& screen);
 
 struct SaveOutcome {
-  WriteResult calendar = WriteResult::kFailed;  // what became of the calendar's file
+  WriteResult calendar = WriteResult::kFailed;  // of the calendar's file
+  std::u16string name;                          // under which the calendar was saved, or was to be
   bool key = false;                             // whether the values of the key were stored too
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "files/public_calendars.h"
+#include "tests/support/calendar_builder.h"
 #include "tests/support/memory_files.h"
 
 namespace orbisol {
@@ -11,16 +12,6 @@ namespace {
 using namespace std::literals;
 
 const std::u16string kPath = u"/user/A.xml";
-
-CalendarFile WithRule(std::u16string_view name) {
-  CalendarFile made;
-  made.content.dayEvents = {{DayEventType::kFixedDate, true, 1, 1, 0, 0, kAlwaysFrom, kAlwaysTo, {name}}};
-  return made;
-}
-
-std::string BytesWithRule(std::u16string_view name) {
-  return WriteCalendar(WithRule(name), CalendarForm::kUser);
-}
 
 class CalendarStoreTest : public testing::Test {
  protected:
@@ -31,7 +22,7 @@ class CalendarStoreTest : public testing::Test {
 
   std::string Bytes(const std::u16string& path) { return files.Read(path).value_or(FileBytes()).bytes; }
   WriteResult Save(std::u16string_view rule, IfChanged ifChanged = IfChanged::kRefuse) {
-    return store.Save(u"A", WithRule(rule), ifChanged).result;
+    return store.Save(u"A", CalendarWith(rule), ifChanged).result;
   }
 };
 
@@ -92,22 +83,22 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   EXPECT_EQ(files.files.size(), 1u) << "nothing was lost, so no copy was made";
 
   CCalendarStore later(files, kMemoryFolders);
-  EXPECT_EQ(later.Save(u"A", WithRule(u"new"), IfChanged::kRefuse).result, WriteResult::kChanged)
+  EXPECT_EQ(later.Save(u"A", CalendarWith(u"new"), IfChanged::kRefuse).result, WriteResult::kChanged)
       << "never loaded";
-  files.Put(kPath, BytesWithRule(u"two"));  // the same bytes, copied back
+  files.Put(kPath, BytesWith(u"two"));  // the same bytes, copied back
   EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
 
-  files.Put(kPath, BytesWithRule(u"theirs"));
+  files.Put(kPath, BytesWith(u"theirs"));
   EXPECT_EQ(Save(u"ours"), WriteResult::kChanged);
-  const SavedCalendar beside = store.Save(u"A", WithRule(u"ours"), IfChanged::kKeepBoth);
+  const SavedCalendar beside = store.Save(u"A", CalendarWith(u"ours"), IfChanged::kKeepBoth);
   EXPECT_EQ(beside.result, WriteResult::kWritten);
   EXPECT_EQ(beside.name, u"A (2)");
-  EXPECT_EQ(Bytes(kPath), BytesWithRule(u"theirs"));
-  EXPECT_EQ(store.Save(beside.name, WithRule(u"next"), IfChanged::kRefuse).result, WriteResult::kWritten);
+  EXPECT_EQ(Bytes(kPath), BytesWith(u"theirs"));
+  EXPECT_EQ(store.Save(beside.name, CalendarWith(u"next"), IfChanged::kRefuse).result, WriteResult::kWritten);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
-  EXPECT_EQ(Bytes(kPath + u".bak"), BytesWithRule(u"theirs"));
+  EXPECT_EQ(Bytes(kPath + u".bak"), BytesWith(u"theirs"));
 
-  files.beforeReplace = [&] { files.Put(kPath, BytesWithRule(u"at the last moment")); };
+  files.beforeReplace = [&] { files.Put(kPath, BytesWith(u"at the last moment")); };
   EXPECT_EQ(Save(u"ours again", IfChanged::kOverwrite), WriteResult::kChanged);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
   files.syncFails = true;
@@ -132,7 +123,7 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
 
   files.Put(kPath, odd[3]);
   store.Load(u"A", calendar);
-  files.beforeLock = [&] { files.Put(kPath, BytesWithRule(u"theirs")); };
+  files.beforeLock = [&] { files.Put(kPath, BytesWith(u"theirs")); };
   EXPECT_EQ(Save(u"new"), WriteResult::kChanged);
   EXPECT_FALSE(files.Exists(kPath + u".bak.3")) << "nothing was replaced, so nothing is backed up";
 
@@ -146,12 +137,12 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
 }
 
 TEST_F(CalendarStoreTest, TheDescriptionOfAFileSurvivesASave) {
-  files.Put(kPath, "<info>d'ici</info>" + BytesWithRule(u"mine"));
+  files.Put(kPath, "<info>d'ici</info>" + BytesWith(u"mine"));
   store.Load(u"A", calendar);
   EXPECT_EQ(Save(u"two"), WriteResult::kWritten);
   EXPECT_EQ(ReadCalendar(Bytes(kPath)).info, u"d'ici");
-  files.Put(kPath, "<info>d'ailleurs</info>" + BytesWithRule(u"theirs"));
-  const std::u16string beside = store.Save(u"A", WithRule(u"three"), IfChanged::kKeepBoth).name;
+  files.Put(kPath, "<info>d'ailleurs</info>" + BytesWith(u"theirs"));
+  const std::u16string beside = store.Save(u"A", CalendarWith(u"three"), IfChanged::kKeepBoth).name;
   EXPECT_EQ(ReadCalendar(Bytes(store.PathOf(beside))).info, u"d'ailleurs");
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/calendar_builder.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
@@ -13,12 +14,6 @@ namespace {
 constexpr Rect kScreen{0, 0, 1920, 1080};
 constexpr char kNamed[] = "\"CalendarName\"=\"Calendar\"\n";
 const std::u16string kOwnPath = u"/user/Calendar.xml";
-
-CalendarFile WithRule(std::u16string_view name) {
-  CalendarFile made;
-  made.content.dayEvents = {{DayEventType::kFixedDate, true, 1, 1, 0, 0, kAlwaysFrom, kAlwaysTo, {name}}};
-  return made;
-}
 
 class SettingsTest : public testing::Test {
  protected:
@@ -37,7 +32,7 @@ class SettingsTest : public testing::Test {
     files.Put(path, WriteCalendar(calendar, CalendarForm::kUser));
   }
   void PutShipped(const std::u16string& name) {
-    files.Put(u"/share/Legals/" + name + u".xml", WriteCalendar(WithRule(name), CalendarForm::kPublic));
+    files.Put(u"/share/Legals/" + name + u".xml", WriteCalendar(CalendarWith(name), CalendarForm::kPublic));
   }
   static std::string Known(const std::string& file) { return BytesOf(ORBISOL_TEST_DATA "/settings/" + file); }
   StoredSettings Read() { return ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, kScreen); }
@@ -117,7 +112,7 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
   display.backgroundAlpha = -1;
   SaveOutcome outcome;
   const auto save = [&](std::u16string_view name) {
-    outcome = SaveSettings(store, calendars, display, {}, WithRule(u"Old").content, {}, name);
+    outcome = SaveSettings(store, calendars, display, {}, CalendarWith(u"Old").content, {}, name);
   };
   files.failingWrites.insert(kOwnPath);
   save(u"Famille");
@@ -144,11 +139,11 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
 TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
   DisplaySettings display = Read().display;
   const auto save = [&](IfChanged ifChanged, std::optional<std::u16string_view> newName = {}) {
-    return SaveSettings(store, calendars, display, {}, WithRule(u"Mine").content, ifChanged, newName)
+    return SaveSettings(store, calendars, display, {}, CalendarWith(u"Mine").content, ifChanged, newName)
         .calendar;
   };
   display.changed = true;
-  PutCalendar(kOwnPath, WithRule(u"Theirs"));
+  PutCalendar(kOwnPath, CalendarWith(u"Theirs"));
   EXPECT_EQ(save(IfChanged::kRefuse), WriteResult::kChanged);
   EXPECT_TRUE(display.changed);
   EXPECT_TRUE(store.written.empty());
@@ -156,7 +151,7 @@ TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
   EXPECT_EQ(StoredName(), u"Calendar (2)");
   EXPECT_EQ(FirstRuleIn(kOwnPath), u"Theirs");
   EXPECT_EQ(FirstRuleIn(u"/user/Calendar (2).xml"), u"Mine");
-  PutCalendar(display.calendarPath, WithRule(u"Theirs"));
+  PutCalendar(display.calendarPath, CalendarWith(u"Theirs"));
   EXPECT_EQ(save(IfChanged::kOverwrite), WriteResult::kWritten);
 
   files.unreadable.insert(display.calendarPath);
@@ -197,12 +192,12 @@ TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
 TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   store.text = Known("legacy.reg");  // its name cannot be read
   PutShipped(u"France");
-  PutCalendar(u"/user/fr_public.xml", WithRule(u"Noël"));
-  PutCalendar(u"/user/mes_public.xml", WithRule(u"three letters"));
-  CalendarFile own = WithRule(u"a name like that of a copy");
+  PutCalendar(u"/user/fr_public.xml", CalendarWith(u"Noël"));
+  PutCalendar(u"/user/mes_public.xml", CalendarWith(u"three letters"));
+  CalendarFile own = CalendarWith(u"a name like that of a copy");
   own.content.vacations = {{20240706, 20240901, {}}};
   PutCalendar(u"/user/my_public.xml", own);
-  own = WithRule(u"Ana");
+  own = CalendarWith(u"Ana");
   own.content.dayEvents[0].isPublic = false;
   PutCalendar(u"/user/to_public.xml", own);
   files.Put(u"/user/xx_public.xml", "<not>understood</not>");
@@ -218,7 +213,7 @@ TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
 
 // On purpose: the file may hold what the user chose since, while the key may have lost no more than its name.
 TEST_F(SettingsTest, AMigrationKeepsWhatAnExistingFileHolds) {
-  CalendarFile own = WithRule(u"Anniversaire");
+  CalendarFile own = CalendarWith(u"Anniversaire");
   own.look.colors[kHolidayText] = 0x123456;
   own.look.backgroundImagePath.Set(u"/mine.png");
   own.rules = RulesWith(19180214);

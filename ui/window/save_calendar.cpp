@@ -1,0 +1,87 @@
+#include "ui/window/save_calendar.h"
+
+#include <QStringList>
+
+#include "resources/strings.h"
+#include "ui/toolkit/messages.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+enum class Answer { kNone, kKeepBoth, kReload, kReplace, kAgain };
+
+// The names that the questions speak of.
+struct SaveNames {
+  std::u16string name;
+  std::u16string path;
+  std::u16string freeName;
+};
+
+// Asks with the buttons of a list of texts, the first of which is the default. `answers` are theirs.
+Answer Ask(QWidget* parent, const QString& question, int buttonTexts, const SaveNames& names,
+           std::initializer_list<Answer> answers) {
+  QStringList buttons;
+  for (int i = 0; i < static_cast<int>(answers.size()); ++i) {
+    const std::u16string_view button = Piece(StringText(buttonTexts), u'|', i);
+    buttons.append(ToQString(FormatText(button, {names.freeName})));
+  }
+  const int pressed = Messages().Choose(parent, question, buttons);
+  return pressed < 0 ? Answer::kNone : answers.begin()[pressed];
+}
+
+Answer AskAboutChange(QWidget* parent, const SaveNames& names) {
+  const QString question = TableText(kTextCalendarChanged, {names.name, names.path, names.freeName});
+  return Ask(parent, question, kTextCalendarChangedButtons, names,
+             {Answer::kKeepBoth, Answer::kReload, Answer::kReplace});
+}
+
+Answer AskAboutFailure(QWidget* parent, const SaveNames& names, bool exists) {
+  const int text = exists ? kTextCalendarNotWritten : kTextCalendarNotMade;
+  return Ask(parent, TableText(text, {names.name, names.path}), kTextCalendarNotWrittenButtons, names,
+             {Answer::kKeepBoth, Answer::kAgain});
+}
+
+IfChanged ChoiceOf(Answer answer) {
+  if (answer == Answer::kKeepBoth) return IfChanged::kKeepBoth;
+  return answer == Answer::kReplace ? IfChanged::kOverwrite : IfChanged::kRefuse;
+}
+
+}  // namespace
+
+SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
+                                       const CalendarRules& rules, const CalendarContent& content,
+                                       std::optional<std::u16string_view> newName) {
+  const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  SavedFromWindow saved;
+  // Each turn ends in the file, in the user's hands, or in another turn that the user asked for.
+  for (IfChanged ifChanged = IfChanged::kRefuse;;) {
+    const SaveOutcome outcome =
+        SaveSettings(places.store, places.calendars, display, rules, content, ifChanged, newName);
+    saved.keyStored = outcome.key;
+    if (IsInPlace(outcome.calendar)) {
+      saved.end = SaveEnd::kSaved;
+      if (outcome.calendar == WriteResult::kNotSynced)
+        Messages().ShowError(
+            parent, TableText(kTextCalendarNotSynced, {outcome.name, places.calendars.PathOf(outcome.name)}));
+      return saved;
+    }
+
+    const SaveNames names{name, places.calendars.PathOf(name), places.calendars.FreeName(name)};
+    const Answer answer = outcome.calendar == WriteResult::kChanged
+                              ? AskAboutChange(parent, names)
+                              : AskAboutFailure(parent, names, places.calendars.Exists(name));
+    if (answer == Answer::kNone) return saved;
+    if (answer == Answer::kReload) {
+      CalendarFile file;
+      if (places.calendars.Load(name, file) == LoadResult::kLoaded) {
+        saved.end = SaveEnd::kReloaded;
+        saved.reloaded = std::move(file);
+        return saved;
+      }
+    }
+    ifChanged = ChoiceOf(answer);
+  }
+}
+
+}  // namespace orbisol
