@@ -1,7 +1,9 @@
 // The month alone, in what the settings can make of it.
+#include <QEventLoop>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "content/calendar_content.h"
 #include "content/selected_date.h"
@@ -117,6 +119,10 @@ void TakeMonths(CPictureFolder& folder) {
   Display().colors[kGrayTextColor] = Rgb(0xA0, 0xA8, 0xB0);
   CMonthWindow window(nullptr);
   window.resize(700, 392);
+  window.grab();  // the file is read after the first paint
+  QEventLoop waits;
+  QTimer::singleShot(500, &waits, &QEventLoop::quit);
+  waits.exec();
   folder.Save(window, QStringLiteral("month_dark_picture"));
 }
 

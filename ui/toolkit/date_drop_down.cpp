@@ -100,7 +100,7 @@ CDateDropDown::CDateDropDown(QWidget* field)
 
 void CDateDropDown::Open(PackedDate ymd, const QString& noneText) {
   setFont(parentWidget()->font());  // a window of its own would take that of the application
-  m_none->setText(MenuText(UpperFirst(Units(noneText))));
+  m_none->setText(MenuText(UpperFirst(Utf16View(noneText))));
   m_none->setVisible(!noneText.isEmpty());
   SetColumnWidths();
   Mark(ymd == 0 ? Date::Today() : Date(ymd));

@@ -84,7 +84,7 @@ void CDateEdit::ReadText() {
     Take(0, {});
     return;
   }
-  const TypedDate date = ReadTypedDate(Units(typed), UserOrder());
+  const TypedDate date = ReadTypedDate(Utf16View(typed), UserOrder());
   const bool isBeginningOfNone = m_noneText.startsWith(typed, Qt::CaseInsensitive);
   m_isUnfinished = date.fault == DateFault::kIncomplete || isBeginningOfNone;
   Take(date.ymd, ToQString(DateFaultText(date, UserOrder())));

@@ -17,7 +17,6 @@ namespace orbisol {
 QString ToQString(std::u16string_view text);
 // Returns a view that lives as long as the text it looks into.
 std::u16string_view Utf16View(const QString& text);
-inline std::u16string_view Units(const QString& text) { return Utf16View(text); }
 
 // An entry of the string table (resources/strings.h).
 QString TableText(int id);
