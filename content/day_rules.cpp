@@ -17,7 +17,7 @@ struct Range {
 };
 constexpr Range kNothing{1, 0};
 
-// What rules ask of the year of a day. Easter is computed when the first rule asks for it.
+// The year of a day, as far as rules depend on it. Easter is computed when the first rule asks for it.
 class CRuleYear {
  public:
   explicit CRuleYear(int year) : m_year(year) {}
@@ -125,8 +125,8 @@ bool StaysInMonth(const DayEvent& event) {
   }
 }
 
-// Calls found(index of the day, rule) for every rule and every day it falls on. The rules are gone through
-// once, in list order; the days are of one month, and of most rules it is soon seen that they pass it by.
+// Calls found(index of the day, rule) for every rule and every day it falls on, rules in list order. All days
+// lie in one month, so most rules are skipped after one comparison.
 template <typename Found>
 void ForEachMatch(std::span<const DayEvent> events, std::span<const RuleDay> days, Found found) {
   if (days.empty()) return;

@@ -3,6 +3,13 @@
 //   std::u16string names;
 //   if (MatchDayEvents(Content().dayEvents, 20240501, &names, kHolidayMark) & kHolidayMark) …
 //   // names is "Fête du Travail"
+//
+// On purpose, a holiday shifted past the end of its month falls on no day. With a bank holiday of 31 October,
+// which is a Saturday in 2026:
+//
+//   MatchDayEvents(rules, 20261031, nullptr, 0);  // 0: it moves to the Monday after
+//   MatchDayEvents(rules, 20261102, nullptr, 0);  // 0: that Monday lies in November
+//   MatchDayEvents(rules, 20281031, nullptr, 0);  // kHolidayMark: a Tuesday
 #pragma once
 
 #include <span>
@@ -16,13 +23,13 @@ namespace orbisol {
 
 constexpr std::size_t kMaxJoinedUnits = 260;  // of joined names, in UTF-16 units
 
-// The bits of all rules that fall on a day, 0 for none. When `names` is given it is set to the names of those
-// rules whose bit is in `nameMask`, in list order, joined by " + ". Easter rules match no day before 326.
-// On purpose: a holiday shifted past the end of its month falls on no day, and none moves away from another.
+// Returns the marks of all rules that fall on a day, 0 for none. When `names` is given it is set to the names
+// of those rules whose bit is in `nameMask`, in list order, joined by " + ". Easter rules match no day before
+// 326. On purpose: no holiday moves away from another.
 unsigned MatchDayEvents(std::span<const DayEvent> events, PackedDate ymd, std::u16string* names,
                         unsigned nameMask);
 
-// The same in one pass for both kinds of names.
+// The marks of a day with both kinds of names, found in one pass.
 struct DayMatch {
   unsigned bits = 0;
   std::u16string publicNames;
@@ -41,8 +48,7 @@ struct RuleDay {
 };
 RuleDay RuleDayOf(const Date& date);
 
-// MatchDay for days of one month: the list is gone through once for all of them. There is a match for each
-// day.
+// Sets the matches of days of one month, as many as there are days, going through the rules once for all.
 void MatchDaysOfMonth(std::span<const DayEvent> events, std::span<const RuleDay> days,
                       std::span<DayMatch> matches);
 

@@ -21,7 +21,9 @@
 
 namespace orbisol {
 
-constexpr int kCellCount = 45;
+// An empty cell before Monday-first weeks, at most 6 of the month before, 31 days, at most 7 of the month
+// after.
+constexpr int kCellCount = 1 + 6 + 31 + 7;
 constexpr int kNoCell = -1;
 
 struct DayCell {
@@ -57,12 +59,13 @@ struct MonthModel {
   // vacation period.
   void Build(const CalendarContent& content, const std::array<Color, kColorCount>& colors, Moon moon);
 
-  int FirstCell() const {
-    return m_firstCell;
-  }  // where the first row begins: 1 with Monday-first weeks, else 0
-  int LastCell() const { return m_lastCell; }  // the last cell filled, kNoCell before Build
+  // Returns where the first row begins: 1 with Monday-first weeks, else 0.
+  int FirstCell() const { return m_firstCell; }
 
-  // The first cell with that month and day, whatever its year; kNoCell when there is none.
+  // Returns the last cell filled, kNoCell before Build.
+  int LastCell() const { return m_lastCell; }
+
+  // Returns the first cell with that month and day, whatever its year; kNoCell when there is none.
   int CellOf(int ofMonth, int ofDay) const;
 
  private:

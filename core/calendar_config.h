@@ -34,7 +34,7 @@ struct CalendarConfig {
 
   // Derived from startGregorian; written by ApplyGregorianStart alone.
   PackedDate julianEquivalentOfStart = 15821005;  // the same day in the Julian calendar
-  int droppedDays = 10;                           // dates the reform skipped; see ApplyGregorianStart
+  int droppedDays = 10;                           // see ApplyGregorianStart
   int firstGregorianDayNumber = 2299161;          // day number of startGregorian
   int reformYearLastDayNumber = 2299238;          // day number of 31 December of the reform year
   int reformYearLastWeekday = 5;                  // 0 Sunday .. 6, weekday of that 31 December
@@ -44,9 +44,11 @@ struct CalendarConfig {
   bool proleptic = false;
 
   // Sets the first Gregorian day and all that derives from it. Any integer is accepted. The dates that the
-  // reform removes are those from julianEquivalentOfStart on that lie before `start`, in whatever months;
-  // `droppedDays` is their number for reforms after 10 October 1500, and 0 (in the first four centuries
-  // possibly negative) for earlier ones. The early leap years count in it: set `proleptic` first.
+  // reform removes are those from julianEquivalentOfStart on that lie before `start`, in whatever months.
+  // `droppedDays` is not their number but the distance of the two dates in the Gregorian calendar: 10 for
+  // 1 March 1700, which removes 11 dates, 19 to 29 February, of which the last is none in that calendar. For
+  // reforms before 10 October 1500 it is 0, in the first four centuries possibly negative. The early leap
+  // years count in it: set `proleptic` first.
   void ApplyGregorianStart(PackedDate start);
 
   // Returns the year of the first Gregorian day.
@@ -69,34 +71,37 @@ struct CalendarRules : CalendarConfig {
   bool operator==(const CalendarRules&) const = default;
 };
 
-// The rules in force.
+// Returns the rules in force, which any caller may change.
 namespace detail {
 extern CalendarRules liveRules;
 }
 inline CalendarRules& Rules() { return detail::liveRules; }
 
-// The Roman reform, no civil-year rows, early leap years as they were; iso8601 from the user's locale.
+// Returns the Roman reform, no civil-year rows, early leap years as they were; iso8601 from the user's
+// locale.
 CalendarRules DefaultCalendarRules();
 
 // Puts the defaults in force.
 void ResetCalendarConfig();
 
-// Whether weeks follow ISO 8601 in a country. False only where weeks begin on Sunday and week 1 is the first
-// full one. `firstDayOfWeek` is 0 Monday .. 6 Sunday; `firstWeekOfYear` as in Locale::FirstWeekOfYear.
+// Returns whether weeks follow ISO 8601 in a country. False only where weeks begin on Sunday and week 1 is
+// the first full one. `firstDayOfWeek` is 0 Monday .. 6 Sunday; `firstWeekOfYear` as in
+// Locale::FirstWeekOfYear.
 constexpr bool Iso8601ByLocale(int firstDayOfWeek, int firstWeekOfYear) {
   return !(firstDayOfWeek == 6 && firstWeekOfYear == 1);
 }
 static_assert(!Iso8601ByLocale(6, 1) && Iso8601ByLocale(6, 0) && Iso8601ByLocale(0, 1));
 
-// A start that is 0 or names no day becomes the Roman reform; any other is returned as it is.
+// Returns `start`, or the Roman reform for one that is 0 or names no day.
 PackedDate GregorianStartOrDefault(PackedDate start);
 
-// The index of the row that keeps a civil-year table from being used, or -1 when it is in order: rows
+// Returns the index of the row that keeps a civil-year table from being used, or -1 when it is in order: rows
 // strictly later than the one below (compared as integers), none after `startGregorian`, no row above an
 // empty one missing. Rows are examined from the last up, and the first fault met is reported.
 int FirstBadRow(std::span<const CivilYearStart> rows, PackedDate startGregorian);
 
-// Other rules for one scope, put back at its end. No event may be handled inside.
+// Puts other rules in force for one scope and puts the old ones back at its end. No event may be handled
+// inside.
 class ScopedRules {
  public:
   explicit ScopedRules(const CalendarRules& rules) : m_saved(Rules()) { Rules() = rules; }

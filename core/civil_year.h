@@ -7,29 +7,35 @@
 //   // with the row {15000325, false}: Florence
 //   CivilYear(16000324);  // 1599
 //   CivilYear(16000325);  // 1600
+//
+//   // with the row {15000325, true}, "J.+1": Pisa
+//   CivilYear(16000324);             // 1600
+//   CivilYear(16000325);             // 1601
+//   DayOfCivilYear(Date(16000325));  // 1
+//   SetCivilYear(date, 1601);        // 25 March 1600 stays in 1600, 24 March 1600 moves to 1601
 #pragma once
 
 #include "core/date.h"
 
 namespace orbisol {
 
-// The row of the table that governs a date: -1 when the table is empty; else the first row (most recent
-// first) whose `from` is at or before the date as integers; where none is, the index of the empty row that
-// ends the table, which governs nothing.
+// Returns the row of the table that governs a date: -1 when the table is empty; else the first row (most
+// recent first) whose `from` is at or before the date as integers; where none is, the index of the empty row
+// that ends the table, which governs nothing.
 int CivilRowIndex(const Date& date);
 
-// Month * 100 + day on which civil years begin at that date; 101 where no row governs.
+// Returns month * 100 + day on which civil years begin at that date; 101 where no row governs.
 int CivilYearStartDay(const Date& date);
 
 int CivilYear(PackedDate packed);
 inline int CivilYearOf(const Date& date) { return CivilYear(date.Packed()); }
 
-// 1 on the first day of the civil year. Days are counted as they were: dropped dates are left out. Can be 0
-// or negative where the first day of the year itself was dropped.
+// Returns 1 on the first day of the civil year. Days are counted as they were: dropped dates are left out.
+// Can be 0 or negative where the first day of the year itself was dropped.
 int DayOfCivilYear(const Date& date);
 
-// Days after the date to the end of its civil year: 0 on its last day. Where another row begins in the same
-// or the next year, day and days left need not add up to the length of a year.
+// Returns the days after the date to the end of its civil year: 0 on its last day. Where another row begins
+// in the same or the next year, day and days left need not add up to the length of a year.
 int DaysLeftInCivilYear(const Date& date);
 
 // Changes the year so that the civil year becomes `target`; month and day stay. Returns the civil year that

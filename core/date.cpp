@@ -29,7 +29,9 @@ constexpr PackedDate kLastEarlyLeapDay = -80229;
 // time. Any other integers go the same way in 64 bits.
 constexpr int kEverydayYears = 1000000;
 constexpr bool IsEveryday(int year, int month, int day) {
-  return year > -kYearShift && year < kEverydayYears && month >= 1 && month <= 12 && day >= 0 && day < 100;
+  // One comparison each: what lies below the range is far above it as an unsigned number.
+  return static_cast<unsigned>(year) + kYearShift - 1 < kEverydayYears + kYearShift - 1u &&
+         static_cast<unsigned>(month) - 1 < 12 && static_cast<unsigned>(day) < 100;
 }
 constexpr bool IsEveryday(int dayNumber) { return dayNumber > -32000 && dayNumber < 365 * kEverydayYears; }
 
@@ -44,6 +46,18 @@ constexpr U DaysSinceMarch(U month) {  // [3, 14]
   return (153 * month - 457) / 5;      // [0, 337]
 }
 static_assert(DaysSinceMarch(3u) == 0 && DaysSinceMarch(8u) == 153 && DaysSinceMarch(14u) == 337);
+
+// The same by a shift instead of a division. C. Neri and L. Schneider, "Euclidean affine functions and their
+// application to calendar algorithms", 2022.
+constexpr unsigned QuickDaysSinceMarch(unsigned month) {  // [3, 14]
+  return (979 * month - 2919) / 32;                       // [0, 337]
+}
+constexpr bool QuickDaysAgree() {
+  for (unsigned month = 3; month <= 14; ++month)
+    if (QuickDaysSinceMarch(month) != DaysSinceMarch(month)) return false;
+  return true;
+}
+static_assert(QuickDaysAgree());
 
 // Century years whose leap day the Gregorian calendar dropped.
 template <typename U>
@@ -74,8 +88,8 @@ constexpr MarchDay<U> MarchDayInCycles(U days, bool gregorian) {
 }
 
 // Month and day of a day of a March year, with January and February as months 13 and 14. Months have 153 days
-// in five, 30.6 on average: 2141 / 65536 of a month a day, and what is left over counts the days. C. Neri and
-// L. Schneider, "Euclidean affine functions and their application to calendar algorithms", 2022.
+// in five, 30.6 on average: 2141 / 65536 of a month a day, and what is left over counts the days. Neri and
+// Schneider as above.
 struct MonthAndDay {
   unsigned month;  // [3, 14]
   unsigned day;    // [1, 31]
@@ -98,7 +112,11 @@ template <typename U>
 void SetDate(Date& date, const MarchDay<U>& march, std::int64_t firstYear) {
   const auto [month, day] = MonthAndDayOf(static_cast<unsigned>(march.dayOfYear));
   const bool nextYear = month > 12;
-  date.year = Saturate(static_cast<std::int64_t>(march.year) + firstYear + nextYear);
+  if constexpr (sizeof(U) == sizeof(int)) {
+    date.year = static_cast<int>(march.year) + static_cast<int>(firstYear) + nextYear;
+  } else {
+    date.year = Saturate(static_cast<std::int64_t>(march.year) + firstYear + nextYear);
+  }
   date.month = static_cast<int>(nextYear ? month - 12 : month);
   date.day = static_cast<int>(day);
 }
@@ -133,6 +151,17 @@ void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
   return Saturate(inYear + kDaysInYear * y + kNoLeapOrigin);
 }
 
+// Sets a day from 1 January -44 to 28 February 4 under the early leap years.
+[[gnu::noinline]] void SetEarlyDate(Date& date, int dayNumber) {
+  if (dayNumber < kNoLeapStart) {
+    SetDate(date, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kDaysIn3Years),
+            -kTriennialShift);
+  } else {
+    SetDate(date, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kNoLeapOrigin), 1, kDaysInYear),
+            -kYearShift);
+  }
+}
+
 [[gnu::noinline]] int DayNumberOfAny(int year, int month, int day, bool gregorian) {
   const int before = month < 3 ? 1 : 0;
   std::int64_t y = std::int64_t{year} + kYearShift - before;
@@ -150,15 +179,16 @@ void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
 int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic) {
   const std::int64_t key = DayOrder(year, month, day);
   const std::int64_t sinceReform = key - DayOrder(startGregorian);
-  if (key >= kEarlyFrom && key <= kEarlyTo && !proleptic && sinceReform < 0)
+  if (key >= kEarlyFrom && key <= kEarlyTo && !proleptic && sinceReform < 0) [[unlikely]]
     return EarlyDayNumber(year, month, day);
-  if (!IsEveryday(year, month, day)) return DayNumberOfAny(year, month, day, sinceReform >= 0);
+  if (!IsEveryday(year, month, day)) [[unlikely]]
+    return DayNumberOfAny(year, month, day, sinceReform >= 0);
 
   const unsigned before = month < 3 ? 1 : 0;  // January and February belong to the March year before
   const unsigned y = static_cast<unsigned>(year + kYearShift) - before;
+  const unsigned toYear = kDaysIn4Years * y / 4;  // 365.25 a year, rounded down
   const unsigned julian = static_cast<unsigned>(day - 1) +
-                          DaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + kDaysInYear * y +
-                          y / 4;
+                          QuickDaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + toYear;
   // The two calendars are joined by a mask, not a branch: dates come in any order, and the processor would
   // guess wrong at every change between them.
   const unsigned shift = static_cast<unsigned>(kGregorianOrigin - kJulianOrigin) - DroppedLeapDays(y / 100);
@@ -191,16 +221,9 @@ int Date::DayNumber() const {
 void Date::SetDayNumber(int dayNumber) {
   const CalendarRules& rules = Rules();
   const bool gregorian = dayNumber >= rules.firstGregorianDayNumber;
-  if (dayNumber >= kTriennialStart && dayNumber < kOrdinaryStart && !rules.proleptic && !gregorian) {
-    if (dayNumber < kNoLeapStart)
-      SetDate(*this,
-              MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kDaysIn3Years),
-              -kTriennialShift);
-    else
-      SetDate(*this, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kNoLeapOrigin), 1, kDaysInYear),
-              -kYearShift);
-    return;
-  }
+  const bool isEarly = dayNumber >= kTriennialStart && dayNumber < kOrdinaryStart;
+  if (isEarly && !rules.proleptic && !gregorian) [[unlikely]]
+    return SetEarlyDate(*this, dayNumber);
   SetDateInCycles(*this, dayNumber, gregorian);
 }
 

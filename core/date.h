@@ -9,6 +9,23 @@
 //
 // Years are astronomical: 0 is 1 BC. Nothing here refuses a date: any integers in the fields give some
 // result, saturated where an int cannot hold it.
+//
+// On purpose, a date that the reform dropped is read as Julian, and so is a later day:
+//
+//   Date(15821010).DayNumber();  // 2299166
+//   DateOfDayNumber(2299166);    // 20 October 1582
+//
+// On purpose, 29 February -8 takes the number of the day after it:
+//
+//   Date(-80229).DayNumber();  // 1718199, that of 1 March -8
+//   DateOfDayNumber(1718198);  // 29 February -8
+//
+// A date that does not exist is kept, and counts as a later one:
+//
+//   Date d(20240229);
+//   d.year += 1;      // 29 February 2025
+//   d.DayNumber();    // 2460736, that of 1 March 2025
+//   d.AddMonths(12);  // 28 February 2026: a step of months pulls the day back
 #pragma once
 
 #include "core/calendar_config.h"
@@ -34,12 +51,12 @@ struct Date {
   int day;        // 1..DaysInMonth()
   int dateOrder;  // for texts only: 0 month/day/year, 1 day/month/year, 2 year/month/day
 
-  // `dateOrder` is the user's (platform.h).
+  // Set `dateOrder` to the user's (platform.h).
   explicit Date(PackedDate packed) : dateOrder(CurrentPlatform().dateOrder) { SetPacked(packed); }
   Date(int theYear, int theMonth, int theDay)
       : year(theYear), month(theMonth), day(theDay), dateOrder(CurrentPlatform().dateOrder) {}
 
-  // The local date of the computer's clock. Applies the Roman reform first when none is set.
+  // Returns the local date of the computer's clock. Applies the Roman reform first when none is set.
   static Date Today();
 
   // Returns what the fields pack to: `packed` again for every date that exists.
@@ -52,9 +69,6 @@ struct Date {
   }
   PackedDate Packed() const { return Pack(year, month, day); }
 
-  // On purpose: a dropped date (5 to 14 October 1582) is read as Julian: the 10th has day number 2299166, and
-  // that is 20 October. On purpose: 29 February -8 has the number of 1 March -8, 1718199, though 1718198 is
-  // its own.
   int DayNumber() const;
   void SetDayNumber(int dayNumber);  // keeps dateOrder
   void AddDays(int days);            // back when negative
@@ -62,19 +76,21 @@ struct Date {
   // Moves by `months`, then pulls `day` back into a shorter month, whose length it returns.
   int AddMonths(int months);
 
-  // Dropped dates are not taken out: October 1582 has 31 days. February before the reform follows the civil
-  // year that (year, 2, day) lies in, and the reform's own year is always Julian here. 31 for a month
-  // that does not exist.
+  // Returns the length of the month, 31 for one that does not exist. Dropped dates are not taken out: October
+  // 1582 has 31 days. February before the reform follows the civil year that (year, 2, day) lies in, and the
+  // reform's own year is always Julian here.
   int DaysInMonth() const { return DaysInMonth(month); }
   int DaysInMonth(int ofMonth) const;
 
-  // 0 Sunday .. 6. With `raw` false and iso8601 in force, Sunday is 7.
+  // Returns 0 Sunday .. 6. With `raw` false and iso8601 in force, Sunday is 7.
   int Weekday(bool raw) const;
 
-  // Strictly, by days also before the era.
+  // Returns whether this date lies strictly before another, by days also before the era.
   bool IsBefore(PackedDate packed) const;
 
-  // The same day written in the Julian calendar, without its early leap-year errors.
+  // Returns the same day written in the Julian calendar, without its early leap-year errors. On purpose: any
+  // date whose packed value is below that of the reform is taken for a Julian one and returned as it is, also
+  // where a reform before the era makes that false.
   PackedDate JulianForm() const;
 
   bool SameDay(const Date& other) const {
@@ -86,17 +102,17 @@ inline std::int64_t DayOrder(const Date& date) { return DayOrder(date.year, date
 
 Date DateOfDayNumber(int dayNumber);
 
-// 0 Sunday .. 6, for any day number, those below 0 included.
+// Returns 0 Sunday .. 6, for any day number, those below 0 included.
 constexpr int WeekdayOfDayNumber(int dayNumber) {
   const int remainder = static_cast<int>((std::int64_t{dayNumber} + 1) % 7);
   return remainder < 0 ? remainder + 7 : remainder;
 }
 static_assert(WeekdayOfDayNumber(0) == 1 && WeekdayOfDayNumber(-1) == 0 && WeekdayOfDayNumber(-2) == 6);
 
-// The day number of a date under another reform than the one in force.
+// Returns the day number of a date under another reform than the one in force.
 int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic);
 
-// A day in the Julian calendar without its early leap-year errors.
+// Returns the date of a day in the Julian calendar without its early leap-year errors.
 PackedDate JulianDateOfDayNumber(int dayNumber);
 
 // Returns the length of a month in a leap year; 31 for a month that does not exist.

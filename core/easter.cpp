@@ -16,19 +16,20 @@ MonthAndDay FromMarch(int sunday) {  // [-6, 28]
 }
 
 MonthAndDay JulianEaster(std::int64_t year) {
-  const auto i =
-      static_cast<int>((19 * (year % 19) + 15) % 30);          // days from 21 March to the paschal full moon
-  const auto j = static_cast<int>((year + year / 4 + i) % 7);  // its weekday, 0 Sunday
+  // Days from 21 March to the paschal full moon, and its weekday, 0 Sunday.
+  const auto i = static_cast<int>((19 * (year % 19) + 15) % 30);         // [0, 29]
+  const auto j = static_cast<int>((year + year / 4 + i) % kDaysInWeek);  // [0, 6]
   return FromMarch(i - j);
 }
 
 MonthAndDay GregorianEaster(std::int64_t year) {
   const auto golden = static_cast<int>(year % 19);
   const std::int64_t century = year / 100;
-  const auto h = static_cast<int>((century - century / 4 - (8 * century + 13) / 25 + 19 * golden + 15) %
-                                  30);  // 23 less the epact
-  const int i = h - (h / 28) * (1 - (29 / (h + 1)) * ((21 - golden) / 11));
-  const auto j = static_cast<int>((year + year / 4 + i + 2 - century + century / 4) % 7);
+  // The epact's complement to 23, then the same two numbers as in the Julian calendar.
+  const std::int64_t moonShift = century - century / 4 - (8 * century + 13) / 25;
+  const auto h = static_cast<int>((moonShift + 19 * golden + 15) % 30);      // [0, 29]
+  const int i = h - (h / 28) * (1 - (29 / (h + 1)) * ((21 - golden) / 11));  // [0, 28]
+  const auto j = static_cast<int>((year + year / 4 + i + 2 - century + century / 4) % kDaysInWeek);  // [0, 6]
   return FromMarch(i - j);
 }
 

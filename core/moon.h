@@ -17,17 +17,20 @@ namespace orbisol {
 
 enum MoonPhase : int { kNoPhase = 0, kNewMoon = 1, kFirstQuarter = 2, kFullMoon = 3, kLastQuarter = 4 };
 
-// Time in days from 0 h UT of 31 December 1999; noon of a day is its day number minus that day's, plus 0.5.
+// Returns the time in days from 0 h UT of 31 December 1999; noon of a day is its day number minus that day's,
+// plus 0.5.
 constexpr double MoonTimeOfNoon(std::int64_t dayNumber) {
   return static_cast<double>(dayNumber - kDayNumber1999Dec31) + 0.5;
 }
 
-// Longitude of the Sun minus that of the Moon, whole degrees 0..359 cut down: 0 new moon, 270 first quarter,
-// 180 full moon, 90 last quarter. Any finite time is accepted.
+// Returns the longitude of the Sun minus that of the Moon, which is the negative of the elongation of
+// astronomers: whole degrees 0..359, cut down; 0 is new moon, 270 first quarter, 180 full moon, 90 last
+// quarter. Any finite time is accepted.
 int MoonElongation(double t);
 
-// Whether the angle `phase` (0, 90, 180 or 270) is reached on the day of noon t, whose own elongation is
-// `angle`. Only meant for an angle within 10 degrees of the phase: elsewhere it can be true without reason.
+// Returns whether the angle `phase` (0, 90, 180 or 270) is reached on the day of noon t, whose own elongation
+// is `angle`. Only meant for an angle within 10 degrees of the phase: elsewhere it can be true without
+// reason.
 bool IsPhaseDay(double t, int angle, int phase);
 
 MoonPhase MoonPhaseOfDay(const Date& date);

@@ -26,10 +26,10 @@ RepublicanDate ToRepublican(const Date& date) {
   const int q1 = rest / kDaysInYear;
   auto year = static_cast<int>(400 * q400) + 100 * q100 + 4 * q4 + q1;
   int dayOfYear = rest - kDaysInYear * q1;
-  if (dayOfYear == -1 &&
-      year % 4 == 0) {  // the "+ 1" above took the last day of four years for the next year's
+  // The "+ 1" above took the last day of four years, the sixth complementary day, for the next year's.
+  if (dayOfYear == -1 && year % 4 == 0) {
     --year;
-    dayOfYear = kDaysInYear;  // the sixth complementary day
+    dayOfYear = kDaysInYear;
   }
   return {year, dayOfYear / 30, dayOfYear % 30};
 }

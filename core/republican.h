@@ -3,6 +3,15 @@
 //
 //   ToRepublican(Date(17991109));  // {8, 1, 17}: 18 brumaire an 8
 //   FromRepublican(8, 2, 18);      // 9 November 1799
+//
+// On purpose, the two conversions disagree on 22 September 2191, 2591, 2991, 3391 and 3791. Each of these
+// days ends a year of 366 days, but is read as 1 vendémiaire, like the day after it; entering that date gives
+// the later day:
+//
+//   ToRepublican(Date(21910922));  // {400, 0, 0}: 1 vendémiaire an 400
+//   ToRepublican(Date(21910923));  // {400, 0, 0} too
+//   FromRepublican(400, 1, 1);     // 23 September 2191
+//   FromRepublican(399, 13, 6);    // 22 September 2191
 #pragma once
 
 #include <string>
@@ -23,25 +32,24 @@ struct RepublicanDate {
   bool operator==(const RepublicanDate&) const = default;
 };
 
-// Meaningful from the epoch on; before it some values, possibly negative ones.
+// Returns the Republican date of a day; before the epoch some values, possibly negative ones.
 RepublicanDate ToRepublican(const Date& date);
 
-// As entered: month 1..13, day 1..30 (1..6 in the 13th). A year is limited to 1..2300, month and day to their
-// ranges. The sixth complementary day of a common year is 1 vendémiaire of the next.
-// On purpose: 1 vendémiaire an 400 (800, 1200, 1600, 2000) does not give back the day that reads so, but the
-// next.
+// Returns the day of a date as it is entered: month 1..13, day 1..30 (1..6 in the 13th). A year is limited to
+// 1..2300, month and day to their ranges. The sixth complementary day of a common year is 1 vendémiaire of
+// the next.
 Date FromRepublican(int year, int month, int day);
 
-// 5 or 6.
+// Returns 5 or 6.
 int ComplementaryDays(int year);
 
-// Empty from 4999 on, and for 0 and less.
+// Returns "MCMXCIX" for 1999; empty from 4999 on, and for 0 and less.
 std::u16string RomanNumeral(int n);
 
-// Two lines: "Octidi 18 brumaire an 8", then " (an VIII)". Empty before the epoch.
+// Returns two lines: "Octidi 18 brumaire an 8", then " (an VIII)". Empty before the epoch.
 std::u16string RepublicanText(const Date& date);
 
-// For lists: 0..12 (the 13th is "Complémentaires"). Empty for another index.
+// Returns the name of a month for a list: 0..12, the last being "Complémentaires". Empty for another index.
 std::u16string RepublicanMonthName(int monthIndex);
 
 }  // namespace orbisol

@@ -1,8 +1,10 @@
 #include "core/text.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
-#include "core/packed_date.h"
+#include "core/integers.h"
 
 namespace orbisol {
 namespace {
@@ -57,27 +59,24 @@ Utf8Lead LeadOf(unsigned char byte) {
   return {3, 0x80, 0xBF};
 }
 
-// Upper case of a letter of the Latin, Greek and Cyrillic alphabets; any other unit as it is.
-char16_t Upper(char16_t c) {
-  const auto in = [c](char16_t first, char16_t last) { return c >= first && c <= last; };
-  const auto down = [c](int by) { return static_cast<char16_t>(c - by); };
-  if (in(u'a', u'z') || (in(u'à', u'þ') && c != u'÷')) return down(32);
-  if (c == u'ÿ') return u'Ÿ';
-  if (c == u'ı') return u'I';
-  // Latin Extended-A comes in pairs, the capital first; in two stretches the capital is the odd one.
-  if (in(0x0139, 0x0148) || in(0x0179, 0x017E)) return c % 2 == 0 ? down(1) : c;
-  if (in(0x0100, 0x0137) || in(0x014A, 0x0177)) return c % 2 == 1 ? down(1) : c;
-  if (in(u'α', u'ώ')) {
-    if (c == u'ς') return u'Σ';
-    if (c == u'ό') return u'Ό';
-    if (c == u'ύ' || c == u'ώ') return down(63);
-    return down(32);
-  }
-  if (c == u'ά') return u'Ά';
-  if (in(u'έ', u'ί')) return down(37);
-  if (in(u'а', u'я')) return down(32);
-  if (in(u'ѐ', u'џ')) return down(80);
-  return c;
+// A letter of an alphabet of Europe, with its capital and what it folds to.
+struct Letter {
+  char16_t unit;
+  char16_t capital;
+  char16_t folded[5];
+};
+constexpr Letter kLetters[] = {
+#include "core/letters.inc"
+};
+static_assert(std::is_sorted(std::begin(kLetters), std::end(kLetters),
+                             [](const Letter& a, const Letter& b) { return a.unit < b.unit; }));
+
+// Null for a unit that is its own capital and folds to itself.
+const Letter* FindLetter(char16_t unit) {
+  const Letter* const found =
+      std::lower_bound(std::begin(kLetters), std::end(kLetters), unit,
+                       [](const Letter& letter, char16_t wanted) { return letter.unit < wanted; });
+  return found != std::end(kLetters) && found->unit == unit ? found : nullptr;
 }
 
 }  // namespace
@@ -163,7 +162,21 @@ std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what, st
 
 std::u16string UpperFirst(std::u16string_view text) {
   std::u16string out(text);
-  if (!out.empty()) out[0] = Upper(out[0]);
+  const Letter* const first = out.empty() ? nullptr : FindLetter(out[0]);
+  if (first != nullptr) out[0] = first->capital;
+  return out;
+}
+
+std::u16string Folded(std::u16string_view text) {
+  std::u16string out;
+  out.reserve(text.size());
+  for (const char16_t unit : text) {
+    if (const Letter* const letter = FindLetter(unit)) {
+      out += letter->folded;
+    } else {
+      out += unit;
+    }
+  }
   return out;
 }
 

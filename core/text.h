@@ -55,8 +55,13 @@ std::u16string_view Piece(std::u16string_view text, char16_t separator, int n);
 // Every occurrence of `what` (not empty), from left to right.
 std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what, std::u16string_view by);
 
-// The first letter in upper case, for the letters of European languages; the rest as it is.
+// Returns the text with its first letter in upper case, for the letters of European languages.
 std::u16string UpperFirst(std::u16string_view text);
+
+// Returns a text as a search compares it and an alphabet sorts it: in lower case, without accents, "œ" as
+// "oe", every apostrophe as "'": "coeur d'ete" for "Cœur d’Été". For the letters of European languages; other
+// units are kept. A folded text folds to itself.
+std::u16string Folded(std::u16string_view text);
 
 std::u16string DecimalText(long long number);
 

@@ -39,23 +39,6 @@ bool AreSameWithoutCase(std::u16string_view a, std::u16string_view b) {
 
 bool IsControl(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }
 
-// The letters under which U+00C0 to U+017F stand in an alphabet.
-constexpr std::u16string_view kBaseLetters =
-    u"aaaaaaaceeeeiiiidnooooo*ouuuuyts"
-    u"aaaaaaaceeeeiiiidnooooo/ouuuuyty"
-    u"aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiiiiijjkkklllllll"
-    u"lllnnnnnnnnnoooooooorrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
-static_assert(kBaseLetters.size() == 0x180 - 0xC0);
-
-std::u16string AlphabetKey(std::u16string_view name) {
-  std::u16string key(name);
-  for (char16_t& unit : key) {
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + (u'a' - u'A'));
-    if (unit >= 0xC0 && unit < 0x180) unit = kBaseLetters[unit - 0xC0u];
-  }
-  return key;
-}
-
 // "Famille" of "Famille (3)".
 std::u16string_view WithoutNumber(std::u16string_view name) {
   if (!name.ends_with(u')')) return name;
@@ -107,8 +90,8 @@ std::u16string NumberedName(std::u16string_view name, int number) {
 }
 
 bool AlphabeticallyBefore(std::u16string_view a, std::u16string_view b) {
-  const std::u16string keyA = AlphabetKey(a);
-  const std::u16string keyB = AlphabetKey(b);
+  const std::u16string keyA = Folded(a);
+  const std::u16string keyB = Folded(b);
   return keyA != keyB ? keyA < keyB : a < b;
 }
 

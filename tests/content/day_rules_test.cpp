@@ -82,6 +82,7 @@ TEST(DayRulesTest, HolidaysFallOnTheirKnownDays) {
       {"Repentance", Rule(kWeekdayBefore, {.month = 11, .day = 22, .weekday = 3, .weeknum = 1}), 20231122},
       {"Midsummer Day", Rule(kWeekdayAfter, {.month = 6, .day = 20, .weekday = 6, .weeknum = 1}), 20240622},
       {"Christmas of a Saturday", Rule(kBankHoliday, {.month = 12, .day = 25}), 20211227},
+      {"on a Tuesday, its own day", Rule(kBankHoliday, {.month = 10, .day = 31}), 20281031},
       {"New Year of a Sunday", Rule(kExceptSunday, {.month = 1, .day = 1}), 20230102},
   };
   for (const auto& row : kRows) {
@@ -92,6 +93,12 @@ TEST(DayRulesTest, HolidaysFallOnTheirKnownDays) {
       EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd - 1).bits, 0U);
     }
   }
+}
+
+TEST(DayRulesTest, AHolidayShiftedOutOfItsMonthFallsOnNoDay) {
+  const DayEvent rule = Rule(kBankHoliday, {.month = 10, .day = 31});
+  for (const PackedDate day : {20261031, 20261101, 20261102})
+    EXPECT_EQ(MatchDay({&rule, 1}, day).bits, 0U) << day;
 }
 
 TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {

@@ -24,7 +24,8 @@ CalendarContent SomeContent() {
            Rule(kFixedDate, {.month = 10, .day = 17, .name = u"Fête"}),
            Rule(kNthWeekday, {.isPublic = false, .month = 10, .weekday = 7, .weeknum = 5, .name = u"Hiver"})},
           {Period(15821001, 15821020, u"Réforme"), Period(15821018, 15821101, u"Toussaint"),
-           Period(-441231, -440101, u"Une année"), Period(19180131, 19180731, u"Guerre")}};
+           Period(-441231, -440101, u"Une année"), Period(-430320, -430310, u"Ides"),
+           Period(19180131, 19180731, u"Guerre")}};
 }
 
 MonthModel Built(const YearMonthDay& date, const CalendarContent& content) {

@@ -18,6 +18,8 @@ TEST(CalendarConfigTest, DroppedDaysAreCountedFrom10October1500On) {
       {17520914, 11}, {19120101, 13}, {15001020, 10}, {15001019, 0}, {14000615, 0}, {-80229, -3},
   };
   for (const auto& [start, dropped] : kStarts) EXPECT_EQ(RulesWith(start).droppedDays, dropped) << start;
+  EXPECT_EQ(RulesWith(-80229, {.proleptic = true}).droppedDays, 0);
+  EXPECT_EQ(RulesWith(17000301).droppedDays, 10) << "though 11 dates are removed";
   EXPECT_EQ(RulesWith(kRomanReform), CalendarRules()) << "the members begin as the Roman reform leaves them";
 }
 
@@ -66,6 +68,8 @@ TEST(CivilYearTest, KnownDays) {
   } kRows[] = {
       {"Florence, from its first day", {{15000325, false}}, 15000325, 0, 325, 1500, 1, 364},
       {"Pisa", {{15000325, true}}, 16000325, 0, 325, 1601, 1, 364},
+      {"Pisa, its last day", {{15000325, true}}, 16000324, 0, 325, 1600, 366, 0},
+      {"a start before 1 January", {{15000050, false}}, 16000601, 0, 101, 1600, 135, 231},
       {"never ahead from 1 January", {{15000101, true}}, 16000601, 0, 101, 1600, 153, 213},
       {"1564 begins early", {{15640101, false}, {10000325, false}}, 15631231, 1, 325, 1563, 282, 84},
       // On purpose: dates before the era are compared as integers, which run backwards in a year.
@@ -120,6 +124,14 @@ TEST(CivilYearTest, DaysOfTheYearRiseByOneDaysLeftFallToZeroAndWeeksAreCountedFr
 }
 
 TEST(CivilYearTest, SetCivilYearTriesTheYearsAroundTheTarget) {
+  {
+    const ScopedRules pisa(RulesWith(17520914, {.rows = {{15000325, true}}}));
+    for (const auto& [packed, reached] : {std::pair(16000325, 16000325), std::pair(16000324, 16010324)}) {
+      Date date(packed);
+      EXPECT_EQ(SetCivilYear(date, 1601), 1601);
+      EXPECT_EQ(date.Packed(), reached);
+    }
+  }
   std::mt19937 random(1);
   const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
   const std::vector<CivilYearStart> rows = {{15000325, true}, {12000301, false}, {-440401, true}};

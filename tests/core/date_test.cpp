@@ -75,6 +75,19 @@ TEST(DateTest, EveryDayIsThatOfTheJudgeAndNoneIsLost) {
   }
 }
 
+TEST(DateTest, TheExamplesOfTheHeaderHold) {
+  EXPECT_EQ(Date(15821010).DayNumber(), 2299166);
+  EXPECT_EQ(DateOfDayNumber(2299166).Packed(), 15821020);
+  EXPECT_EQ(Date(-80229).DayNumber(), 1718199);
+  EXPECT_EQ(DateOfDayNumber(1718198).Packed(), -80229);
+  Date date(20240229);
+  date.year += 1;
+  EXPECT_EQ(date.DayNumber(), 2460736);
+  EXPECT_EQ(DateOfDayNumber(2460736).Packed(), 20250301);
+  date.AddMonths(12);
+  EXPECT_EQ(date.Packed(), 20260228);
+}
+
 // On purpose: month lengths follow the civil year and the reform year's Julian rule, day numbers do not.
 TEST(DateTest, AddMonthsPullsTheDayIntoAShorterMonth) {
   constexpr struct {
@@ -117,6 +130,10 @@ TEST(DateTest, IsBeforeComparesDaysAlsoBeforeTheEra) {
 
 TEST(DateTest, JulianFormIsTheSameDayWithoutTheErrorsOfTheEarlyLeapYears) {
   EXPECT_EQ(Date(-80229).JulianForm(), -80229) << "a Julian date is its own";
+  {
+    const ScopedRules early(RulesWith(-440315));
+    EXPECT_EQ(Date(-440401).JulianForm(), -440401) << "on purpose: the packed values are compared";
+  }
   for (int n = Rules().firstGregorianDayNumber; n <= Date(kLast).DayNumber(); ++n) {
     const auto [year, month, day] = Unpack(DateOfDayNumber(n).JulianForm());
     ASSERT_TRUE(plain::DayNumber({year, month, day}, {kNeverGregorian, true}) == n) << n;

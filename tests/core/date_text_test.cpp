@@ -23,7 +23,7 @@ TEST(DateTextTest, TheYearShownIsTheCivilOne) {
   const Date date(16490130);  // Charles I was executed in 1648 by English reckoning
   EXPECT_EQ(LongDate(date, true), u"30 janvier 1648");
   EXPECT_EQ(JulianLongDate(date, true), u"Mardi 30 janvier 1649");
-  EXPECT_EQ(JulianLongDate(Date(18000313), false), u"Jeudi 1 mars 1799");
+  EXPECT_EQ(JulianLongDate(Date(18000330), false), u"Dimanche 18 mars 1799") << "that of the Julian date";
 }
 
 TEST(DateTextTest, TheProlepticDateCountsAsIfTheReformHadAlwaysBeenInForce) {
@@ -57,6 +57,7 @@ TEST(DateTextTest, CenturiesHaveAHundredYearsOnBothSidesOfTheEra) {
       {2001, u"Vingt-et-unième siècle"},
       {4800, u"Quarante-huitième siècle"},
       {4901, u""},
+      {0, u"Premier siècle avant notre ère"},
       {-99, u"Premier siècle avant notre ère"},
       {-100, u"Deuxième siècle avant notre ère"},
   };

@@ -44,6 +44,9 @@ TEST(RepublicanTest, EveryEntryIsTheDayAfterTheOneBeforeAndReadsBack) {
   }
   // On purpose: the sixth complementary day of these years reads as 1 vendémiaire of the next.
   EXPECT_EQ(readOtherwise, (std::vector{399, 799, 1199, 1599, 1999}));
+  EXPECT_EQ(ToRepublican(Date(21910922)), (RepublicanDate{400, 0, 0}));
+  EXPECT_EQ(FromRepublican(400, 1, 1).Packed(), 21910923);
+  EXPECT_EQ(FromRepublican(399, 13, 6).Packed(), 21910922);
 }
 
 TEST(RepublicanTest, EntriesAreLimitedToWhatExists) {
@@ -56,6 +59,7 @@ TEST(RepublicanTest, EntriesAreLimitedToWhatExists) {
 
 TEST(RepublicanTest, RomanNumeralsAreWrittenUpTo4998) {
   EXPECT_EQ(RomanNumeral(1888), u"MDCCCLXXXVIII");
+  EXPECT_EQ(RomanNumeral(1999), u"MCMXCIX");
   EXPECT_EQ(RomanNumeral(2444), u"MMCDXLIV");
   EXPECT_EQ(RomanNumeral(4998), u"MMMMCMXCVIII");
   EXPECT_EQ(RomanNumeral(4999) + RomanNumeral(0) + RomanNumeral(-1), u"");

@@ -46,6 +46,10 @@ TEST(WeekNumberTest, KnownIsoWeeksAroundTheReformAndInTheEarlyCycles) {
       {10101, 52},    {-60101, 52},   {-491231, 52},  {-39990101, 48},
   };
   for (const auto& [date, week] : kWeeks) EXPECT_EQ(WeekNumber(Date(date)), week) << date;
+  for (const auto& [reform, date] : {std::pair(15871101, 15871231), std::pair(19181231, 19181231)}) {
+    const ScopedRules inForce(RulesWith(reform));
+    EXPECT_EQ(WeekNumber(Date(date)), 51) << date;
+  }
   for (const bool plusOne : {false, true}) {
     const ScopedRules inForce(RulesWith(17520914, {.rows = {{15000325, plusOne}}}));
     EXPECT_EQ(WeekNumber(Date(15010325)), plusOne ? 1 : 53);
