@@ -15,7 +15,7 @@ build = cmake --preset $(1) --log-level=WARNING && cmake --build --preset $(1)
 groups_sanitize := clang
 groups_coverage := coverage
 
-.PHONY: help run test screenshot bench coverage fuzz lint format install clean
+.PHONY: help run test screenshot bench coverage fuzz lint format count install clean
 .DEFAULT_GOAL := help
 
 help:
@@ -27,6 +27,7 @@ help:
 	@echo 'make fuzz        each fuzzer for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make lint        clang-tidy and clang-format over all sources'
 	@echo 'make format      let clang-format settle the spaces'
+	@echo 'make count       lines of the tests and of the product'
 	@echo 'make install     install into PREFIX ($(PREFIX)), below DESTDIR where given'
 	@echo 'make clean       forget what was built'
 
@@ -66,6 +67,9 @@ lint:
 format:
 	@$(need) lint
 	@git ls-files -co --exclude-standard -- '*.cpp' '*.h' | xargs -r clang-format -i
+
+count:
+	@tools/count_lines.py
 
 install:
 	@$(need) build run
