@@ -36,11 +36,16 @@ std::u16string FrenchLocale::WeekdayAbbrev(int weekday) const {
   return Item(kTextFrenchWeekdayAbbrevs, weekday);
 }
 
-YearMonthDay LocalClock::Today() const {
+LocalMoment LocalNow() {
   const std::time_t now = std::time(nullptr);
   const std::tm* const local = std::localtime(&now);
-  if (local == nullptr) return {1970, 1, 1};  // a clock beyond what the system can write
-  return {local->tm_year + 1900, local->tm_mon + 1, local->tm_mday};
+  if (local == nullptr) return {{1970, 1, 1}, 0, 0, 0};
+  return {{local->tm_year + 1900, local->tm_mon + 1, local->tm_mday},
+          local->tm_hour,
+          local->tm_min,
+          local->tm_sec};
 }
+
+YearMonthDay LocalClock::Today() const { return LocalNow().day; }
 
 }  // namespace orbisol

@@ -53,6 +53,14 @@ struct FrenchLocale : Locale {
   std::u16string WeekdayAbbrev(int weekday) const override;
 };
 
+// A moment of the system's clock in the local time zone; the beginning of 1970 for one beyond what can be
+// written.
+struct LocalMoment {
+  YearMonthDay day;
+  int hour, minute, second;
+};
+LocalMoment LocalNow();
+
 struct LocalClock : Clock {
   YearMonthDay Today() const override;
 };

@@ -14,9 +14,11 @@ bool BackUp(FileSystem& files, std::u16string_view path, std::string_view bytes)
     int number = 1;
     const auto numbered = [&] { return backup + u"." + DecimalText(number); };
     while (files.Exists(numbered())) ++number;
-    if (files.Replace(numbered(), older->bytes, &missing, nullptr) != WriteResult::kWritten) return false;
+    if (files.Replace(numbered(), older->bytes, &missing, nullptr, path) != WriteResult::kWritten)
+      return false;
   }
-  return files.Replace(backup, bytes, older ? &older->stamp : &missing, nullptr) == WriteResult::kWritten;
+  return files.Replace(backup, bytes, older ? &older->stamp : &missing, nullptr, path) ==
+         WriteResult::kWritten;
 }
 
 }  // namespace orbisol

@@ -54,12 +54,13 @@ SavedCalendar CCalendarStore::Save(std::u16string_view name, const CalendarFile&
     if (copy.info.empty()) copy.info = ReadCalendar(BytesOf(name).value_or("")).info;
     saved.name = FreeName(name);
     m_stamps.erase(PathOf(saved.name));
-    saved.result = Replace(saved.name, copy, false);
+    saved.result = Replace(saved.name, copy, false, PathOf(name));
   }
   return saved;
 }
 
-WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites) {
+WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites,
+                                    std::u16string_view model) {
   const std::u16string path = PathOf(name);
   const std::optional<FileBytes> disk = m_files.Read(path);
   if (!disk && m_files.Exists(path)) return WriteResult::kFailed;  // nobody knows what would be lost
@@ -81,7 +82,7 @@ WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile
   // Replace() compares again: other programs know nothing of the lock.
   const FileStamp judged = disk ? disk->stamp : FileStamp();
   FileStamp written;
-  const WriteResult result = m_files.Replace(path, bytes, &judged, &written);
+  const WriteResult result = m_files.Replace(path, bytes, &judged, &written, model);
   if (IsInPlace(result)) m_stamps[path] = written;
   return result;
 }

@@ -81,7 +81,8 @@ class CCalendarStore {
   bool Delete(std::u16string_view name);
 
  private:
-  WriteResult Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites);
+  WriteResult Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites,
+                      std::u16string_view model = {});
 
   FileSystem& m_files;
   std::u16string m_folder;

@@ -77,9 +77,10 @@ struct FileSystem {
   // Replaces the file in one step, or makes it with its folders: afterwards it holds the old bytes or the new
   // ones, also after a crash. Links are followed, permissions kept. With `expected` the file must still be
   // that one (or still be missing, when it was). `stamp` is set to the new file's where that is in place.
-  // Both may be null.
+  // Both may be null. Whoever may read and write the file `model`, where that is given, may do so here: for
+  // copies.
   virtual WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
-                              FileStamp* stamp) = 0;
+                              FileStamp* stamp, std::u16string_view model = {}) = 0;
 
   // Returns false when the file is still where it was.
   virtual bool MoveToTrash(std::u16string_view path) = 0;

@@ -1,8 +1,7 @@
 #include "platform/desktop_files.h"
 
-#include <dirent.h>
-#include <sys/stat.h>
-
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/path_text.h"
@@ -13,18 +12,12 @@ namespace orbisol {
 
 std::vector<std::u16string> CDesktopFiles::List(std::u16string_view folder,
                                                 std::u16string_view ending) const {
-  const std::string folderPath = PathBytes(folder);
-  DIR* const entries = opendir(folderPath.c_str());
-  if (entries == nullptr) return {};
   std::vector<std::u16string> names;
-  while (const dirent* const entry = readdir(entries)) {
-    std::u16string name = PathText(entry->d_name);
-    struct stat status;
-    if (name.ends_with(ending) && stat((folderPath + "/" + entry->d_name).c_str(), &status) == 0 &&
-        S_ISREG(status.st_mode))
-      names.push_back(std::move(name));
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(PathBytes(folder), error)) {
+    std::u16string name = PathText(entry.path().filename().native());
+    if (name.ends_with(ending) && entry.is_regular_file(error)) names.push_back(std::move(name));
   }
-  closedir(entries);
   return names;
 }
 
@@ -35,16 +28,17 @@ std::optional<FileBytes> CDesktopFiles::Read(std::u16string_view path) const {
 }
 
 std::unique_ptr<FileLock> CDesktopFiles::LockFolderOf(std::u16string_view path) {
-  return LockFolder(FolderOf(PathBytes(path)));
+  constexpr std::chrono::seconds kPatience{2};
+  return LockFolder(FolderOf(PathBytes(path)), kPatience);
 }
 
 WriteResult CDesktopFiles::Replace(std::u16string_view path, std::string_view bytes,
-                                   const FileStamp* expected, FileStamp* stamp) {
-  return ReplaceFile(PathBytes(path), bytes, expected, stamp);
+                                   const FileStamp* expected, FileStamp* stamp, std::u16string_view model) {
+  return ReplaceFile(PathBytes(path), bytes, expected, stamp, PathBytes(model));
 }
 
 bool CDesktopFiles::MoveToTrash(std::u16string_view path) {
-  return MoveToTrashFolder(PathBytes(path), m_trash, TrashTimeNow());
+  return MoveToTrashFolder(PathBytes(path), m_trash, LocalNow());
 }
 
 }  // namespace orbisol

@@ -22,7 +22,7 @@ class CDesktopFiles : public FileSystem {
   std::optional<FileBytes> Read(std::u16string_view path) const override;
   std::unique_ptr<FileLock> LockFolderOf(std::u16string_view path) override;
   WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
-                      FileStamp* stamp) override;
+                      FileStamp* stamp, std::u16string_view model) override;
   bool MoveToTrash(std::u16string_view path) override;
 
  private:

@@ -10,7 +10,7 @@ namespace orbisol {
 namespace {
 
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-// The variable that decides how dates are written; the first that is set and not empty wins.
+// Returns the locale in which dates are written: the first of these variables that is set and not empty.
 std::string SessionLocaleName() {
   for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
     const std::string value = Variable(variable);
@@ -22,15 +22,15 @@ std::string SessionLocaleName() {
 std::string SessionLocaleName() { return QLocale::system().name().toStdString(); }
 #endif
 
-// "fr_FR" of "fr_FR.UTF-8@euro".
+// Returns "fr_FR" for "fr_FR.UTF-8@euro".
 QString WithoutCodeSet(std::string_view name) {
   return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()))
       .section(u'.', 0, 0)
       .section(u'@', 0, 0);
 }
 
-// 0 month/day/year, 1 day/month/year, 2 year/month/day: by the positions of the letters in a pattern such as
-// "dd/MM/y". All the locales known have one of these three.
+// Returns the order of a pattern such as "dd/MM/y" as in Date::dateOrder, by the positions of its letters.
+// All the locales known have one of the three orders.
 int DateOrder(const QString& pattern) {
   const qsizetype day = pattern.indexOf(u'd');
   const qsizetype month = pattern.indexOf(u'M');
@@ -39,7 +39,7 @@ int DateOrder(const QString& pattern) {
   return month < day ? 0 : 1;
 }
 
-// The second part of "zh_Hant_TW" or "de-CH" that is two letters long; what it names is a country.
+// Returns the country in "zh_Hant_TW" or "de-CH": the first part after the language that is two letters long.
 QString CountryOf(const QString& name) {
   QString tag = name;
   const QStringList parts = tag.replace(u'-', u'_').split(u'_');

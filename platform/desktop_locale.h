@@ -6,7 +6,7 @@
 //   german.Country();                    // u"CH"
 //
 // Without a locale, or with C or POSIX, everything is French and of France. Nothing here fails: a name that
-// is no locale counts as none. All is asked once, when the object is made.
+// is no locale counts as none. The object keeps the answers of the moment in which it was made.
 #pragma once
 
 #include <array>
@@ -19,16 +19,16 @@ namespace orbisol {
 
 class CDesktopLocale : public Locale {
  public:
-  // The locale in which the session writes dates.
+  // Asks for the locale in which the session writes dates.
   CDesktopLocale();
-  // "fr_FR.UTF-8", "de", "sr_RS@latin" …
+  // Asks for a named locale: "fr_FR.UTF-8", "de", "sr_RS@latin" …
   explicit CDesktopLocale(std::string_view name);
 
   int ShortDateOrder() const override { return m_dateOrder; }
   int FirstDayOfWeek() const override { return m_firstDay; }
   // A constant: no desktop says which week is the first. 2, the first of four days, is the rule of ISO 8601.
   int FirstWeekOfYear() const override { return 2; }
-  // Names as they stand alone ("mai", not "de mai"). Empty outside their range.
+  // Return names as they stand alone ("mai", not "de mai"); empty outside their range.
   std::u16string MonthName(int month) const override { return Item(m_months, month); }
   std::u16string MonthAbbrev(int month) const override { return Item(m_monthAbbrevs, month); }
   std::u16string WeekdayName(int weekday) const override { return Item(m_weekdays, weekday); }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kAttempts = 10;  // against an editor that saves again and again
 
-// Empty when there is no key.
+// Returns the first of the files that exists; empty when there is no key.
 std::string KeyFile(const std::vector<std::string>& files) {
   for (const std::string& file : files)
     if (FileExists(file)) return file;
@@ -37,8 +37,7 @@ std::optional<StoredValues> CDesktopStore::Read() const {
 bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
   if (KeyFile(m_stores).empty()) return false;
   const std::string& own = m_stores.front();
-  const CFileLock lock(own + ".lock", m_patience);
-  if (!lock.IsHeld()) return false;
+  const auto lock = LockFolder(FolderOf(own), m_patience);
 
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const std::string key = KeyFile(m_stores);

@@ -20,10 +20,11 @@ class CDesktopStore : public SettingsStore {
   // of the key. Where it replaces malformed characters there, the file is first copied to "<file>.bak";
   // `files` does that.
   CDesktopStore(FileSystem& files, std::vector<std::string> stores,
-                std::chrono::milliseconds patience = std::chrono::seconds(3));
+                std::chrono::milliseconds patience = std::chrono::milliseconds(500));
 
   std::optional<StoredValues> Read() const override;
-  // Waits at most the patience for a process that writes at the same moment.
+  // Waits at most the patience for a process that writes at the same moment, then writes all the same: what
+  // another one has written meanwhile is read again and kept.
   bool Write(const std::vector<StoreChange>& changes) override;
 
  private:

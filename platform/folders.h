@@ -22,9 +22,9 @@ struct Folders {
   std::string trash;                // the user's trash, after the rules of freedesktop.org
 };
 
-// `variable` gives an environment variable, empty when it is not set. `home` is the folder of the user where
-// HOME says nothing. `executable` is the program's own file, in <prefix>/bin. As the base-directory rules
-// have it, a relative path in a variable counts as none.
+// Returns the folders that these variables name. `home` is the folder of the user where HOME names none.
+// `executable` is the program's own file, in <prefix>/bin. A relative path in a variable counts as none, as
+// the base-directory rules of freedesktop.org ask.
 Folders FindFolders(const VariableReader& variable, const std::string& home, const std::string& executable);
 
 // Returns the folders of this process.

@@ -1,5 +1,7 @@
 #include "platform/path_text.h"
 
+#include <filesystem>
+
 #include "core/text.h"
 
 namespace orbisol {
@@ -9,7 +11,7 @@ constexpr char16_t kEscape = 0xDC00;  // with the byte added, 0x80..0xFF
 
 bool IsEscape(char16_t unit) { return unit >= kEscape + 0x80 && unit <= kEscape + 0xFF; }
 
-// The length of the well-formed character that begins here, 0 when there is none.
+// Returns the length of the well-formed character that begins here, 0 when there is none.
 std::size_t CharacterLength(std::string_view bytes) {
   const auto first = static_cast<unsigned char>(bytes[0]);
   const std::size_t length = first < 0x80   ? 1
@@ -54,8 +56,8 @@ std::string PathBytes(std::u16string_view path) {
 }
 
 std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  return folder.empty() ? "." : folder;
 }
 
 }  // namespace orbisol

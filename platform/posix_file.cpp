@@ -1,14 +1,15 @@
 #include "platform/posix_file.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
-#include <ctime>
+#include <filesystem>
+#include <system_error>
 
+#include "platform/file_rights.h"
 #include "platform/path_text.h"
 
 namespace orbisol {
@@ -18,9 +19,8 @@ using std::chrono::milliseconds;
 
 constexpr char kTemporaryPrefix[] = ".orbisol-";
 constexpr char kTemporarySuffix[] = ".tmp";
-constexpr std::time_t kStaleSeconds = 24 * 60 * 60;  // a save takes far less, on any clock
-constexpr int kMaxLinks = 40;                        // as the system follows them
-constexpr milliseconds kFolderPatience{2000};
+constexpr std::chrono::hours kStaleAge{24};  // a save takes far less, on any clock
+constexpr int kMaxLinks = 40;                // as the system follows them
 
 // FNV-1a, 64 bits.
 std::uint64_t Hash(std::string_view bytes) {
@@ -37,7 +37,8 @@ FileStamp StampOf(std::string_view bytes) {
   return stamp;
 }
 
-// The path at the end of a chain of links; the last may point to nothing yet. Empty when there is no end.
+// Returns the path at the end of a chain of links; the last may point to nothing yet. Empty when there is no
+// end.
 std::string FollowLinks(std::string path) {
   for (int i = 0; i < kMaxLinks; ++i) {
     std::string target(4096, '\0');
@@ -55,33 +56,9 @@ bool SyncFolder(int descriptor) {
   return Repeat([&] { return fsync(descriptor); }) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
-bool SyncFolder(const std::string& folder) {
-  const CDescriptor descriptor = Open(folder, O_RDONLY | O_DIRECTORY);
-  return descriptor.IsOpen() && SyncFolder(descriptor.Get());
-}
+std::chrono::nanoseconds Now() { return std::chrono::system_clock::now().time_since_epoch(); }
 
-// Who may do what with the new file, as with the old one.
-bool CopyRights(int descriptor, const struct stat& old) {
-  struct stat status;
-  if (Repeat([&] { return fstat(descriptor, &status); }) != 0) return false;
-  mode_t mode = old.st_mode & 07777;
-  if (status.st_uid != old.st_uid || status.st_gid != old.st_gid) {
-    if (Repeat([&] { return fchown(descriptor, old.st_uid, old.st_gid); }) != 0) {
-      if (errno != EPERM) return false;
-      // Only the superuser gives files away; the group is often possible.
-      if (Repeat([&] { return fchown(descriptor, static_cast<uid_t>(-1), old.st_gid); }) != 0) {
-        if (errno != EPERM) return false;
-        mode = (mode & ~static_cast<mode_t>(070)) | ((mode & 07) << 3 & mode);
-      }
-    }
-    // A change of owner takes some rights away.
-    if (Repeat([&] { return fstat(descriptor, &status); }) != 0) return false;
-  }
-  // Some file systems have rights of their own for all files and refuse every change, even one to the same.
-  return (status.st_mode & 07777) == mode || Repeat([&] { return fchmod(descriptor, mode); }) == 0;
-}
-
-// The temporary file of one save; removed unless it took its place.
+// The temporary file of one save; removed unless it took the place of its target.
 class CTemporary {
  public:
   CTemporary(const std::string& folder, mode_t mode)
@@ -99,17 +76,27 @@ class CTemporary {
   int Get() const { return m_descriptor.Get(); }
   bool Close() { return m_descriptor.Close(); }
 
-  bool MoveTo(const std::string& target) {
-    if (Repeat([&] { return rename(m_path.c_str(), target.c_str()); }) != 0) return false;
-    m_remove = false;
+  const std::string& Path() const { return m_path; }
+
+  // Takes the place of `target`; `flags` are those of renameat2(2), where 0 works on every file system.
+  bool MoveTo(const std::string& target, unsigned flags) {
+    if (Repeat([&] { return Rename(target, flags); }) != 0) return false;
+    m_remove = flags == RENAME_EXCHANGE;  // what came out stands here
     return true;
   }
 
+  // Leaves what came out to whoever may look for it.
+  void Keep() { m_remove = false; }
+
  private:
+  int Rename(const std::string& target, unsigned flags) const {
+    return flags == 0 ? rename(m_path.c_str(), target.c_str())
+                      : renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, target.c_str(), flags);
+  }
+
   static std::string UniqueName() {
     static unsigned count = 0;
-    const auto now = std::chrono::system_clock::now().time_since_epoch().count();
-    return kTemporaryPrefix + std::to_string(getpid()) + "-" + std::to_string(now) + "-" +
+    return kTemporaryPrefix + std::to_string(getpid()) + "-" + std::to_string(Now().count()) + "-" +
            std::to_string(++count) + kTemporarySuffix;
   }
 
@@ -118,38 +105,65 @@ class CTemporary {
   bool m_remove;
 };
 
-// What killed runs left behind. Nothing depends on it.
+// Whether a name is that of a temporary file made long ago. The time stands in it: what a save has exchanged
+// is as old as the file that it replaces.
+bool IsStale(const std::string& name) {
+  long long pid = 0, made = 0, count = 0;
+  return std::sscanf(name.c_str(), ".orbisol-%lld-%lld-%lld", &pid, &made, &count) == 3 &&
+         name.ends_with(kTemporarySuffix) && Now() - std::chrono::nanoseconds(made) > kStaleAge;
+}
+
+// Removes what killed runs left behind. Nothing depends on it.
 void RemoveStaleTemporaries(const std::string& folder) {
-  DIR* const entries = opendir(folder.c_str());
-  if (entries == nullptr) return;
-  const std::time_t now = std::time(nullptr);
-  while (const dirent* const entry = readdir(entries)) {
-    const std::string_view name = entry->d_name;
-    if (!name.starts_with(kTemporaryPrefix) || !name.ends_with(kTemporarySuffix)) continue;
-    const std::string path = folder + "/" + entry->d_name;
-    struct stat status;
-    if (lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && now - status.st_mtime > kStaleSeconds)
-      unlink(path.c_str());
-  }
-  closedir(entries);
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error))
+    if (IsStale(entry.path().filename().string()) && entry.is_regular_file(error))
+      unlink(entry.path().c_str());
 }
 
 // A lock that some other program holds on the folder for long is not worth failing for.
 class CFolderLock : public FileLock {
  public:
-  explicit CFolderLock(const std::string& folder) : m_descriptor(Open(folder, O_RDONLY | O_DIRECTORY)) {
-    if (m_descriptor.IsOpen()) LockWithin(m_descriptor.Get(), kFolderPatience);
+  CFolderLock(const std::string& folder, milliseconds patience)
+      : m_descriptor(Open(folder, O_RDONLY | O_DIRECTORY)) {
+    if (m_descriptor.IsOpen()) LockWithin(m_descriptor.Get(), patience);
   }
 
  private:
   CDescriptor m_descriptor;
 };
 
-bool IsAsExpected(const std::string& target, const FileStamp& expected, const FileStamp& wanted) {
+// Whether a look at the file found the bytes that it was expected to have, or those that are to be written.
+bool IsAsExpected(const std::string& path, const FileStamp& expected, const FileStamp& wanted) {
   struct stat status;
-  if (Repeat([&] { return stat(target.c_str(), &status); }) != 0) return errno == ENOENT && !expected.exists;
-  const std::optional<FileBytes> found = ReadWholeFile(target);
+  if (Repeat([&] { return lstat(path.c_str(), &status); }) != 0) return errno == ENOENT && !expected.exists;
+  const std::optional<FileBytes> found = S_ISREG(status.st_mode) ? ReadWholeFile(path) : std::nullopt;
   return found && (found->stamp == expected || found->stamp == wanted);
+}
+
+bool IsUnknownToFileSystem(int error) { return error == EINVAL || error == ENOSYS || error == ENOTSUP; }
+
+// Puts the temporary file in the place of a file with the expected bytes, without a moment in which another
+// program could write there unseen: the two change places, then what came out is looked at.
+WriteResult Exchange(CTemporary& temporary, const std::string& target, const FileStamp& expected,
+                     const FileStamp& wanted) {
+  if (!temporary.MoveTo(target, RENAME_EXCHANGE)) {
+    if (errno == ENOENT) return WriteResult::kChanged;
+    if (!IsUnknownToFileSystem(errno)) return WriteResult::kFailed;
+    return temporary.MoveTo(target, 0) ? WriteResult::kWritten : WriteResult::kFailed;
+  }
+  if (IsAsExpected(temporary.Path(), expected, wanted)) return WriteResult::kWritten;
+  if (temporary.MoveTo(target, RENAME_EXCHANGE) || temporary.MoveTo(target, 0)) return WriteResult::kChanged;
+  temporary.Keep();
+  return WriteResult::kFailed;
+}
+
+// Puts the temporary file where no file is.
+WriteResult Create(CTemporary& temporary, const std::string& target, bool isExpected) {
+  if (temporary.MoveTo(target, RENAME_NOREPLACE)) return WriteResult::kWritten;
+  if (errno == EEXIST && isExpected) return WriteResult::kChanged;
+  if (errno != EEXIST && !IsUnknownToFileSystem(errno)) return WriteResult::kFailed;
+  return temporary.MoveTo(target, 0) ? WriteResult::kWritten : WriteResult::kFailed;
 }
 
 }  // namespace
@@ -181,26 +195,29 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
 
 bool FileExists(const std::string& path) {
   struct stat status;
-  return Repeat([&] { return stat(path.c_str(), &status); }) == 0;
+  return Repeat([&] { return stat(path.c_str(), &status); }) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const FileStamp* expected,
-                        FileStamp* stamp) {
+                        FileStamp* stamp, const std::string& model) {
   const std::string target = FollowLinks(path);
   if (target.empty()) return WriteResult::kFailed;
   const std::string folder = FolderOf(target);
   if (!MakeFolders(folder)) return WriteResult::kFailed;
 
   struct stat old;
-  const bool exists = Repeat([&] { return stat(target.c_str(), &old); }) == 0;
+  // A link that stands at the end of the chain by now is no ordinary file.
+  const bool exists = Repeat([&] { return lstat(target.c_str(), &old); }) == 0;
   if (!exists && errno != ENOENT) return WriteResult::kFailed;
-  // Who write-protects a file means it, although a rename would not ask.
+  // rename() ignores write protection; the user set it deliberately, so respect it.
   if (exists && (!S_ISREG(old.st_mode) || Repeat([&] { return access(target.c_str(), W_OK); }) != 0))
     return WriteResult::kFailed;
+  const std::string& source = model.empty() ? target : model;
+  const bool hasRights = model.empty() ? exists : Repeat([&] { return stat(model.c_str(), &old); }) == 0;
 
-  CTemporary temporary(folder, exists ? 0600 : 0666);
+  CTemporary temporary(folder, exists || !model.empty() ? 0600 : 0666);
   if (!temporary.IsOpen() || !WriteAll(temporary.Get(), bytes)) return WriteResult::kFailed;
-  if (exists && !CopyRights(temporary.Get(), old)) return WriteResult::kFailed;
+  if (hasRights && !CopyRights(temporary.Get(), source, old)) return WriteResult::kFailed;
   // A full disk may show only here, or when the file is closed.
   if (Repeat([&] { return fsync(temporary.Get()); }) != 0) return WriteResult::kFailed;
   if (!temporary.Close()) return WriteResult::kFailed;
@@ -209,7 +226,14 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
   const CDescriptor folderDescriptor = Open(folder, O_RDONLY | O_DIRECTORY);
   if (!folderDescriptor.IsOpen()) return WriteResult::kFailed;
   if (expected != nullptr && !IsAsExpected(target, *expected, wanted)) return WriteResult::kChanged;
-  if (!temporary.MoveTo(target)) return WriteResult::kFailed;
+  WriteResult result = WriteResult::kFailed;
+  if (!exists)
+    result = Create(temporary, target, expected != nullptr);
+  else if (expected != nullptr)
+    result = Exchange(temporary, target, *expected, wanted);
+  else if (temporary.MoveTo(target, 0))
+    result = WriteResult::kWritten;
+  if (result != WriteResult::kWritten) return result;
 
   if (stamp != nullptr) *stamp = wanted;
   const bool synced = SyncFolder(folderDescriptor.Get());
@@ -217,8 +241,13 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
   return synced ? WriteResult::kWritten : WriteResult::kNotSynced;
 }
 
-std::unique_ptr<FileLock> LockFolder(const std::string& folder) {
-  return MakeFolders(folder) ? std::make_unique<CFolderLock>(folder) : nullptr;
+std::unique_ptr<FileLock> LockFolder(const std::string& folder, milliseconds patience) {
+  return MakeFolders(folder) ? std::make_unique<CFolderLock>(folder, patience) : nullptr;
+}
+
+bool SyncFolder(const std::string& folder) {
+  const CDescriptor descriptor = Open(folder, O_RDONLY | O_DIRECTORY);
+  return descriptor.IsOpen() && SyncFolder(descriptor.Get());
 }
 
 bool MakeFolders(const std::string& folder) {
@@ -229,12 +258,6 @@ bool MakeFolders(const std::string& folder) {
   // Another process may have been faster.
   if (Repeat([&] { return mkdir(folder.c_str(), 0700); }) != 0 && errno != EEXIST) return false;
   return SyncFolder(parent);
-}
-
-CFileLock::CFileLock(const std::string& path, milliseconds patience) {
-  if (!MakeFolders(FolderOf(path))) return;
-  m_descriptor = Open(path, O_RDWR | O_CREAT, 0600);
-  m_held = m_descriptor.IsOpen() && LockWithin(m_descriptor.Get(), patience) != LockResult::kHeld;
 }
 
 }  // namespace orbisol

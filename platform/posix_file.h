@@ -21,44 +21,39 @@ namespace orbisol {
 // times over while it is read, in UTF-8, in UTF-16 and in pieces.
 constexpr std::size_t kMaxFileBytes = std::size_t{1} << 26;
 
-// Nothing when the file is missing, is no ordinary file, has more than kMaxFileBytes or fails to be read.
+// Returns nothing when the file is missing, is no ordinary file, has more than kMaxFileBytes or fails to be
+// read.
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
 
-// Whether anything stands there. A link counts for what it points to.
+// Returns whether anything stands there. A link counts for what it points to. Where nobody can look, as in a
+// folder that is closed to the user, the answer is yes.
 bool FileExists(const std::string& path);
 
 // Afterwards the file holds the old bytes or the new ones, whatever happens. The bytes go to a temporary file
-// in the same folder, which is synced and renamed; then the folder is synced. Missing folders are made, for
-// the user alone. A symbolic link stays and what it points to is replaced; another name of the same file (a
-// hard link) keeps the old bytes. Permissions, owner and group are kept; where the group cannot be, its
-// rights fall to those of everybody.
+// in the same folder, which is synced and takes the place of the file; then the folder is synced. Missing
+// folders are made, for the user alone. A symbolic link stays and what it points to is replaced; another name
+// of the same file (a hard link) keeps the old bytes.
+//
+// The new bytes have the rights (file_rights.h) of the file that they replace, or those of the file `model`
+// where that is given; when that is missing they are for the user alone.
 //
 // kChanged: `expected` is given and the file there has other bytes than the expected ones, cannot be read, or
-// was expected to be missing and is not. A file that already holds `bytes` is never called changed.
-// kNotSynced: the sync of the folder failed. Nobody is kept from writing between the last look at the file
-// and the rename but those who hold the lock of its folder too.
+// was expected to be missing and is not. A file that already holds `bytes` is never called changed. What
+// another program writes at the last moment is found too, except on the few file systems that cannot exchange
+// two names. kNotSynced: the sync of the folder failed.
 //
 // `expected` and `stamp` may be null and may be the same object.
 WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const FileStamp* expected,
-                        FileStamp* stamp);
+                        FileStamp* stamp, const std::string& model = {});
 
-// Locks a folder, which is made if it is missing, against all who lock it: FileSystem::LockFolderOf.
-std::unique_ptr<FileLock> LockFolder(const std::string& folder);
+// Locks a folder, which is made if it is missing, against all who lock it. When another process holds the
+// lock for longer than the patience, or there are no locks, the caller goes on without one.
+std::unique_ptr<FileLock> LockFolder(const std::string& folder, std::chrono::milliseconds patience);
 
-// Makes a folder and those above it, for the user alone. True when it stands there afterwards.
+// Makes a folder and those above it, for the user alone. Returns true when it stands there afterwards.
 bool MakeFolders(const std::string& folder);
 
-// Holds a lock file until it is destroyed or the process ends, however it ends.
-class CFileLock {
- public:
-  // Makes the file, which stays there empty. Waits for another holder at most so long.
-  CFileLock(const std::string& path, std::chrono::milliseconds patience);
-
-  bool IsHeld() const { return m_held; }
-
- private:
-  CDescriptor m_descriptor;
-  bool m_held = false;
-};
+// Returns whether the names in a folder are on the disk. True where the file system knows no such thing.
+bool SyncFolder(const std::string& folder);
 
 }  // namespace orbisol

@@ -6,7 +6,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <ctime>
 #include <optional>
 #include <string_view>
 
@@ -17,7 +16,7 @@ namespace {
 
 constexpr int kMaxClashes = 10000;  // names tried before giving up
 
-// A path as the note has it: every byte but those of a plain path as %XX.
+// Returns a path as the note has it: every byte but those of a plain path as %XX.
 std::string Quoted(std::string_view path) {
   constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
   std::string text;
@@ -29,7 +28,7 @@ std::string Quoted(std::string_view path) {
   return text;
 }
 
-std::string Note(std::string_view path, const TrashTime& when) {
+std::string Note(std::string_view path, const LocalMoment& when) {
   char date[96];
   std::snprintf(date, sizeof date, "%04d-%02d-%02dT%02d:%02d:%02d", when.day.year, when.day.month,
                 when.day.day, when.hour, when.minute, when.second);
@@ -60,7 +59,8 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
       return {};
     }
     struct stat status;
-    const bool clashes = lstat((trash + "/files/" + candidate).c_str(), &status) == 0;
+    const std::string place = trash + "/files/" + candidate;
+    const bool clashes = Repeat([&] { return lstat(place.c_str(), &status); }) == 0;
     const bool free = !clashes && errno == ENOENT;
     // A file that somebody put there without a note has its name all the same.
     const bool written = WriteNote(file, free ? note : "");
@@ -71,12 +71,12 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
   return {};
 }
 
-// `to` is a name nobody else uses.
+// Moves a file to a name that nobody else uses.
 bool Move(const std::string& from, const std::string& to) {
-  if (rename(from.c_str(), to.c_str()) == 0) return true;
+  if (Repeat([&] { return rename(from.c_str(), to.c_str()); }) == 0) return true;
   if (errno != EXDEV) return false;
   const std::optional<FileBytes> file = ReadWholeFile(from);
-  if (file && ReplaceFile(to, file->bytes, nullptr, nullptr) == WriteResult::kWritten &&
+  if (file && ReplaceFile(to, file->bytes, nullptr, nullptr, from) == WriteResult::kWritten &&
       unlink(from.c_str()) == 0)
     return true;
   unlink(to.c_str());
@@ -85,28 +85,20 @@ bool Move(const std::string& from, const std::string& to) {
 
 }  // namespace
 
-bool MoveToTrashFolder(const std::string& path, const std::string& trash, const TrashTime& when) {
+bool MoveToTrashFolder(const std::string& path, const std::string& trash, const LocalMoment& when) {
   struct stat status;
   const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos || lstat(path.c_str(), &status) != 0 || S_ISDIR(status.st_mode))
+  if (slash == std::string::npos || Repeat([&] { return lstat(path.c_str(), &status); }) != 0 ||
+      S_ISDIR(status.st_mode))
     return false;
   if (!MakeFolders(trash + "/info") || !MakeFolders(trash + "/files")) return false;
 
   const std::string name = TakeName(trash, path.substr(slash + 1), Note(path, when));
   if (name.empty()) return false;
-  if (Move(path, trash + "/files/" + name)) return true;
+  // The note is on the disk before the file needs it.
+  if (SyncFolder(trash + "/info") && Move(path, trash + "/files/" + name)) return true;
   unlink((trash + "/info/" + name + ".trashinfo").c_str());
   return false;
-}
-
-TrashTime TrashTimeNow() {
-  const std::time_t now = std::time(nullptr);
-  const std::tm* const local = std::localtime(&now);
-  if (local == nullptr) return {{1970, 1, 1}, 0, 0, 0};  // a clock beyond what the system can write
-  return {{local->tm_year + 1900, local->tm_mon + 1, local->tm_mday},
-          local->tm_hour,
-          local->tm_min,
-          local->tm_sec};
 }
 
 }  // namespace orbisol

@@ -90,6 +90,8 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
   if (stored.file != LoadResult::kLoaded) before = {look, stored.rules, {}, {}};
   ReadLegacyValues(values, before, look, stored.rules);
 
+  // Where nobody can tell whether there is a file, or what it holds, the next start tries again.
+  if (stored.file == LoadResult::kUnreadable) return;
   // No file is made of old values that could not be deleted afterwards.
   if (!store.Write({})) return;
   const std::u16string_view name = stored.display.calendarName.View();

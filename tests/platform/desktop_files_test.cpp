@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 #include <algorithm>
 #include <map>
@@ -55,7 +56,7 @@ class DesktopFilesTest : public testing::Test {
   std::string Own(const std::string& name) const { return folders.calendars + "/" + name; }
   WriteResult Replace(const std::string& path, std::string_view bytes, const FileStamp* expected = nullptr,
                       FileStamp* stamp = nullptr) {
-    return files.Replace(PathText(path), bytes, expected, stamp);
+    return files.Replace(PathText(path), bytes, expected, stamp, {});
   }
 };
 
@@ -72,6 +73,9 @@ TEST_F(DesktopFilesTest, OnlyOrdinaryFilesAreListedReadAndReplaced) {
 
   for (const char* name : {"missing.xml", "folder.xml", "pipe.xml"})
     EXPECT_FALSE(files.Read(PathText(Own(name)))) << name;
+  fs::create_symlink("loop.xml", Own("loop.xml"));
+  EXPECT_TRUE(files.Exists(PathText(Own("loop.xml")))) << "nobody can look";
+  EXPECT_FALSE(files.Exists(PathText(Own("zoo.xml/below"))) || files.Exists(PathText(Own("missing.xml"))));
   for (const char* name : {"folder.xml", "pipe.xml", "zoo.xml/below"})
     EXPECT_EQ(Replace(Own(name), "x"), WriteResult::kFailed) << name;
   fs::resize_file(Own("zoo.xml"), kMaxFileBytes + 1);
@@ -110,14 +114,57 @@ TEST_F(DesktopFilesTest, FollowsLinksToTheirEnd) {
 }
 
 TEST_F(DesktopFilesTest, ClearsAwayWhatKilledRunsLeft) {
-  for (const char* name : {".orbisol-1-1-1.tmp", ".orbisol-2-2-2.tmp", ".other.tmp"}) {
+  const auto madeAgo = [](std::chrono::nanoseconds age) {
+    const std::chrono::nanoseconds now = std::chrono::system_clock::now().time_since_epoch();
+    return ".orbisol-1-" + std::to_string((now - age).count()) + "-1.tmp";
+  };
+  const std::string stale = madeAgo(std::chrono::hours(25));
+  for (const std::string& name : {stale, madeAgo(std::chrono::hours(1)), std::string(".other.tmp")})
     PutFile(Own(name), "half a calend");
-    if (name[9] != '2')
-      fs::last_write_time(Own(name), fs::file_time_type::clock::now() - std::chrono::hours(48));
-  }
   EXPECT_EQ(Replace(Own("A.xml"), "new"), WriteResult::kWritten);
-  EXPECT_FALSE(fs::exists(Own(".orbisol-1-1-1.tmp")));
+  EXPECT_FALSE(fs::exists(Own(stale)));
   EXPECT_EQ(FileCount(folders.calendars), 3u) << "the others stay";
+}
+
+// An access list in the form of the system: the owner, one more user and the group may write, at most `mask`.
+std::string AccessList(char group, char mask) {
+  std::string list("\2\0\0\0", 4);
+  const auto add = [&](char tag, char rights, std::string_view id) {
+    list += {tag, '\0', rights, '\0'};
+    list += id;
+  };
+  const std::string_view nobody("\xFF\xFF\xFF\xFF", 4);
+  add(0x01, 6, nobody);
+  add(0x02, 6, std::string_view("\x39\x30\0\0", 4));
+  add(0x04, group, nobody);
+  add(0x10, mask, nobody);
+  add(0x20, 0, nobody);
+  return list;
+}
+
+TEST_F(DesktopFilesTest, RightsAndAttributesGoOverToTheNewBytesAndToCopies) {
+  constexpr char kList[] = "system.posix_acl_access";
+  const std::string path = Own("A.xml");
+  const std::string list = AccessList(4, 6);
+  PutFile(path, "one");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  ASSERT_EQ(files.Replace(PathText(path + ".bak"), "one", nullptr, nullptr, PathText(path)),
+            WriteResult::kWritten);
+  EXPECT_EQ(fs::status(path + ".bak").permissions(), fs::status(path).permissions());
+  ASSERT_EQ(files.Replace(PathText(Own("B.xml")), "one", nullptr, nullptr, u"/nowhere"),
+            WriteResult::kWritten);
+  EXPECT_EQ(fs::status(Own("B.xml")).permissions(), fs::status(path).permissions())
+      << "of nobody: for the user";
+  if (setxattr(path.c_str(), kList, list.data(), list.size(), 0) != 0 ||
+      setxattr(path.c_str(), "user.note", "mine", 4, 0) != 0)
+    GTEST_SKIP() << "this file system has no access lists or attributes";
+  for (const std::string& copy : {path, path + ".bak"}) {
+    ASSERT_EQ(files.Replace(PathText(copy), "two", nullptr, nullptr, PathText(path)), WriteResult::kWritten);
+    std::string value(100, '\0');
+    EXPECT_EQ(getxattr(copy.c_str(), "user.note", value.data(), value.size()), 4);
+    value.resize(static_cast<std::size_t>(getxattr(copy.c_str(), kList, value.data(), value.size())));
+    EXPECT_EQ(value, list) << copy;
+  }
 }
 
 TEST_F(DesktopFilesTest, TheTrashSaysWhereAFileWas) {
@@ -143,11 +190,10 @@ TEST_F(DesktopFilesTest, TheFirstStoreThatExistsIsTheWholeKey) {
   EXPECT_FALSE(store.Write({{"Grid", DwordValue(1)}, {"a\nb", DwordValue(1)}})) << "all changes or none";
   EXPECT_FALSE(fs::exists(own));
   {
-    const CFileLock lock(own + ".lock", std::chrono::milliseconds(0));
-    EXPECT_FALSE(store.Write({{"Grid", DwordValue(1)}}));
-    EXPECT_TRUE(store.Read()) << "reading never waits";
+    const auto lock = LockFolder(FolderOf(own), std::chrono::milliseconds(0));
+    EXPECT_TRUE(store.Write({{"Grid", DwordValue(3)}})) << "who holds a lock for long is not waited for";
   }
-  EXPECT_TRUE(store.Write({{"Grid", DwordValue(3)}}));
+  EXPECT_EQ(FileCount(FolderOf(own)), 1u) << "no lock is left there";
   EXPECT_EQ(BytesOf(own), KeyText("\"Grid\"=dword:00000003\n; of the machine\n"));
   EXPECT_EQ(BytesOf(folders.stores[1]), KeyText("; of the machine\n"));
 }

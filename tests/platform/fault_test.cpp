@@ -35,12 +35,12 @@ struct Outcome : FaultReport {
 };
 
 // Takes the step with a fault at one call; in a process of its own where that is killed.
-Outcome Taken(const Step& step, int call = 0, int fault = 0) {
+Outcome Taken(const Step& step, int call = 0, int fault = 0, void (*meddle)() = nullptr) {
   Outcome outcome;
   outcome.isKilled = fault == kKillFault;
   const pid_t process = outcome.isKilled ? fork() : 0;
   if (process == 0) {
-    FaultShimBegin(call, fault, outcome);
+    FaultShimBegin(call, fault, outcome, meddle);
     outcome.isDone = step();
     FaultShimEnd();
     if (outcome.isKilled) _exit(0);  // the call was not reached
@@ -49,8 +49,8 @@ Outcome Taken(const Step& step, int call = 0, int fault = 0) {
     wait(&status);
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
   }
-  const std::set<std::string_view> writing = {"write", "fsync", "rename", "fchmod", "fchown"};
-  outcome.isWriteLost = fault > 0 && fault != EINTR && writing.count(outcome.failed) > 0;
+  const std::set<std::string_view> writing = {"write", "fsync", "rename", "renameat2", "fchmod", "fchown"};
+  outcome.isWriteLost = fault > 0 && fault != EINTR && fault != EINVAL && writing.count(outcome.failed) > 0;
   return outcome;
 }
 
@@ -58,13 +58,15 @@ const std::string kOld(5000, 'o');
 const std::string kNew(9000, 'n');
 
 // Takes a step again and again, each time with the next of its calls failing, until there is no further one.
-// `prepare` makes the state before, `check` judges the state after.
-void ForEachFault(const std::vector<int>& faults, const Step& step, const std::function<void()>& prepare,
-                  const std::function<void(const Outcome&)>& check) {
+// `prepare` makes the state before, `check` judges the state after. A sound step syncs at least so many files
+// and folders.
+void ForEachFault(const std::vector<int>& faults, int syncs, const Step& step,
+                  const std::function<void()>& prepare, const std::function<void(const Outcome&)>& check) {
   prepare();
   const Outcome sound = Taken(step);
   ASSERT_TRUE(sound.isDone);
   ASSERT_GT(sound.calls, 5) << "the shim does not see the calls";
+  EXPECT_GE(sound.syncs, syncs) << "a loss of power could undo it";
   check(sound);
   for (const int fault : faults) {
     for (int call = 1; call <= sound.calls && !testing::Test::HasFailure(); ++call) {
@@ -72,8 +74,10 @@ void ForEachFault(const std::vector<int>& faults, const Step& step, const std::f
       const Outcome outcome = Taken(step, call, fault);
       SCOPED_TRACE("fault " + std::to_string(fault) + " at call " + std::to_string(call) + ", " +
                    outcome.failed);
-      const bool isMoveByCopy = fault == EXDEV && std::string_view(outcome.failed) == "rename";
-      EXPECT_TRUE(outcome.isDone || (fault != EINTR && fault != kShortFault && !isMoveByCopy));
+      const std::string_view name = outcome.failed;
+      const bool hasOtherWay =
+          (fault == EXDEV && name == "rename") || (fault == EINVAL && name == "renameat2");
+      EXPECT_TRUE(outcome.isDone || (fault != EINTR && fault != kShortFault && !hasOtherWay));
       check(outcome);
     }
   }
@@ -106,12 +110,49 @@ TEST(FaultTest, ASavedFileIsTheOldOneOrTheNewOne) {
     if (outcome.isKilled) {
       EXPECT_TRUE(Taken([&] { return SaveFile(link, "after"); }).isDone) << "and all goes on";
       EXPECT_EQ(BytesOf(file), "after");
-    } else {
+    } else if (std::string_view(outcome.failed) != "unlink") {
       EXPECT_EQ(FileCount(folder / "real"), 1u) << "a temporary file is left";
     }
   };
   const Step step = [&] { return SaveFile(link, kNew); };
-  ForEachFault({EIO, ENOSPC, EDQUOT, EACCES, EINTR, kShortFault, kKillFault}, step, prepare, check);
+  ForEachFault({EIO, ENOSPC, EDQUOT, EACCES, EINTR, EINVAL, kShortFault, kKillFault}, 2, step, prepare,
+               check);
+}
+
+// The file that another program writes while a save goes on, in place or as a new file.
+std::string meddled;
+
+TEST(FaultTest, NothingThatAnotherProgramWritesIsOverwrittenUnseen) {
+  const CTestFolder folder;
+  meddled = folder / "file.xml";
+  const auto inPlace = [] { PutFile(meddled, "theirs"); };
+  const auto asANewFile = [] {
+    PutFile(meddled + ".new", "theirs");
+    fs::rename(meddled + ".new", meddled);
+  };
+  for (const bool wasThere : {true, false}) {
+    const Step save = [&] {
+      const FileStamp expected = ReadWholeFile(meddled).value_or(FileBytes()).stamp;
+      return ReplaceFile(meddled, kNew, &expected, nullptr) == WriteResult::kWritten;
+    };
+    const auto prepare = [&] {
+      fs::remove(meddled);
+      if (wasThere) PutFile(meddled, kOld);
+    };
+    prepare();
+    // The first calls read the file: what is written before their end is known.
+    const int known = Taken([&] { return ReadWholeFile(meddled).has_value() || !wasThere; }).calls;
+    prepare();
+    const int calls = Taken(save).calls;
+    for (void (*const meddle)() : {+inPlace, +asANewFile}) {
+      for (int call = known + 1; call <= calls; ++call) {
+        prepare();
+        const Outcome outcome = Taken(save, call, kMeddleFault, meddle);
+        EXPECT_EQ(BytesOf(meddled), "theirs") << "before " << outcome.failed << ", call " << call;
+        EXPECT_EQ(FileCount(folder / ""), 1u) << "a temporary file is left";
+      }
+    }
+  }
 }
 
 TEST(FaultTest, TheStoreIsTheOldOneOrTheNewOne) {
@@ -136,7 +177,7 @@ TEST(FaultTest, TheStoreIsTheOldOneOrTheNewOne) {
     EXPECT_TRUE(Taken(step).isDone) << "nobody holds the lock any more";
     EXPECT_EQ(BytesOf(file), after);
   };
-  ForEachFault({EIO, ENOSPC, EACCES, EPERM, EINTR, kShortFault, kKillFault}, step, prepare, check);
+  ForEachFault({EIO, ENOSPC, EACCES, EPERM, EINTR, kShortFault, kKillFault}, 2, step, prepare, check);
 }
 
 TEST(FaultTest, AFileIsInItsPlaceOrInTheTrash) {
@@ -154,7 +195,7 @@ TEST(FaultTest, AFileIsInItsPlaceOrInTheTrash) {
     EXPECT_FALSE(!outcome.isDone && !outcome.isKilled && inTrash);
   };
   const Step step = [&] { return MoveToTrashFolder(file, folder / "Trash", {{2024, 5, 1}, 7, 8, 9}); };
-  ForEachFault({EXDEV, EIO, ENOSPC, kKillFault}, step, prepare, check);
+  ForEachFault({EXDEV, EIO, ENOSPC, EINTR, kKillFault}, 5, step, prepare, check);
 }
 
 TEST(FaultTest, WhatASaveDropsStandsInACopy) {
@@ -169,7 +210,8 @@ TEST(FaultTest, WhatASaveDropsStandsInACopy) {
     PutFile(path + ".bak", "older copy");
   };
   const auto check = [&](const Outcome& outcome) {
-    const std::set<std::string> all = {BytesOf(path), BytesOf(path + ".bak"), BytesOf(path + ".bak.1")};
+    const std::set<std::string> all = {BytesOf(path), BytesOf(path + ".bak"), BytesOf(path + ".bak.1"),
+                                       BytesOf(path + ".bak.2")};
     EXPECT_EQ(all.count(before), 1u) << "what the reader dropped";
     EXPECT_EQ(all.count("older copy"), 1u);
     EXPECT_TRUE(BytesOf(path) == clean || (BytesOf(path) == before && !outcome.isDone));
@@ -182,7 +224,7 @@ TEST(FaultTest, WhatASaveDropsStandsInACopy) {
     return calendars.Load(kDefaultCalendarName, calendar) == LoadResult::kLoaded &&
            calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse).result == WriteResult::kWritten;
   };
-  ForEachFault({EIO, ENOSPC, kShortFault, kKillFault}, step, prepare, check);
+  ForEachFault({EIO, ENOSPC, kShortFault, kKillFault}, 4, step, prepare, check);
 }
 
 void CheckMigration(bool hasFile) {
@@ -222,7 +264,7 @@ void CheckMigration(bool hasFile) {
     EXPECT_EQ(store.Read()->count("FontName"), 0u);
     EXPECT_TRUE(outcome.isKilled || std::string_view(outcome.failed) != "-" || BytesOf(trashed) == oldCopy);
   };
-  ForEachFault({kKillFault, EIO, EROFS}, step, prepare, check);
+  ForEachFault({kKillFault, EIO, EROFS}, 4, step, prepare, check);
 }
 
 TEST(FaultTest, AnInterruptedMigrationIsFinishedByTheNextStart) { CheckMigration(true); }

@@ -5,23 +5,32 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <cstdio>
+#include <utility>
 
 namespace {
 
 orbisol::FaultReport* current = nullptr;  // nothing where no call is counted
 int chosen = 0;
 int chosenFault = 0;
+void (*chosenMeddle)() = nullptr;
 
 // The fault of this call, which it counts; 0 for none.
 int Next(const char* name) {
   if (current == nullptr || ++current->calls != chosen) return 0;
   current->failed = name;
   if (chosenFault == orbisol::kKillFault) raise(SIGKILL);
+  if (chosenFault == orbisol::kMeddleFault) {
+    orbisol::FaultReport* const counted = std::exchange(current, nullptr);
+    chosenMeddle();
+    current = counted;
+  }
   return chosenFault;
 }
 
@@ -50,9 +59,10 @@ ssize_t Transfer(const char* name, ssize_t (*real)(int, Buffer, size_t), int des
 
 }  // namespace
 
-void orbisol::FaultShimBegin(int call, int fault, FaultReport& report) {
+void orbisol::FaultShimBegin(int call, int fault, FaultReport& report, void (*meddle)()) {
   chosen = call;
   chosenFault = fault;
+  chosenMeddle = meddle;
   current = &report;
 }
 
@@ -97,10 +107,26 @@ ssize_t write(int descriptor, const void* buffer, size_t size) {
 // Between the two marks nothing is really synced: no test cuts the power, and the disk would be waited for
 // thousands of times.
 int fsync(int descriptor) {
-  if (current != nullptr) return Fails("fsync") ? -1 : 0;
+  if (current != nullptr) {
+    ++current->syncs;
+    return Fails("fsync") ? -1 : 0;
+  }
   FORWARD(fsync, int(int), descriptor);
 }
 int rename(const char* from, const char* to) { FORWARD(rename, int(const char*, const char*), from, to); }
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) {
+  FORWARD(renameat2, int(int, const char*, int, const char*, unsigned), fromFolder, from, toFolder, to,
+          flags);
+}
+int fsetxattr(int descriptor, const char* name, const void* value, size_t size, int flags) {
+  FORWARD(fsetxattr, int(int, const char*, const void*, size_t, int), descriptor, name, value, size, flags);
+}
+ssize_t getxattr(const char* path, const char* name, void* value, size_t size) {
+  FORWARD(getxattr, ssize_t(const char*, const char*, void*, size_t), path, name, value, size);
+}
+ssize_t listxattr(const char* path, char* list, size_t size) {
+  FORWARD(listxattr, ssize_t(const char*, char*, size_t), path, list, size);
+}
 int unlink(const char* path) { FORWARD(unlink, int(const char*), path); }
 int mkdir(const char* path, mode_t mode) { FORWARD(mkdir, int(const char*, mode_t), path, mode); }
 int access(const char* path, int mode) { FORWARD(access, int(const char*, int), path, mode); }

@@ -65,7 +65,7 @@ class CMemoryFiles : public FileSystem {
   }
 
   WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
-                      FileStamp* stamp) override {
+                      FileStamp* stamp, std::u16string_view /*model*/) override {
     if (beforeReplace) std::exchange(beforeReplace, nullptr)();
     const std::u16string key(path);
     if (failingWrites.count(key) > 0) return WriteResult::kFailed;
