@@ -39,7 +39,11 @@ TEST(FoldersTest, FollowTheDesktopsVariables) {
       "/eva/.local/share/Corvalen/orbisol/Legals /opt/o/share/orbisol/Legals /eva/.local/share/Trash "
       "/eva/.config/Corvalen/Calendar.reg /etc/xdg/Corvalen/Calendar.reg /opt/o/share/orbisol/Calendar.reg");
   EXPECT_EQ(
-      find({{"XDG_DATA_HOME", "/d"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_CONFIG_DIRS", "/a:b::/c"}}, ""),
+      find({{"HOME", "eva"},
+            {"XDG_DATA_HOME", "/d"},
+            {"XDG_CONFIG_HOME", "c"},
+            {"XDG_CONFIG_DIRS", "/a:b::/c"}},
+           ""),
       "/d/Corvalen/orbisol/Legals /share/orbisol/Legals /d/Trash /account/.config/Corvalen/Calendar.reg "
       "/a/Corvalen/Calendar.reg /c/Corvalen/Calendar.reg /share/orbisol/Calendar.reg")
       << "never a folder of wherever the program was started";

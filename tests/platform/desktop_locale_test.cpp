@@ -30,6 +30,7 @@ TEST(DesktopLocaleTest, CountriesHaveTheirOwnAnswers) {
       {"C", 1, 0, u"mars dimanche fr FR"},         {"en_US.UTF-8", 0, 6, u"March Sunday en US"},
       {"de_CH@euro", 1, 0, u"März Sonntag de CH"}, {"sv_SE", 2, 0, u"mars söndag sv SE"},
       {"it", 1, 0, u"marzo domenica it "},         {"zh-Hant-TW", 2, 6, u"3月 星期日 zh TW"},
+      {"cs_CZ", 1, 0, u"březen neděle cs CZ"},
   };
   for (const auto& row : kRows) {
     SCOPED_TRACE(row.name);
