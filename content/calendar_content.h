@@ -1,4 +1,4 @@
-// What a calendar holds: day rules and vacation periods, in the order of its file and of insertion.
+// The content of a calendar: day rules and vacation periods, in the order of its file and of insertion.
 #pragma once
 
 #include <vector>
@@ -15,7 +15,7 @@ struct CalendarContent {
   bool operator==(const CalendarContent&) const = default;
 };
 
-// The content of the calendar in use.
+// Returns the content of the calendar in use.
 CalendarContent& Content();
 
 }  // namespace orbisol

@@ -1,4 +1,4 @@
-// How one calendar looks: its font, its background picture and its 15 colors, as its file keeps them.
+// The look of one calendar: its font, its background picture and its 15 colors, as its file keeps them.
 //
 //   CalendarLook look;             // a fresh calendar
 //   look.ColorAt(kHolidayText);    // 0x0000FF, red

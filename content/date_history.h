@@ -5,7 +5,7 @@
 //   history.Back();                            // 20240501
 //
 // Steps in a row are a walk, and a walk counts once: where it began and where it is now are both kept, the
-// days between are not. So one step back after a hundred days with the arrow keys returns to where they
+// days between are not. One step back after a hundred days with the arrow keys returns to where they
 // began. What is typed is a walk of its own.
 #pragma once
 
@@ -19,14 +19,15 @@ namespace orbisol {
 
 class CDateHistory {
  public:
-  // The first visit is where it all begins. Visiting the present date again changes nothing; another one
-  // forgets the dates that lay ahead. The oldest are forgotten first, from kMostDates on.
+  // Adds a date; the first one is the oldest that Back() returns. Visiting the present date again changes
+  // nothing; another one forgets the dates that lay ahead. The oldest are forgotten first, from kMostDates
+  // on.
   void Visit(PackedDate date, DateMove move);
 
   bool CanGoBack() const { return m_present > 0; }
   bool CanGoForward() const { return m_present + 1 < m_dates.size(); }
 
-  // The date to show now; 0 when there is none on that side.
+  // Return the date to show now; 0 when there is none on that side.
   PackedDate Back();
   PackedDate Forward();
 

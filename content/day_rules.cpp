@@ -22,8 +22,8 @@ class CRuleYear {
  public:
   explicit CRuleYear(int year) : m_year(year) {}
 
-  // Where a rule that counts from some day of the year looks for its own: day numbers, for the Orthodox
-  // Easter a packed date. Nothing for the other kinds.
+  // Returns the days on which a rule that counts from some day of the year can fall: day numbers, for the
+  // Orthodox Easter a packed date. Nothing for the other kinds.
   Range RangeOf(const DayEvent& event) {
     switch (event.type) {
       case DayEventType::kRomanEaster:
@@ -64,7 +64,7 @@ class CRuleYear {
   std::int64_t m_romanEaster = 0;  // day number
 };
 
-// Whether a day is the n-th of its weekday in its month, 5 being the last.
+// Returns whether a day is the n-th of its weekday in its month, 5 being the last.
 bool IsNthInMonth(const RuleDay& ruleDay, int n) {
   std::int64_t day = ruleDay.day;
   std::int64_t length = Date(ruleDay.year, ruleDay.month, ruleDay.day).DaysInMonth();
@@ -112,7 +112,7 @@ bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
   return false;
 }
 
-// Whether a rule looks at days by their month and not by a range.
+// Returns whether a rule looks at days by their month and not by a range.
 bool StaysInMonth(const DayEvent& event) {
   switch (event.type) {
     case DayEventType::kFixedDate:

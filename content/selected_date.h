@@ -1,7 +1,7 @@
 // The selected date, shared by all views, with the steps that keys, wheel and arrows make.
 //
-// It always lies within -3999-01-01 … 3999-12-31. A date that does not exist (29 February 2025 after a step
-// of a year) is kept.
+// The selected date always lies within -3999-01-01 … 3999-12-31. A date that does not exist (29 February 2025
+// after a step of a year) is kept.
 //
 //   Date& selected = Selected();
 //   StepDays(selected, -1);
@@ -18,7 +18,7 @@ namespace orbisol {
 constexpr PackedDate kFirstDayOfEra = 10101;
 constexpr PackedDate kFirstJulianDay = -440101;  // astronomical: 1 January 45 BC
 
-// In what way a hand moved the selected date.
+// The ways in which a user moves the selected date.
 enum class DateMove {
   kStep,          // by days, months or years: keys, wheel, a drag, the arrows of the header
   kTypingBegins,  // to the first of the dates through which typing passes, as a year is typed digit by digit
@@ -26,10 +26,10 @@ enum class DateMove {
   kLeap,          // to a day that was named: a click on it, a button, a menu
 };
 
-// The selected date. Today until something else is selected; the first call asks the clock.
+// Returns the selected date: today until something else is selected; the first call asks the clock.
 Date& Selected();
 
-// Each ends within the bounds. Any number is accepted.
+// Move a date; each ends within the bounds. Any number is accepted.
 void StepDays(Date& date, int days);      // back when negative; a step back of one day always leaves the date
 void StepMonths(Date& date, int months);  // the day is pulled back into a shorter month
 void StepYears(Date& date, int years);    // month and day unchanged, also where that day does not exist

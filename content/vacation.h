@@ -16,12 +16,12 @@ struct HolidayPeriod {
   bool operator==(const HolidayPeriod&) const = default;
 };
 
-// Both dates within the range shown and not past the end of their month under the rules in force. On purpose:
-// a period of one day is refused, and a day or month is refused only for being too great, a month also for
-// being less than 1.
+// Returns whether a period may be in a calendar: both dates within the range shown and not past the end of
+// their month under the rules in force. On purpose: a period of one day is refused, and a day or month is
+// refused only for being too great, a month also for being less than 1.
 bool IsAcceptablePeriod(const HolidayPeriod& period);
 
-// The first period in list order that holds a day; null when there is none.
+// Returns the first period in list order that holds a day; null when there is none.
 const HolidayPeriod* PeriodOfDay(std::span<const HolidayPeriod> periods, PackedDate ymd);
 
 }  // namespace orbisol

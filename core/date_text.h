@@ -13,17 +13,17 @@
 
 namespace orbisol {
 
-// "JJ/MM/AAAA" and the like, by Date::dateOrder; empty for another order.
+// Returns "JJ/MM/AAAA" and the like, by Date::dateOrder; empty for another order.
 std::u16string DatePattern(int dateOrder);
 
-// `text` with every "%date%" replaced by the pattern.
+// Returns `text` with every "%date%" replaced by the pattern.
 std::u16string WithDatePattern(std::u16string_view text, int dateOrder);
 
-// A day in the calendar in force. The weekday's first letter is upper case. Empty for a dateOrder outside
-// 0..2.
+// Writes a day in the calendar in force. The weekday's first letter is upper case. Empty for a dateOrder
+// outside 0..2.
 std::u16string LongDate(const Date& date, bool withoutWeekday);
 
-// The same day written in the Julian calendar, with the weekday. The year is the civil one unless
+// Writes the same day in the Julian calendar, with the weekday. The year is the civil one unless
 // `historicalYear`.
 std::u16string JulianLongDate(const Date& date, bool historicalYear);
 
@@ -31,11 +31,11 @@ std::u16string JulianLongDate(const Date& date, bool historicalYear);
 // the year that begins on 1 January: "14 octobre 1582" for 4 October 1582.
 std::u16string ProlepticGregorianText(const Date& date);
 
-// Day, month name and year in an order (Date::dateOrder; year first for any order but 0 and 1).
+// Writes day, month name and year in an order (Date::dateOrder; year first for any order but 0 and 1).
 std::u16string DayMonthYear(int dateOrder, int day, std::u16string_view monthName, int year);
 
-// "Vingt-et-unième siècle"; years from 0 down count centuries before the era. Empty from the fiftieth century
-// on.
+// Returns "Vingt-et-unième siècle"; years from 0 down count centuries before the era. Empty from the fiftieth
+// century on.
 std::u16string CenturyText(int year);
 
 std::u16string MonthName(int month);        // 1..12

@@ -17,7 +17,7 @@ constexpr int kFirstEasterYear = 326;
 // Oudin (1940), in the Explanatory Supplement to the Astronomical Almanac.
 void RomanEaster(Date& date);
 
-// Orthodox Easter Sunday shifted by `offset` days, in the calendar in force; 0 before 326.
+// Returns Orthodox Easter Sunday shifted by `offset` days, in the calendar in force; 0 before 326.
 // On purpose: up to and in the year of the reform the offset is not applied.
 PackedDate OrthodoxEaster(int year, int offset);
 

@@ -99,8 +99,8 @@ double Perturbations(SinCos moon, SinCos sun, SinCos lead, SinCos fromNode) {
          0.015 * (fromNode + fromNode - lead2).sin + 0.011 * (moonLessLead2 - lead2).sin;
 }
 
-// Whether the day of `angle` is the nearest to the phase angle among its neighbors. Of two equally near days
-// the earlier one is.
+// Returns whether the day of `angle` is the nearest to the phase angle among its neighbors. Of two equally
+// near days the earlier one is.
 bool IsNearestDay(int before, int angle, int after, int phase) {
   int center = phase;
   if (phase == 0) {  // away from where angles jump from 359 to 0
@@ -150,9 +150,9 @@ class CNoonElongations {
 
 constexpr int kLeastGap = 6;  // days from one phase to the next, at the fewest
 
-// Whether the mean Moon is too far from all phase angles for the true one to be near. The true Moon is at
-// most 12 degrees away from the mean one in the whole range shown, and its phases are looked for within 10
-// degrees.
+// Returns whether the mean Moon is too far from all phase angles for the true one to be near. The true Moon
+// is at most 12 degrees away from the mean one in the whole range shown, and its phases are looked for within
+// 10 degrees.
 bool IsFarFromPhases(double t) {
   constexpr double kFar = 23.0;
   const double lead = kMeanLead.At(t);

@@ -1,4 +1,4 @@
-// A date in one integer, as files, tables and range tests hold it.
+// Dates packed into one integer, for files, tables and range tests.
 //
 //   Pack(1582, 10, 15);  // 15821015
 //   Pack(-44, 3, 15);    // -440315
@@ -31,19 +31,19 @@ constexpr std::int64_t MonthDay(int month, int day) { return std::int64_t{month}
 constexpr int kFirstOfJanuary = 101;  // month * 100 + day
 constexpr int kLastOfDecember = 1231;
 
-// Any integers are accepted; a result that no int holds is saturated.
+// Packs a date. Any integers are accepted; a result that no int holds is saturated.
 constexpr PackedDate Pack(int year, int month, int day) {
   const std::int64_t years = std::int64_t{year} * 10000;
   return Saturate(year < 0 ? years - MonthDay(month, day) : years + MonthDay(month, day));
 }
 
-// Month * 100 + day of a packed date; the absolute value is taken of this remainder alone.
+// Returns month * 100 + day of a packed date; the absolute value is taken of this remainder alone.
 constexpr int MonthDayOf(PackedDate packed) {
   const int rest = packed % 10000;
   return rest < 0 ? -rest : rest;
 }
 
-// The quotient is cut toward zero. Any integer is accepted.
+// Unpacks a date, cutting the year toward zero. Any integer is accepted.
 constexpr YearMonthDay Unpack(PackedDate packed) {
   return {packed / 10000, MonthDayOf(packed) / 100, MonthDayOf(packed) % 100};
 }

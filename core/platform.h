@@ -1,4 +1,4 @@
-// What calendar arithmetic asks of the machine: the user's locale and the clock.
+// The facts about the machine that calendar arithmetic needs: the user's locale and the clock.
 //
 // Both are French and local from the first instruction on, without any desktop; the program puts the
 // desktop's answers in their place at start-up, tests put theirs.
@@ -39,7 +39,7 @@ extern Platform currentPlatform;
 }
 inline const Platform& CurrentPlatform() { return detail::currentPlatform; }
 
-// Puts other answers in force. Both live as long as they are.
+// Puts other answers in force. Both objects must live until others replace them.
 void SetPlatform(const Locale& locale, const Clock& clock);
 
 // The answers that need no desktop. Names are empty outside their range.

@@ -17,7 +17,9 @@ struct Rect {
   constexpr int Width() const { return right - left; }
   constexpr int Height() const { return bottom - top; }
   constexpr bool Contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
-  // Smaller by dx at the left and at the right, by dy above and below; larger when negative.
+
+  // Returns a rectangle that is smaller by dx at the left and at the right, by dy above and below; larger
+  // when negative.
   constexpr Rect Shrunk(int dx, int dy) const { return {left + dx, top + dy, right - dx, bottom - dy}; }
   constexpr Rect Shrunk(int d) const { return Shrunk(d, d); }
 

@@ -39,7 +39,7 @@ void AppendUtf8(std::string& out, char32_t c) {
   }
 }
 
-// How the characters that begin with a byte go on: how many bytes follow, and what the first of these may be.
+// The rest of a character after its first byte: how many bytes follow, and the range of the first of these.
 struct Utf8Lead {
   int following;  // 0 for a byte that begins no character of more than one byte
   unsigned char firstMin;

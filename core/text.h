@@ -19,7 +19,7 @@ namespace orbisol {
 constexpr bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 constexpr bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-// The first `maxUnits` units of a text, one less where that would cut a surrogate pair in two.
+// Returns the first `maxUnits` units of a text, one less where that would cut a surrogate pair in two.
 std::u16string_view CutText(std::u16string_view text, std::size_t maxUnits);
 
 // A text held in place: at most N - 1 UTF-16 units and a zero. A longer text is cut, never refused; a zero
@@ -40,19 +40,19 @@ struct FixedText {
   bool operator==(const FixedText& other) const { return View() == other.View(); }
 };
 
-// Malformed bytes become U+FFFD, one for each longest beginning of a character (as the Unicode standard
-// recommends).
+// Returns UTF-16 of UTF-8. Malformed bytes become U+FFFD, one for each longest beginning of a character (as
+// the Unicode standard recommends).
 std::u16string FromUtf8(std::string_view bytes);
-// A lone surrogate becomes U+FFFD.
+// Returns UTF-8 of UTF-16. A lone surrogate becomes U+FFFD.
 std::string ToUtf8(std::u16string_view text);
 
-// The pieces between separators, empty ones included; a text without a separator is one piece.
+// Returns the pieces between separators, empty ones included; a text without a separator is one piece.
 std::vector<std::u16string_view> Split(std::u16string_view text, char16_t separator);
 
-// The n-th piece, from 0; empty when there is none.
+// Returns the n-th piece, from 0; empty when there is none.
 std::u16string_view Piece(std::u16string_view text, char16_t separator, int n);
 
-// Every occurrence of `what` (not empty), from left to right.
+// Replaces every occurrence of `what` (not empty), from left to right.
 std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what, std::u16string_view by);
 
 // Returns the text with its first letter in upper case, for the letters of European languages.
@@ -65,7 +65,8 @@ std::u16string Folded(std::u16string_view text);
 
 std::u16string DecimalText(long long number);
 
-// The value of a hexadecimal digit in either case, given as a unit or a byte; -1 for another character.
+// Returns the value of a hexadecimal digit in either case, given as a unit or a byte; -1 for another
+// character.
 constexpr int HexDigit(int character) {
   if (character >= '0' && character <= '9') return character - '0';
   if (character >= 'a' && character <= 'f') return character - 'a' + 10;
@@ -73,11 +74,11 @@ constexpr int HexDigit(int character) {
   return -1;
 }
 
-// Leading blanks, a sign, digits up to the first other character; 0 for a text that begins otherwise. A
-// number that no int holds is saturated.
+// Reads leading blanks, a sign and digits up to the first other character; 0 for a text that begins
+// otherwise. A number that no int holds is saturated.
 int ParseDecimal(std::u16string_view text);
 
-// A pattern of the string table filled in: %s takes a text, %d a number, %2d a number at least two wide; "%%"
+// Fills in a pattern of the string table: %s takes a text, %d a number, %2d a number at least two wide; "%%"
 // is a percent sign. A placeholder without its argument becomes nothing; arguments left over are ignored.
 using FormatArgument = std::variant<long long, std::u16string_view>;
 std::u16string FormatText(std::u16string_view pattern, std::initializer_list<FormatArgument> arguments);

@@ -121,7 +121,8 @@ TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {
   EXPECT_EQ(names, u"");
 }
 
-// The judge: one rule on one day, each kind as it is defined, nothing left out or computed once.
+// The reference implementation: one rule on one day, each kind as it is defined, nothing left out or computed
+// once.
 bool PlainlyFallsOn(const DayEvent& e, PackedDate ymd) {
   if (e.ymdFrom > ymd || ymd > e.ymdTo) return false;
   const Date date(ymd);

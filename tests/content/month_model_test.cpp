@@ -48,8 +48,9 @@ constexpr Color kColorsOf[][2] = {
     {kEventText, kVacationBack},
 };
 
-// The judge of one cell. On purpose: the weekday is that of the day's number, not of the column.
-DayCell JudgedCell(PackedDate ymd, bool own, int week, const CalendarContent& content) {
+// Returns the cell that a date must have. On purpose: the weekday is that of the day's number, not of the
+// column.
+DayCell ExpectedCell(PackedDate ymd, bool own, int week, const CalendarContent& content) {
   const Date date(ymd);
   const HolidayPeriod* const period = PeriodOfDay(content.vacations, ymd);
   const DayMatch match = own ? MatchDay(content.dayEvents, ymd) : DayMatch();
@@ -69,7 +70,7 @@ DayCell JudgedCell(PackedDate ymd, bool own, int week, const CalendarContent& co
           .eventText = ofRules == kEventMark ? match.eventNames : u""};
 }
 
-// What the reform left of a month, whose length is asked from the first day left.
+// Returns the days that the reform left of a month, whose length is asked from the first day left.
 std::vector<PackedDate> DaysOfMonth(int year, int month) {
   std::vector<PackedDate> days;
   Date date(year, month, 1);
@@ -79,7 +80,7 @@ std::vector<PackedDate> DaysOfMonth(int year, int month) {
   return days;
 }
 
-// The judge of a page: which of all days it shows, from week to week. Pages repeat at their ends what the
+// Compares a page with the days that it must show, from week to week. Pages repeat at their ends what the
 // pages before and after show.
 void ExpectPage(const MonthModel& model, const std::vector<PackedDate>& days, std::size_t begin,
                 std::size_t end, const CalendarContent& content) {
@@ -94,7 +95,7 @@ void ExpectPage(const MonthModel& model, const std::vector<PackedDate>& days, st
       continue;
     }
     if (at <= end) week = WeekNumber(Date(days[at]));  // on purpose that of the first after the month
-    ASSERT_TRUE(cell == JudgedCell(days[at], at >= begin && at < end, week, content)) << days[at];
+    ASSERT_TRUE(cell == ExpectedCell(days[at], at >= begin && at < end, week, content)) << days[at];
     ASSERT_EQ(model.CellOf(cell.month, cell.day), i);
   }
   const int firstDay = Unpack(days[begin]).day;  // becomes the model's when the 1st was dropped

@@ -40,7 +40,7 @@ TEST(DateTest, GregorianDaysAreThoseOfTheStandardLibrary) {
 
 // Months have the days they say, without those that the reform dropped; but early reforms go back to dates
 // that the Julian calendar has used.
-TEST(DateTest, EveryDayIsThatOfTheJudgeAndNoneIsLost) {
+TEST(DateTest, EveryDayIsThatOfTheReferenceAndNoneIsLost) {
   std::vector<plain::Reform> reforms = {
       {kRomanReform, true}, {kNeverGregorian, false}, {40227, false}, {-440315, false}, {-20000701, true}};
   for (const NationalReform& national : kNationalReforms) {
@@ -55,8 +55,8 @@ TEST(DateTest, EveryDayIsThatOfTheJudgeAndNoneIsLost) {
     int days = 0;  // of the month so far
     for (int n = Date(reform.startGregorian > kRomanReform ? 15000101 : kFirst).DayNumber(); n <= last; ++n) {
       const Date date = DateOfDayNumber(n);
-      const plain::CivilDate judged = plain::DateOfDayNumber(n, reform);
-      ASSERT_TRUE((judged == plain::CivilDate{date.year, date.month, date.day})) << n;
+      const plain::CivilDate reference = plain::DateOfDayNumber(n, reform);
+      ASSERT_TRUE((reference == plain::CivilDate{date.year, date.month, date.day})) << n;
       // The day opposite in its month, also where that is none: 30 February, (on purpose Julian) a gap.
       const int number = Date(date.year, date.month, 32 - date.day).DayNumber();
       ASSERT_TRUE(number == plain::DayNumber({date.year, date.month, 32 - date.day}, reform)) << n;

@@ -9,7 +9,7 @@
 namespace orbisol {
 namespace {
 
-TEST(MoonTest, EveryDayHasThePhaseOfTheJudge) {
+TEST(MoonTest, EveryDayHasThePhaseOfTheReference) {
   constexpr int kFirstDay = 260424;  // 1 January -3999
   std::vector<MoonPhase> phases(3182030 - kFirstDay);
   MoonPhasesOfDays(kFirstDay, phases);

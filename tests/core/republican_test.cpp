@@ -7,7 +7,7 @@
 namespace orbisol {
 namespace {
 
-// As histories give them, and the concordance of the Service des archives de France.
+// Dates that histories give, and the concordance of the Service des archives de France.
 TEST(RepublicanTest, DatesOfTheRepublicConvertBothWaysAndAreWritten) {
   constexpr struct {
     PackedDate date;

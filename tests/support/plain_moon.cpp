@@ -25,8 +25,8 @@ int CodeNear(int angle) {
   return 0;
 }
 
-// Whether `phase` (0, 90, 180 or 270) belongs to the day whose noon has `angle`, between the noons of its
-// neighbors.
+// Returns whether `phase` (0, 90, 180 or 270) belongs to the day whose noon has `angle`, between the noons of
+// its neighbors.
 bool IsPhaseDay(int before, int angle, int after, int phase) {
   int center = phase;
   if (phase == 0) {  // away from the jump from 359 to 0
