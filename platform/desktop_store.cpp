@@ -20,6 +20,13 @@ std::string KeyFile(const std::vector<std::string>& files) {
   return {};
 }
 
+// Returns nothing for a file that cannot be read, or that is too long to be a key.
+std::optional<FileBytes> ReadKey(const std::string& path) {
+  std::optional<FileBytes> file = ReadWholeFile(path);
+  if (file && file->bytes.size() > kMaxKeyBytes) file.reset();
+  return file;
+}
+
 }  // namespace
 
 CDesktopStore::CDesktopStore(FileSystem& files, std::vector<std::string> stores,
@@ -29,7 +36,7 @@ CDesktopStore::CDesktopStore(FileSystem& files, std::vector<std::string> stores,
 std::optional<StoredValues> CDesktopStore::Read() const {
   const std::string key = KeyFile(m_stores);
   if (key.empty()) return {};
-  const std::optional<FileBytes> file = ReadWholeFile(key);
+  const std::optional<FileBytes> file = ReadKey(key);
   if (!file) return StoredValues{{kCalendarNameValue, TextValue(kDefaultCalendarName)}};
   return CRegistryText(file->bytes).Values();
 }
@@ -41,7 +48,7 @@ bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
 
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const std::string key = KeyFile(m_stores);
-    const std::optional<FileBytes> file = ReadWholeFile(key);
+    const std::optional<FileBytes> file = ReadKey(key);
     if (!file) return false;
     CRegistryText text(file->bytes);
     for (const StoreChange& change : changes) {

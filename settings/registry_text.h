@@ -28,6 +28,9 @@
 
 namespace orbisol {
 
+// A file with more bytes is no readable key: short lines take far more room in memory than in the file.
+constexpr std::size_t kMaxKeyBytes = std::size_t{1} << 20;
+
 class CRegistryText {
  public:
   explicit CRegistryText(std::string_view bytes);

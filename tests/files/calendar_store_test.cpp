@@ -121,6 +121,11 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
   EXPECT_EQ(Bytes(kPath + u".bak.1"), odd[0]);
   EXPECT_EQ(Bytes(kPath + u".bak.2"), odd[1]);
 
+  files.Put(kPath, odd[2]);
+  store.Load(u"A", calendar);
+  EXPECT_EQ(Save(u"new"), WriteResult::kWritten);
+  EXPECT_FALSE(files.Exists(kPath + u".bak.3")) << "those bytes are backed up already";
+
   files.Put(kPath, odd[3]);
   store.Load(u"A", calendar);
   files.beforeLock = [&] { files.Put(kPath, BytesWith(u"theirs")); };

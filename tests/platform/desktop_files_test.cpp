@@ -11,6 +11,7 @@
 #include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "platform/trash.h"
+#include "settings/registry_text.h"
 #include "tests/platform/test_folders.h"
 
 namespace orbisol {
@@ -200,6 +201,12 @@ TEST_F(DesktopFilesTest, TheFirstStoreThatExistsIsTheWholeKey) {
   EXPECT_EQ(FileCount(FolderOf(own)), 1u) << "no lock is left there";
   EXPECT_EQ(BytesOf(own), KeyText("\"Grid\"=dword:00000003\n; of the machine\n"));
   EXPECT_EQ(BytesOf(folders.stores[1]), KeyText("; of the machine\n"));
+
+  const std::string endless = KeyText("\"Grid\"=dword:1\n" + std::string(kMaxKeyBytes, '\n'));
+  PutFile(own, endless);
+  EXPECT_EQ(store.Read()->count("Grid"), 0u) << "a key that cannot be read";
+  EXPECT_FALSE(store.Write({{"Grid", DwordValue(2)}}));
+  EXPECT_EQ(BytesOf(own), endless);
 }
 
 TEST_F(DesktopFilesTest, BytesOfAKeyThatCannotBeWrittenAgainAreKeptBeside) {

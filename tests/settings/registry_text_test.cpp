@@ -72,6 +72,10 @@ TEST(RegistryTextTest, WhatAPersonMayWriteIsReadWithPatience) {
   for (const auto& row : kNumbers)
     EXPECT_EQ(DwordOf(ValuesOf("\"A\"="s + row.value), "A"), row.number) << row.value;
 
+  CRegistryText twice("[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n\"A\"=dword:1\n\"a\"=dword:2\n");
+  EXPECT_TRUE(twice.Set("A", DwordValue(3)));
+  EXPECT_EQ(DwordOf(twice.Values(), "a"), 3u) << "the line that is read is the one that is set";
+
   // A value whose end is lost takes no other line along.
   const StoredValues values = ValuesOf("\"A\"=hex:01,02,\\\n\"B\"=dword:00000003\n\"C\"=hex:04,\\");
   EXPECT_EQ(BinaryOf(values, "A"), (std::vector<std::uint8_t>{1, 2}));

@@ -64,6 +64,9 @@ TEST_F(SettingsTest, WhatIsMissingOrMalformedTakesItsDefault) {
     EXPECT_TRUE(Read().keyFound);
     EXPECT_EQ(Read().display, expected);
   }
+  store.Write({{"WindowLayout", BinaryValue(LayoutToBytes({.rect = {50, 50, 50, 50}}))}});
+  EXPECT_EQ(Read().display, expected) << "no window has no room";
+  store.written.clear();
   store.text = Known("wrong_types.reg");
   EXPECT_EQ(Read().display, expected);
   EXPECT_TRUE(store.written.empty()) << "a name that can be read is no reason to migrate";
@@ -91,6 +94,7 @@ TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
   files.Put(u"/user/fr_public.xml", "");  // a copy that an older release made is no calendar of the user's
   EXPECT_EQ(first({u"sv", u"SE"}), u"(none)");
   PutShipped(u"France");
+  EXPECT_EQ(first({u"sv", u"SE"}), u"France") << "where nothing suits better";
   PutShipped(u"de_public");
   EXPECT_EQ(first({u"fr", u"FR"}), u"France");
   EXPECT_EQ(first({u"de", u"AT"}), u"de_public") << "the language, where the country has no calendar";
@@ -216,17 +220,19 @@ TEST_F(SettingsTest, AMigrationKeepsWhatAnExistingFileHolds) {
   CalendarFile own = CalendarWith(u"Anniversaire");
   own.look.colors[kHolidayText] = 0x123456;
   own.look.backgroundImagePath.Set(u"/mine.png");
-  own.rules = RulesWith(19180214);
+  own.rules = RulesWith(19180214, {.proleptic = true, .rows = {{17000101, false}}});
   PutCalendar(kOwnPath, own);
   PutShipped(u"France");
-  store.text = Known("legacy.reg");  // an old export dropped in
+  std::string old = Known("legacy.reg");  // an old export dropped in
+  old.replace(old.find("ProlepticJulian\"=dword:1"), 24, "ProlepticJulian\"=dword:0");
+  store.text = old;
   const CalendarFile read = Session(Read());
   EXPECT_EQ(read.content, own.content);
   EXPECT_EQ(read.look.fontName.View(), u"Georgia");
   own.look.colors[kHeaderTextColor] = 0x010203;
   EXPECT_EQ(read.look.colors, own.look.colors) << "those chosen in this calendar, and no old defaults";
   EXPECT_EQ(read.look.backgroundImagePath.View(), u"/mine.png");
-  EXPECT_EQ(read.rules.startGregorian, 19180214);
+  EXPECT_EQ(read.rules, own.rules);
   EXPECT_EQ(ReadCalendar(files.files[kOwnPath].bytes), read);
 }
 
