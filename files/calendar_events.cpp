@@ -14,8 +14,8 @@ std::u16string_view Raw(std::u16string_view record, std::u16string_view tag) {
 // No number holds an entity, so these need no unescaping.
 int Number(std::u16string_view record, std::u16string_view tag) { return ParseDecimal(Raw(record, tag)); }
 
-// A bound given as a year; 0 sets none. On purpose: before the era the sum names a date of the year that
-// follows, as it did when such rules were written.
+// Returns the bound that a year gives; 0 gives none. On purpose: before the era the sum names a date of the
+// year that follows, as it did when such rules were written.
 PackedDate BoundOfYear(int year, int monthDay, PackedDate ifNone) {
   return year == 0 ? ifNone : Saturate(std::int64_t{year} * 10000 + monthDay);
 }

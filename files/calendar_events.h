@@ -8,12 +8,13 @@
 
 namespace orbisol {
 
-// Rules and periods of a whole file's text, in its order. Periods are judged by the rules in force, so the
-// calendar's own must be put in force first. A record that is not accepted is dropped; an empty `event` or
-// `period` ends its list. Rules of older releases, valid from year to year (`yFrom`, `yTo`), are read too.
+// Returns the rules and periods of a whole file's text, in its order. Periods are judged by the rules in
+// force, so the calendar's own must be put in force first. A record that is not accepted is dropped; an empty
+// `event` or `period` ends its list. Rules of older releases, valid from year to year (`yFrom`, `yTo`), are
+// read too.
 CalendarContent ReadCalendarEvents(std::u16string_view text);
 
-// Whether a rule's text has the form of older releases.
+// Returns whether a rule's text has the form of older releases.
 bool HasYearBounds(std::u16string_view event);
 
 // Appends the lines between <CalendarEvents> and its end. An empty list leaves no trace.

@@ -50,7 +50,7 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// The text behind the line in which a file calls itself XML.
+// Returns the text behind the line in which a file calls itself XML.
 std::u16string_view WithoutHeader(std::u16string_view text) {
   text = Trimmed(text);
   if (text.starts_with(u"<?xml "))

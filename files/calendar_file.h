@@ -1,4 +1,4 @@
-// A calendar as its file holds it, and the file's bytes.
+// Reads a calendar from the bytes of its file and writes it to them.
 //
 //   CalendarFile calendar = ReadCalendar(bytes);  // touches nothing that is in force
 //   calendar.content.dayEvents.push_back(rule);
@@ -23,7 +23,7 @@ struct CalendarFile {
   CalendarLook look;
   CalendarRules rules;
   CalendarContent content;
-  std::u16string info;  // what a public calendar says about itself; empty in most files
+  std::u16string info;  // description of a public calendar; empty in most files
 
   bool operator==(const CalendarFile&) const = default;
 };
@@ -38,9 +38,9 @@ CalendarFile ReadCalendar(std::string_view bytes);
 
 std::string WriteCalendar(const CalendarFile& calendar, CalendarForm form);
 
-// Whether a file holds anything that would be gone after it was read and written: a record that is not
-// accepted or stands behind an empty one, an element no one knows, text outside the elements, a value cut or
-// replaced. Order, line ends and the dates of older releases are no loss.
+// Returns whether a file holds anything that would be gone after it was read and written: a record that is
+// not accepted or stands behind an empty one, an element no one knows, text outside the elements, a value cut
+// or replaced. Order, line ends and the dates of older releases are no loss.
 bool WouldLoseData(std::string_view bytes, CalendarForm form);
 
 }  // namespace orbisol

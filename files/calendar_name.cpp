@@ -39,7 +39,7 @@ bool AreSameWithoutCase(std::u16string_view a, std::u16string_view b) {
 
 bool IsControl(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }
 
-// "Famille" of "Famille (3)".
+// Returns "Famille" for "Famille (3)".
 std::u16string_view WithoutNumber(std::u16string_view name) {
   if (!name.ends_with(u')')) return name;
   const std::size_t open = name.rfind(u" (");

@@ -28,7 +28,7 @@ Color HexNumber(std::u16string_view text) {
 }
 
 // Cuts the next piece off a list whose pieces end in ";", the last one possibly without. Empty pieces are
-// skipped. False when there is none left.
+// skipped. Returns false when there is none left.
 bool NextPiece(std::u16string_view& list, std::u16string_view& piece) {
   list.remove_prefix(std::min(list.find_first_not_of(u';'), list.size()));
   piece = list.substr(0, list.find(u';'));

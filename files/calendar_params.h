@@ -16,13 +16,13 @@ namespace orbisol {
 // reform.
 void ReadCalendarParams(std::u16string_view block, CalendarLook& look, CalendarRules& rules);
 
-// Fills the rows of a table of civil years, "+17520101;15000325;": most recent first, "+" in front where the
+// Fills the rows of a table of civil years, "+15640101;15000325;": most recent first, "+" in front where the
 // civil year runs one ahead. The rows are cleared first; four are kept, none from the first date of 0 on, and
 // none from the first on that FirstBadRow (core/calendar_config.h) refuses: the first Gregorian day must be
 // set before.
 void ReadCivilYears(std::u16string_view table, CalendarConfig& config);
 
-// The nine lines of the block, each behind a tab.
+// Returns the nine lines of the block, each behind a tab.
 std::u16string CalendarParamsText(const CalendarLook& look, const CalendarRules& rules);
 
 }  // namespace orbisol

@@ -63,7 +63,7 @@ WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile
                                     std::u16string_view model) {
   const std::u16string path = PathOf(name);
   const std::optional<FileBytes> disk = m_files.Read(path);
-  if (!disk && m_files.Exists(path)) return WriteResult::kFailed;  // nobody knows what would be lost
+  if (!disk && m_files.Exists(path)) return WriteResult::kFailed;  // its bytes cannot be backed up
   const bool isOthers = disk && disk->stamp != m_stamps[path];
   if (isOthers && !overwrites) return WriteResult::kChanged;
 

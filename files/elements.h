@@ -19,20 +19,20 @@ constexpr std::ptrdiff_t kNoElement = -1;  // the position after a missing or em
 
 enum class TagKind { kOpening, kClosing };
 
-// Where "<tag>" or "</tag>" begins at or after `from`; npos when it does not.
+// Returns where "<tag>" or "</tag>" begins at or after `from`; npos when it does not.
 std::size_t FindTag(std::u16string_view source, std::u16string_view tag, TagKind kind, std::size_t from);
 
-// What stands between the first "<tag>" at or after `position` and the next "</tag>", as it stands there. The
-// position moves behind the element. It becomes kNoElement, and the result empty, when there is no such
-// element, when it is not closed, when it is empty, or when the position lies outside the source.
+// Returns the text between the first "<tag>" at or after `position` and the next "</tag>", as it stands
+// there. The position moves behind the element. It becomes kNoElement, and the result empty, when there is no
+// such element, when it is not closed, when it is empty, or when the position lies outside the source.
 std::u16string_view FindElement(std::u16string_view source, std::u16string_view tag,
                                 std::ptrdiff_t& position);
 
-// The same of a value: unescaped, and `ifMissing` where there is none.
+// Returns the same as a value: unescaped, and `ifMissing` where there is none.
 std::u16string GetElement(std::u16string_view source, std::u16string_view tag, std::ptrdiff_t& position,
                           std::u16string_view ifMissing = {});
 
-// One line with its line end. The value is escaped, numbers and texts alike.
+// Returns one line with its line end. The value is escaped, numbers and texts alike.
 std::u16string MakeElement(std::u16string_view value, std::u16string_view tag);
 
 std::u16string Escape(std::u16string_view text);

@@ -22,8 +22,8 @@ constexpr char kIso8601[] = "Iso8601";
 constexpr Color kColorMask = 0xFFFFFF;
 constexpr std::size_t kMaxTableUnits = 4096;  // far more than four dates
 
-// The table in the form of calendar files. Older releases may have written the plus sign of "J.+1" behind the
-// date.
+// Returns the table in the form of calendar files. Older releases may have written the plus sign of "J.+1"
+// behind the date.
 std::u16string TableOfFiles(std::u16string_view table) {
   std::u16string text;
   for (std::u16string_view piece : Split(table, u';')) {
@@ -68,7 +68,6 @@ void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, Ca
   if (years && rules.firstDayOfYear[0].from == 0) ReadCivilYears(TableOfFiles(*years), rules);
 }
 
-// What is deleted.
 std::vector<StoreChange> Deletions() {
   std::vector<StoreChange> changes;
   for (const char* name : {kFontName, kBoldFont}) changes.push_back({name, {}});
@@ -98,7 +97,8 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
   const CalendarFile calendar{look, stored.rules, stored.content, u""};
   if (calendars.Save(name, calendar, IfChanged::kRefuse).result != WriteResult::kWritten) return;
 
-  // Before the key says that all is done, so that a start interrupted here is not the last that tries.
+  // The key says only afterwards that all is done, so that a start interrupted here is not the last that
+  // tries.
   for (const std::u16string& other : calendars.Names())
     if (IsFirstStartCopy(calendars, other)) calendars.Delete(other);
 

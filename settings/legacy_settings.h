@@ -1,4 +1,5 @@
-// Settings of older releases, which kept everything under the key: taken over once into the calendar's file.
+// Takes over the settings of older releases, which kept everything under the key, into the calendar's file.
+// This happens once.
 #pragma once
 
 #include "settings/settings_persistence.h"
@@ -9,13 +10,13 @@ namespace orbisol {
 // holds the calendar "Calendar" as it was loaded, or the content of the first start where it has no file.
 //
 // The old values go into `stored` and the calendar is written. Only when that succeeded, the copies of public
-// calendars that older releases made ("fr_public" and the like) go to the trash, and the old values are
+// calendars that older releases made (IsFirstStartCopy) go to the trash, and the old values are
 // deleted in one step with the writing of the new ones. Whatever fails or is interrupted, the next start does
 // the rest.
 //
-// Of a calendar that has no file yet, an old value that is absent takes the default of older releases.
+// In a calendar that has no file yet, an old value that is absent takes the default of older releases.
 //
-// On purpose: of a calendar that has a file, an old value replaces only what is still as in a fresh calendar,
+// On purpose: in a calendar that has a file, an old value replaces only what is still as in a fresh calendar,
 // and one that is absent replaces nothing. The file may hold a reform and colors that the user chose since,
 // while the key may have lost no more than its calendar name, or could not be written for a while.
 //

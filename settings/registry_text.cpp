@@ -28,7 +28,7 @@ std::string_view Trimmed(std::string_view text) {
   return text;
 }
 
-// One to `maxDigits` hexadecimal digits and nothing else; at most eight.
+// Returns the number that one to `maxDigits` hexadecimal digits and nothing else make; at most eight.
 std::optional<std::uint32_t> HexNumber(std::string_view text, std::size_t maxDigits) {
   if (text.empty() || text.size() > maxDigits) return {};
   std::uint32_t number = 0;
@@ -71,7 +71,7 @@ std::vector<std::string_view> Lines(std::string_view text) {
   return lines;
 }
 
-// The text between quotes at the beginning of `rest`, its escapes undone; `rest` moves behind it.
+// Takes the text between quotes at the beginning of `rest`, its escapes undone; `rest` moves behind it.
 std::optional<std::string> TakeQuoted(std::string_view& rest) {
   std::string text;
   for (std::size_t i = 1; i < rest.size(); ++i) {
@@ -94,7 +94,7 @@ std::string Quoted(std::string_view text) {
   return quoted += '"';
 }
 
-// "32,00,0a", with blanks anywhere between and a comma or not at the end.
+// Reads "32,00,0a", with blanks anywhere between and a comma or not at the end.
 std::optional<std::string> HexBytes(std::string_view text) {
   std::string bytes;
   text = Trimmed(text);
@@ -114,7 +114,7 @@ bool TakeWord(std::string_view& rest, std::string_view word) {
   return true;
 }
 
-// What stands behind the equals sign, its lines joined.
+// Reads the part of a line behind the equals sign, its further lines joined.
 std::optional<StoredValue> ParseValue(std::string_view text) {
   if (text.starts_with('"')) {
     const std::optional<std::string> quoted = TakeQuoted(text);
@@ -145,8 +145,8 @@ std::optional<StoredValue> ParseValue(std::string_view text) {
 
 bool GoesOn(std::string_view line) { return Trimmed(line).ends_with('\\'); }
 
-// Whether a line can be the next one of a value in hexadecimal. A value whose end is lost takes nothing else
-// along.
+// Returns whether a line can be the next one of a value in hexadecimal. A value whose end is lost takes
+// nothing else along.
 bool IsHexLine(std::string_view line) {
   return std::all_of(line.begin(), line.end(),
                      [](char c) { return HexDigit(c) >= 0 || c == ',' || c == '\\' || IsBlank(c); });
@@ -156,7 +156,7 @@ bool HasControl(std::u16string_view text) {
   return std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x20 || unit == 0x7F; });
 }
 
-// The text of a value that quotes can hold; else nothing, and its bytes are written.
+// Returns the text of a value that quotes can hold; else nothing, and its bytes are written.
 std::optional<std::string> QuotableText(const StoredValue& value) {
   if (value.type != kRegSz || value.bytes.size() < 2 || value.bytes.size() % 2 != 0) return {};
   std::u16string text;
@@ -246,7 +246,7 @@ StoredValues CRegistryText::Values() const {
     if (item.value)
       values.insert_or_assign(item.name, *item.value);
     else
-      values.erase(item.name);  // as the last word on it
+      values.erase(item.name);  // the later line counts, although it holds no value
   }
   return values;
 }

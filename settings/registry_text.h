@@ -35,16 +35,17 @@ class CRegistryText {
  public:
   explicit CRegistryText(std::string_view bytes);
 
-  // Whether every character was well-formed. Otherwise Bytes() has U+FFFD where the file had something else:
-  // keep a copy of it before they take its place.
+  // Returns whether every character was well-formed. Otherwise Bytes() has U+FFFD where the file had
+  // something else: back it up before they take its place.
   bool IsLossless() const { return m_isLossless; }
 
-  // The values of our key; of two lines with one name the later counts. A line whose value is malformed, such
-  // as dword:123456789, is no value.
+  // Returns the values of our key; of two lines with one name the later counts. A line whose value is
+  // malformed, such as dword:123456789, is no value.
   StoredValues Values() const;
 
-  // The value keeps its place among the lines; a new one stands behind the others. False, and nothing
-  // changed, for a name that no line can hold: an empty one or one with a control character.
+  // Sets a value, which keeps its place among the lines; a new one stands behind the others. Of two lines
+  // with one name the later is set. Returns false, and changes nothing, for a name that no line can hold: an
+  // empty one or one with a control character.
   bool Set(std::string_view name, const StoredValue& value);
 
   // Deletes every line of that name from our key.

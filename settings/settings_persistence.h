@@ -1,4 +1,4 @@
-// Settings read at start and written when a change is confirmed.
+// Reads the settings at start, and writes them when a change is confirmed.
 //
 //   StoredSettings stored = ReadSettings(store, calendars, publicCalendars, locale, screen);
 //   Display() = stored.display;  // reading alone touches nothing that is in force
@@ -33,11 +33,11 @@ struct StoredSettings {
   LoadResult file = LoadResult::kMissing;  // of the calendar, before a migration wrote it
 };
 
-// A value that is missing, of another type or malformed takes its default, and so does a rectangle without
-// width or height. Windows are moved onto `screen`, the smallest rectangle around all screens. A calendar
-// without a file is empty; where the user has none at all it has the content of the first start. Where the
-// key holds no calendar name that can be read, older settings are taken over (legacy_settings.h), which
-// writes; nothing else here does.
+// Returns the stored settings. A value that is missing, of another type or malformed takes its default, and
+// so does a rectangle without width or height. Windows are moved onto `screen`, the smallest rectangle around
+// all screens. A calendar without a file is empty; where the user has none at all it has the content of the
+// first start. Where the key holds no calendar name that can be read, older settings are taken over
+// (legacy_settings.h), which writes; nothing else here does.
 StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
                             const CPublicCalendars& publicCalendars, const UserLocale& locale,
                             const Rect& screen);
@@ -67,7 +67,7 @@ bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const Clos
 bool SavePrintWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,
                            const Rect& screen);
 
-// The values of the key that a save writes, in the order in which it writes them.
+// Returns the values of the key that a save writes, in the order in which it writes them.
 std::vector<StoreChange> KeyChanges(const DisplaySettings& display);
 
 }  // namespace orbisol

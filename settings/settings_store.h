@@ -36,17 +36,17 @@ StoredValue TextValue(std::u16string_view text);
 StoredValue DwordValue(std::uint32_t number);
 StoredValue BinaryValue(std::span<const std::uint8_t> bytes);
 
-// Upper and lower case of the letters A to Z count as one in names.
+// Orders names, in which upper and lower case of the letters A to Z count as one.
 struct NameLess {
   using is_transparent = void;
   bool operator()(std::string_view a, std::string_view b) const;
 };
 using StoredValues = std::map<std::string, StoredValue, NameLess>;  // names in UTF-8
 
-// The text of UTF-16LE; half a unit at the end is left out.
+// Returns the text of UTF-16LE bytes; half a unit at the end is left out.
 std::u16string FromUtf16Le(std::string_view bytes);
 
-// Nothing when there is no such value or it has another type.
+// Return the value of that name; nothing when there is none or it has another type.
 //
 // A number needs four bytes. A text of either kind needs an even number of bytes and a zero at its end, or no
 // byte at all, which is the empty text; it has at most `maxUnits` units before its last zero and ends at its
@@ -63,13 +63,13 @@ struct StoreChange {
 struct SettingsStore {
   virtual ~SettingsStore() = default;
 
-  // Nothing when the key does not exist. One that exists and cannot be read holds the name of the default
-  // calendar alone: the program goes on with that calendar and takes nothing for an older release's.
+  // Returns nothing when the key does not exist. One that exists and cannot be read holds the name of the
+  // default calendar alone: the program goes on with that calendar and takes nothing for an older release's.
   virtual std::optional<StoredValues> Read() const = 0;
 
-  // Makes all changes, in their order, or none. False when that is not sure: there is no key, it cannot be
-  // read, written or synced, or another process keeps it locked. The key itself is never made here; the
-  // installation brings it. Without changes it only tells whether the key can be written.
+  // Makes all changes, in their order, or none. Returns false when that is not sure: there is no key, it
+  // cannot be read, written or synced, or another process keeps it locked. The key itself is never made here;
+  // the installation brings it. Without changes it only tells whether the key can be written.
   virtual bool Write(const std::vector<StoreChange>& changes) = 0;
 };
 

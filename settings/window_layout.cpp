@@ -8,7 +8,7 @@
 namespace orbisol {
 namespace {
 
-// One direction: left and right, or top and bottom. Any ints fit its sums.
+// The extent in one direction, left to right or top to bottom, in a type that holds the sums of any ints.
 struct Extent {
   std::int64_t low;
   std::int64_t high;
