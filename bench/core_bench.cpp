@@ -2,11 +2,12 @@
 // of QDate and QCalendar can be switched at it by hand, ICU's GregorianCalendar has a change date.
 //
 // Days are drawn from the whole range shown and come shuffled, so that no order helps any of the programs.
+#include <QCalendar>
+#include <QDate>
+
 #include <benchmark/benchmark.h>
 #include <unicode/gregocal.h>
 
-#include <QCalendar>
-#include <QDate>
 #include <algorithm>
 #include <chrono>
 #include <cmath>

@@ -1,9 +1,9 @@
 // Benches of what is painted, all in one program: each file registers its own, and a row here calls it.
 #include "bench/ui_bench.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
+
+#include <benchmark/benchmark.h>
 
 #include <fstream>
 #include <iterator>

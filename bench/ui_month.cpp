@@ -1,15 +1,14 @@
 // The month view beside the calendar of the toolkit: whole repaints, the next month, moving the selection.
-#include "bench/ui_bench.h"
-
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QImage>
 #include <QKeyEvent>
 
+#include <benchmark/benchmark.h>
+
 #include <string>
 
+#include "bench/ui_bench.h"
 #include "content/selected_date.h"
 #include "settings/display_settings.h"
 #include "ui/month/month_window.h"

@@ -1,9 +1,9 @@
 #include "resources/strings.h"
 
-#include "resources/command_ids.h"
-
 #include <algorithm>
 #include <iterator>
+
+#include "resources/command_ids.h"
 
 namespace orbisol {
 namespace {

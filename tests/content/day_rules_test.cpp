@@ -1,11 +1,12 @@
 // Which rules and periods a calendar takes, and on which days rules fall.
 
+#include "content/day_rules.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
 #include <vector>
 
-#include "content/day_rules.h"
 #include "core/easter.h"
 #include "tests/content/rule_builder.h"
 #include "tests/support/rules.h"

@@ -1,9 +1,9 @@
 #include "platform/today_timer.h"
 
-#include <gtest/gtest.h>
-
 #include <QDateTime>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace orbisol {
 namespace {

@@ -3,6 +3,8 @@
 // calendars of whoever runs them. A test that crashes leaves its folder behind, to be looked into.
 // Compiled once without Qt and once with a QApplication.
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -10,8 +12,6 @@
 #include <random>
 #include <string>
 #include <system_error>
-
-#include <gtest/gtest.h>
 
 #ifdef QT_WIDGETS_LIB
 #include <QApplication>

@@ -3,12 +3,12 @@
 #include <QFile>
 #include <QImageReader>
 
-#include <algorithm>
-#include <array>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
 
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"

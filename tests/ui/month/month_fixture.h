@@ -1,11 +1,11 @@
 // What the tests of the month's windows begin with.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>

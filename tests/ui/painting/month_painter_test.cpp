@@ -1,11 +1,11 @@
 #include "ui/painting/month_painter.h"
 
-#include <gtest/gtest.h>
-
 #include <QImage>
 #include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <fstream>
 #include <set>

@@ -1,10 +1,10 @@
 // A main frame of its own for each test, on a store and a folder of calendars in memory.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 #include <memory>
 

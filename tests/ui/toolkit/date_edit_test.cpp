@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include "ui/toolkit/date_edit.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -6,11 +6,12 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <gtest/gtest.h>
+
 #include "core/calendar_config.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
 #include "ui/toolkit/date_drop_down.h"
-#include "ui/toolkit/date_edit.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/typed_date.h"
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
@@ -12,6 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "resources/strings.h"

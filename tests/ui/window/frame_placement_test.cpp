@@ -2,13 +2,13 @@
 
 #include "ui/window/frame_placement.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QScreen>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
+
+#include <gtest/gtest.h>
 
 #include "ui/toolkit/geometry.h"
 

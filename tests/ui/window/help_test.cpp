@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include "ui/window/help.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -8,11 +8,12 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <gtest/gtest.h>
+
 #include <set>
 
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/window/help.h"
 #include "ui/window/help_text.h"
 
 namespace orbisol {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -12,14 +10,16 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <gtest/gtest.h>
+
 #include <set>
 
 #include "resources/menus.h"
 #include "resources/strings.h"
-#include "ui/window/command_table.h"
 #include "ui/toolkit/french_toolkit.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/space_key.h"
+#include "ui/window/command_table.h"
 #include "ui/window/tool_icons.h"
 
 namespace orbisol {
