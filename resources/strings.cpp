@@ -158,6 +158,12 @@ constexpr Entry kStrings[] = {
      u"  --help     affiche cette aide\n"
      u"  --version  affiche la version du programme"},
     {kTextUnknownWord, u"orbisol : « %s » n'est pas une option (voir orbisol --help)"},
+    {kTextKeptPlaceholders, u"Retenez une date avec le signet|jours"},
+    {kTextReform, u"Dates juliennes, jusqu'au %s|Le %s est suivi du %s|Dates juliennes"},
+    {kTextMonthList, u"Ce mois-ci"},
+    {kTextDaysOfPeriod, u"%s (%d–%d)"},
+    {kTextSpokenLine, u"%s : %s"},
+    {kTextCopy, u"&Copier"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdGoToToday, u"Revenir à la date d'aujourd'hui\nAujourd'hui (Alt+Début)"},

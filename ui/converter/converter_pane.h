@@ -1,12 +1,14 @@
-// The pane right of the month: the selected date in other calendars, the distance to a remembered date, and
-// buttons to notable days.
+// The pane right of the month: the selected date in other calendars, the distance to a remembered date,
+// buttons to notable days and, where there is room below them, a list of what the month brings.
 //
 //   CConverterPane pane(parent);
 //   connect(&pane, &CConverterPane::dateChanged, …);
 //   pane.Refresh();  // the selected date was changed, here or elsewhere
+//
+// In a window too small for it the pane scrolls.
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 #include "core/date.h"
 
@@ -14,9 +16,11 @@ namespace orbisol {
 
 class CJulianGroup;
 class CKeptDateGroup;
+class CMonthList;
 class CRepublicanGroup;
+struct MonthModel;
 
-class CConverterPane : public QWidget {
+class CConverterPane : public QScrollArea {
   Q_OBJECT
 
  public:
@@ -24,6 +28,8 @@ class CConverterPane : public QWidget {
 
   // Shows the selected date in all its forms. A date before the Republican era ends the entry of one.
   void Refresh();
+  // Lists what `month` brings, which was built for the selected date.
+  void ShowMonth(const MonthModel& month);
   // Takes over colors and calendar rules that were changed; the dates themselves wait for Refresh().
   void SettingsChanged();
 
@@ -31,18 +37,30 @@ class CConverterPane : public QWidget {
   QString JulianText() const;
   QString RepublicanText() const;  // two lines; empty before the era
 
+  // Returns the size at which all groups are seen whole, without the list of the month.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return {0, 0}; }
+
  signals:
   // The selected date was changed by a control of the pane.
   void dateChanged();
   // A control has done its work or disappears, and the keyboard belongs to the month again.
   void focusGivenUp();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void GoTo(PackedDate date);
+  void FitMargins();
+  void FitList();
 
   CJulianGroup* m_julian;
   CRepublicanGroup* m_republican;
   CKeptDateGroup* m_kept;
+  CMonthList* m_month;
 };
 
 }  // namespace orbisol

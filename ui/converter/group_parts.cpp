@@ -1,6 +1,7 @@
 #include "ui/converter/group_parts.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,11 +10,12 @@
 
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/selectable_label.h"
 
 namespace orbisol {
 
 void SetGroupLayout(QWidget* group, QLayout* layout) {
-  layout->setContentsMargins(8, 4, 8, 6);
+  layout->setContentsMargins(8, 3, 8, 5);
   layout->setSpacing(3);
   group->setLayout(layout);
 }
@@ -39,6 +41,14 @@ void NameField(QWidget* field, int piece) {
   const QString name = TablePiece(kTextConverterNames, piece);
   field->setAccessibleName(name);
   if (qobject_cast<QComboBox*>(field) != nullptr) field->setAccessibleDescription(name);
+}
+
+QLabel* MakeDateLabel() {
+  auto* const label = new CSelectableLabel;
+  QFont font;  // of the weight alone, so that all else follows the pane
+  font.setWeight(QFont::DemiBold);
+  label->setFont(font);
+  return label;
 }
 
 QPushButton* MakeButton(int textId) {

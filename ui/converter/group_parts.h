@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
@@ -22,6 +23,10 @@ int FieldWidth(const QLineEdit& field, const QString& text);
 // Names a field for screen readers with piece `piece` of kTextConverterNames. A list takes it as its
 // description too, because readers replace the name of a list with the item chosen in it.
 void NameField(QWidget* field, int piece);
+
+// Returns a new label for a date, semi-bold to be told from titles and remarks, which the mouse and Tab
+// reach.
+QLabel* MakeDateLabel();
 
 // Returns a new button with the text `textId` that Enter presses as well as Space.
 QPushButton* MakeButton(int textId);

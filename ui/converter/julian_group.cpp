@@ -8,7 +8,6 @@
 #include "content/selected_date.h"
 #include "core/date_text.h"
 #include "resources/strings.h"
-#include "ui/converter/converter_pane.h"
 #include "ui/converter/group_parts.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/selectable_label.h"
@@ -30,14 +29,14 @@ int ProlepticWidth(const QFontMetrics& metrics) {
 
 CJulianGroup::CJulianGroup(QWidget* parent)
     : CCalendarGroup(TableText(kTextJulianGroup), parent),
-      m_julian(new CSelectableLabel),
+      m_julian(MakeDateLabel()),
       m_dayNumber(new CSelectableLabel),
       m_proleptic(new CSelectableLabel) {
-  m_dayNumber->setFocusPolicy(Qt::StrongFocus);  // no command copies it: the keyboard must get there
   KeepRoomWhenHidden(m_proleptic);
   auto* const column = new QVBoxLayout;
   for (QLabel* const line : {m_julian, m_dayNumber, m_proleptic}) column->addWidget(line);
   SetGroupLayout(this, column);
+  column->setSpacing(0);  // lines as far apart as those of one text
   FitToFont();
 }
 

@@ -1,9 +1,7 @@
 #include "ui/converter/kept_date_group.h"
 
 #include <QEvent>
-#include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QToolButton>
 
 #include "content/selected_date.h"
@@ -14,6 +12,7 @@
 #include "ui/converter/group_parts.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/read_only_field.h"
 #include "ui/window/tool_icons.h"
 
 namespace orbisol {
@@ -21,14 +20,14 @@ namespace orbisol {
 CKeptDateGroup::CKeptDateGroup(QWidget* parent)
     : CCalendarGroup(TableText(kTextDifferenceGroup), parent),
       m_keep(new QToolButton),
-      m_kept(new QLineEdit),
-      m_difference(new QLineEdit) {
+      m_kept(new CReadOnlyField),
+      m_difference(new CReadOnlyField) {
   m_keep->setCheckable(true);
-  m_kept->setReadOnly(true);
   m_kept->setAlignment(Qt::AlignCenter);
+  m_kept->setPlaceholderText(TablePiece(kTextKeptPlaceholders, 0));
   NameField(m_kept, kNameKept);
-  m_difference->setReadOnly(true);
   m_difference->setAlignment(Qt::AlignRight);
+  m_difference->setPlaceholderText(TablePiece(kTextKeptPlaceholders, 1));
   NameField(m_difference, kNameDifference);
   auto* const row = new QHBoxLayout;
   row->addWidget(m_keep);
@@ -38,7 +37,9 @@ CKeptDateGroup::CKeptDateGroup(QWidget* parent)
   FitToFont();
   ColorsChanged();
   connect(m_keep, &QToolButton::clicked, this, &CKeptDateGroup::Keep);
-  m_kept->installEventFilter(this);
+  connect(m_kept, &CReadOnlyField::visited, this, [this] {
+    if (m_keptDate != 0) emit dateChosen(m_keptDate);
+  });
 }
 
 void CKeptDateGroup::changeEvent(QEvent* event) {
@@ -47,6 +48,7 @@ void CKeptDateGroup::changeEvent(QEvent* event) {
 }
 
 void CKeptDateGroup::FitToFont() {
+  m_kept->setMinimumWidth(FieldWidth(*m_kept, m_kept->placeholderText()));
   m_difference->setFixedWidth(FieldWidth(*m_difference, QStringLiteral("-0 000 000")));
 }
 
@@ -66,7 +68,7 @@ void CKeptDateGroup::ColorsChanged() {
   m_keep->setAccessibleDescription(action);  // else readers are given the tip with its markup
 }
 
-// The date is written anew each time: the calendar rules may have changed how it is called.
+// Writes the date anew each time, because the calendar rules may have changed how it is called.
 void CKeptDateGroup::Refresh() {
   if (m_keptDate == 0) {
     m_kept->clear();
@@ -74,21 +76,9 @@ void CKeptDateGroup::Refresh() {
     return;
   }
   const Date kept(m_keptDate);
-  m_kept->setText(
+  m_kept->ShowText(
       ToQString(DayMonthYear(Selected().dateOrder, kept.day, MonthName(kept.month), CivilYearOf(kept))));
-  m_difference->setText(GroupedNumber(Selected().DayNumber() - kept.DayNumber()));
-}
-
-bool CKeptDateGroup::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == m_kept && event->type() == QEvent::FocusIn && m_keptDate != 0) {
-    // Only where the user went there: a menu that closes, an editor or a window that gives the focus back
-    // moves nothing.
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-        reason == Qt::ShortcutFocusReason)
-      emit dateChosen(m_keptDate);
-  }
-  return CCalendarGroup::eventFilter(watched, event);
+  m_difference->ShowText(GroupedNumber(Selected().DayNumber() - kept.DayNumber()));
 }
 
 }  // namespace orbisol

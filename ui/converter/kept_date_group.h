@@ -8,10 +8,11 @@
 #include "core/date.h"
 #include "ui/toolkit/calendar_group.h"
 
-class QLineEdit;
 class QToolButton;
 
 namespace orbisol {
+
+class CReadOnlyField;
 
 class CKeptDateGroup : public CCalendarGroup {
   Q_OBJECT
@@ -30,7 +31,6 @@ class CKeptDateGroup : public CCalendarGroup {
 
  protected:
   void changeEvent(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Keep(bool isKept);
@@ -38,8 +38,8 @@ class CKeptDateGroup : public CCalendarGroup {
 
   PackedDate m_keptDate = 0;  // 0 is none
   QToolButton* m_keep;
-  QLineEdit* m_kept;
-  QLineEdit* m_difference;
+  CReadOnlyField* m_kept;
+  CReadOnlyField* m_difference;
 };
 
 }  // namespace orbisol

@@ -38,6 +38,7 @@ CNotableDays::CNotableDays(QWidget* parent) : QWidget(parent) {
   row->setSpacing(6);
   row->addWidget(showGroup);
   row->addWidget(firstGroup, 1);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 }  // namespace orbisol

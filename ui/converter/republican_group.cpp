@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "content/selected_date.h"
@@ -11,17 +12,15 @@
 #include "ui/converter/group_parts.h"
 #include "ui/converter/republican_entry.h"
 #include "ui/toolkit/plain_text.h"
-#include "ui/toolkit/selectable_label.h"
 
 namespace orbisol {
 
 CRepublicanGroup::CRepublicanGroup(QWidget* parent)
     : CCalendarGroup(TableText(kTextRepublicanGroup), parent),
-      m_republican(new CSelectableLabel),
+      m_republican(MakeDateLabel()),
       m_isEntry(new QCheckBox(TableText(kTextRepublicanEntry))),
       m_entry(new CRepublicanEntry) {
   KeepRoomWhenHidden(m_isEntry);
-  KeepRoomWhenHidden(m_entry);
   m_entry->hide();
   auto* const column = new QVBoxLayout;
   column->addWidget(m_republican);
@@ -33,7 +32,7 @@ CRepublicanGroup::CRepublicanGroup(QWidget* parent)
   connect(m_entry, &CRepublicanEntry::dateEntered, this, &CRepublicanGroup::dateEntered);
 }
 
-QString CRepublicanGroup::RepublicanText() const { return m_republican->text(); }
+QString CRepublicanGroup::RepublicanText() const { return m_text; }
 
 void CRepublicanGroup::changeEvent(QEvent* event) {
   CCalendarGroup::changeEvent(event);
@@ -42,18 +41,19 @@ void CRepublicanGroup::changeEvent(QEvent* event) {
 
 void CRepublicanGroup::FitToFont() {
   m_republican->setMinimumHeight(2 * m_republican->fontMetrics().lineSpacing());
+  m_republican->setMinimumWidth(m_entry->minimumSizeHint().width());  // the form has room when it appears
 }
 
 void CRepublicanGroup::Refresh() {
-  const QString republican = ToQString(orbisol::RepublicanText(Selected()));
-  m_republican->setText(republican);
-  if (republican.isEmpty()) {
+  m_text = ToQString(orbisol::RepublicanText(Selected()));
+  m_republican->setText(QString(m_text).replace(QLatin1String("\n "), QLatin1String("\n")));
+  if (m_text.isEmpty()) {
     // A control that is hidden with the focus would hand it on to the next one, which nobody chose.
     QWidget* const focused = QApplication::focusWidget();
     if (focused == m_isEntry || m_entry->isAncestorOf(focused)) emit focusGivenUp();
     m_isEntry->setChecked(false);
   }
-  m_isEntry->setVisible(!republican.isEmpty());
+  m_isEntry->setVisible(!m_text.isEmpty());
   ShowEntry(m_isEntry->isChecked());
 }
 

@@ -25,7 +25,8 @@ class CRepublicanGroup : public CCalendarGroup {
   // date.
   void Refresh();
 
-  // Returns the Republican date in its two lines; empty before the era.
+  // Returns the Republican date in its two lines, the second with the leading space that the label leaves
+  // out; empty before the era.
   QString RepublicanText() const;
 
  signals:
@@ -40,6 +41,7 @@ class CRepublicanGroup : public CCalendarGroup {
   void FitToFont();
   void ShowEntry(bool isShown);
 
+  QString m_text;
   QLabel* m_republican;
   QCheckBox* m_isEntry;
   CRepublicanEntry* m_entry;

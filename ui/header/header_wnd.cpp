@@ -159,8 +159,17 @@ void CHeaderWnd::LayOut() {
 }
 
 QSize CHeaderWnd::minimumSizeHint() const {
+  const QFontMetrics metrics(font());
+  int month = 0;
+  int weekday = 0;
+  for (int i = 1; i <= 12; ++i) month = std::max(month, metrics.horizontalAdvance(ToQString(MonthName(i))));
+  for (int i = 1; i <= 7; ++i)
+    weekday = std::max(weekday, metrics.horizontalAdvance(ToQString(UpperFirst(WeekdayName(i)))));
   const int band = HeaderBandHeight(QFontInfo(font()).pixelSize());
-  return {0, HeaderLayout::LeastHeight(band, QFontMetrics(font()).height())};
+  const QString counts = TableText(kTextWeekAndDayCounts, {StringText(kTextWeek), 53, 366, 366});
+  return {weekday + month + metrics.horizontalAdvance(QLatin1String("  00, ") + kWidestYear) + kBandGap +
+              metrics.horizontalAdvance(counts),
+          HeaderLayout::LeastHeight(band, metrics.height())};
 }
 
 // Names the parts for a screen reader: the arrows by the month that they lead to.

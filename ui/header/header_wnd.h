@@ -47,8 +47,8 @@ class CHeaderWnd : public QWidget {
   QString EraText() const;        // top right; empty from year 1 on
   QString CivilYearText() const;  // top left; empty where civil years begin on 1 January
 
-  // Returns the height below which bands and title, which is never smaller than the text of the dialogs,
-  // would cover one another.
+  // Returns the size below which texts of the bottom band are cut, or bands and title, which is never smaller
+  // than the text of the dialogs, cover one another.
   QSize minimumSizeHint() const override;
 
  signals:

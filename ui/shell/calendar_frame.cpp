@@ -97,6 +97,7 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
   for (const Menu& menu : MainMenu())
     for (const MenuItem& item : menu.items) m_commands->SetEnabled(item.command, IsReady(item.command));
   UpdateTitle();
+  m_dialog->Measure();
   m_dialog->Refresh();
   m_dialog->FocusMonth();
 }

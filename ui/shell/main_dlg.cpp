@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontInfo>
+#include <QScreen>
 
 #include <algorithm>
 
+#include "content/reform_remark.h"
 #include "content/selected_date.h"
 #include "content/tip_text.h"
 #include "resources/strings.h"
@@ -16,9 +19,11 @@
 namespace orbisol {
 namespace {
 
-// As the dialog was designed; no smaller, so that the month is never cut.
-constexpr int kLeastGridWidth = 56 * kDayColumns;
-constexpr int kLeastHeight = 300;
+// Least sizes by the size of the font (its em), at which the month is still read with ease.
+constexpr double kLeastColumnWidth = 4.7;
+constexpr double kLeastHeight = 25;
+
+constexpr int kTitleBar = 36;  // pixels that a window's own title may take from the height of the screen
 
 }  // namespace
 
@@ -36,7 +41,6 @@ CMainDlg::CMainDlg(bool isPaneShown, QWidget* parent)
   m_separator->setVisible(isPaneShown);
   ApplyColors();
   Measure();
-  setFocusProxy(m_month);
 
   connect(m_header, &CHeaderWnd::dateChanged, this, &CMainDlg::Refresh);
   // Each move is noted when it is made; showing it everywhere can wait until the keyboard has been heard.
@@ -68,17 +72,42 @@ void CMainDlg::ApplyColors() {
   m_separator->setPalette(line);
 }
 
+// Returns the size that the dialog can have when its window fills the screen.
+QSize CMainDlg::Room() const {
+  const int bars = isWindow() ? 0 : window()->minimumSizeHint().height() - minimumHeight();
+  return screen()->availableSize() - QSize(0, bars + kTitleBar);
+}
+
 void CMainDlg::Measure() {
+  const QSize room = Room();
+  const int em = QFontInfo(font()).pixelSize();
+  const int around = 2 * (kMargin + kGap);
+  const int texts = m_header->minimumSizeHint().width() + around;
+  const int month = std::max(qRound(kLeastColumnWidth * em) * kDayColumns + around, texts);
+  // Where the two have no room side by side the month gives way to the pane first, then the pane, which
+  // scrolls.
   m_paneWidth = PaneWidthFor(m_pane->sizeHint().width());
-  const int width = kLeastGridWidth + 2 * (kMargin + kGap) + (m_isPaneShown ? m_paneWidth : 0);
-  setMinimumSize(width, std::max(kLeastHeight, m_pane->sizeHint().height()));
+  if (texts + m_paneWidth > room.width()) m_paneWidth = PaneWidthWithin(room.width() - texts);
+
+  int width = month;
+  const int height = std::max(qRound(kLeastHeight * em), kHeaderShare * m_header->minimumSizeHint().height());
+  if (m_isPaneShown) width += m_paneWidth;  // its height asks for nothing: it scrolls
+  const QSize least = QSize(width, height).boundedTo(room);
+  setMinimumSize(least.width(), EvenHeight(least.height()));
+}
+
+int CMainDlg::HeaderTop() const { return kTopMargin + m_group->ContentTop(); }
+
+int CMainDlg::EvenHeight(int height) const {
+  return orbisol::EvenHeight(height, HeaderTop(), m_header->minimumSizeHint().height());
 }
 
 void CMainDlg::LayOut() {
   MainMeasures measures;
   measures.width = width();
   measures.height = height();
-  measures.headerTop = kTopMargin + m_group->ContentTop();
+  measures.headerTop = HeaderTop();
+  measures.leastHeader = m_header->minimumSizeHint().height();
   measures.weekNumbers = Display().showWeekNumber;
   measures.paneShown = m_isPaneShown;
   measures.paneWidth = m_paneWidth;
@@ -103,7 +132,7 @@ void CMainDlg::changeEvent(QEvent* event) {
 void CMainDlg::ShowPane(bool isShown) {
   if (isShown == m_isPaneShown) return;
   m_isPaneShown = isShown;
-  // What is not seen must not be reached with Tab either.
+  // A pane that is not seen must not be reached with Tab either.
   m_pane->setVisible(isShown);
   m_separator->setVisible(isShown);
   Measure();
@@ -124,8 +153,10 @@ QString CMainDlg::Description() {
 void CMainDlg::Refresh(DateMove move) {
   Visit(move);
   m_month->Refresh();
+  m_group->SetRemark(ToQString(ReformRemark(Selected().year, Selected().month)));
   m_header->Refresh();
   m_pane->Refresh();
+  m_pane->ShowMonth(m_month->Month());
   emit dateShown(Description());
 }
 

@@ -1,4 +1,4 @@
-// What fills the main window: the month under its header at the left, the converter pane at the right. Every
+// Fills the main window: the month under its header at the left, the converter pane at the right. Every
 // change of the selected date, whoever made it, ends in its Refresh().
 //
 //   CMainDlg dialog(isPaneShown, parent);
@@ -27,22 +27,29 @@ class CMainDlg : public QWidget {
   // Shows the selected date everywhere. `move` says how it was changed; a date that is the same counts for
   // nothing.
   void Refresh(DateMove move = DateMove::kLeap);
-  // Colors, fonts, switches, calendar rules or the content were changed.
+  // Takes over colors, fonts, switches, calendar rules and content that were changed.
   void SettingsChanged();
-  // The desktop's colors were changed.
+  // Takes over the desktop's colors that were changed.
   void ThemeChanged() { ApplyColors(); }
 
   bool IsPaneShown() const { return m_isPaneShown; }
   void ShowPane(bool isShown);
-  // What a window gains or loses with the pane; it follows the font.
+  // Returns by how many pixels the window grows with the pane; it follows the font and the screen.
   int PaneWidth() const { return m_paneWidth; }
+
+  // Measures anew how small the dialog may become: its texts stay whole, yet the window fits on its screen.
+  // To be called when the dialog stands in its window, and when bars appear or the screen changes.
+  void Measure();
+  // Returns the largest height, at most `height`, at which all weeks of the month are equally high.
+  int EvenHeight(int height) const;
 
   QString JulianText() const { return m_pane->JulianText(); }
   QString RepublicanText() const { return m_pane->RepublicanText(); }
 
+  // Gives the keyboard to the month.
   void FocusMonth();
 
-  // Through the dates visited; where there is none on that side nothing happens.
+  // Go through the dates visited; where there is none on that side nothing happens.
   void GoBack();
   void GoForward();
   const CDateHistory& History() const { return m_history; }
@@ -65,7 +72,8 @@ class CMainDlg : public QWidget {
  private:
   void Visit(DateMove move);
   void LayOut();
-  void Measure();
+  QSize Room() const;
+  int HeaderTop() const;
   void ApplyColors();
   QString Description();
 

@@ -17,7 +17,8 @@ MainLayout LayOutMain(const MainMeasures& m) {
   if (!m.weekNumbers) width -= std::max((width - 3 * kGap - kMargin) % kDayColumns, 0);
   if (m.paneShown) width -= m.paneWidth;
 
-  const int headerHeight = m.height / 7;
+  // Its share is enough in every window that is not held below its least size by a small screen.
+  const int headerHeight = std::max(m.height / kHeaderShare, m.leastHeader);
   const int gridTop = m.headerTop + headerHeight + kHeaderToGrid;
 
   MainLayout places;
@@ -28,6 +29,16 @@ MainLayout LayOutMain(const MainMeasures& m) {
   places.separator = Box(places.group.right + kMargin / 2, 2 * kTopMargin, 1, m.height - 4 * kTopMargin);
   places.pane = Box(paneLeft, 0, m.paneWidth, m.height);
   return places;
+}
+
+int EvenHeight(int height, int headerTop, int leastHeader) {
+  constexpr int kRows = 7;  // the names of the weekdays and six weeks
+  MainMeasures measures;
+  measures.headerTop = headerTop;
+  measures.leastHeader = leastHeader;
+  measures.height = height;
+  while (LayOutMain(measures).grid.Height() % kRows != 0) --measures.height;
+  return measures.height;
 }
 
 }  // namespace orbisol

@@ -8,7 +8,8 @@
 namespace orbisol {
 namespace {
 
-constexpr int kTitleIndent = 7;  // of a group without a layout
+constexpr int kTitleIndent = 7;  // pixels left of the title in a group without a layout
+constexpr int kRemarkGap = 16;   // least distance of title and remark, in pixels
 
 }  // namespace
 
@@ -27,18 +28,28 @@ int CCalendarGroup::ContentTop() const {
          style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this).top();
 }
 
+void CCalendarGroup::SetRemark(const QString& remark) {
+  if (remark == m_remark) return;
+  m_remark = remark;
+  setAccessibleDescription(remark);
+  update();
+}
+
 void CCalendarGroup::paintEvent(QPaintEvent*) {
   QStyleOptionGroupBox option;
   initStyleOption(&option);
   const QRect label = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
-  // The title begins where the content does. Asked of the content itself: the style moves the layout's own
-  // rectangle in a group with boxes to check.
+  // The title begins where the content does. The first item knows that; the layout's own rectangle is moved
+  // by the style in a group that holds a check box.
   const bool hasContent = layout() != nullptr && layout()->count() > 0;
   const int left = hasContent ? layout()->itemAt(0)->geometry().left() : kTitleIndent;
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawText(QRect(left, label.top(), width() - left, label.height()),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title());
+  const QRect line(left, label.top(), width() - 2 * left, label.height());
+  painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, title());
+  const QFontMetrics metrics = painter.fontMetrics();
+  if (metrics.horizontalAdvance(title()) + kRemarkGap + metrics.horizontalAdvance(m_remark) <= line.width())
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_remark);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(LineColor(*this));
   constexpr qreal kCorner = 3;

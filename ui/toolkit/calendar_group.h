@@ -1,5 +1,6 @@
 // A group box on the calendar's own ground: a thin line around its content and its title above, nothing
-// filled.
+// filled. It stands in for the style's own, which fills its content with a color that the calendar does not
+// know.
 #pragma once
 
 #include <QColor>
@@ -11,15 +12,23 @@ class CCalendarGroup : public QGroupBox {
  public:
   using QGroupBox::QGroupBox;
 
-  // Where content may begin below the title, in pixels from the upper edge.
+  // Returns where content may begin below the title, in pixels from the upper edge.
   int ContentTop() const;
+
+  // Shows a remark at the right end of the title's line, for screen readers as the group's description. It is
+  // left out where the two do not fit; empty for none.
+  void SetRemark(const QString& remark);
+  QString Remark() const { return m_remark; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString m_remark;
 };
 
-// For the lines between and around groups: the text's color, as faint as a line may be. Of a widget on the
-// calendar's ground.
+// Returns the color of lines between and around groups: that of the text, as faint as a line may be. `widget`
+// stands on the calendar's ground.
 QColor LineColor(const QWidget& widget);
 
 }  // namespace orbisol

@@ -12,4 +12,12 @@ inline QColor ToQColor(Color color) {
           static_cast<int>(color >> 16 & 0xFF)};
 }
 
+// Returns the contrast of two opaque colors, 1 (none) to 21 (black on white), as the Web Content
+// Accessibility Guidelines 2.1 define it. Small texts are read with ease from 4.5 on.
+double Contrast(const QColor& a, const QColor& b);
+
+// Returns `ink` if a small text of it is read with ease on `ground`; else the nearest color of the same hue,
+// darker or lighter, that is.
+QColor LegibleOn(const QColor& ground, QColor ink);
+
 }  // namespace orbisol

@@ -1,5 +1,5 @@
-// A line of plain text that can be selected with the mouse and copied with the usual keys, also where these
-// belong to a menu as well. Where Tab stops at it, it is selected whole.
+// A line of plain text that can be selected with the mouse, copied with the usual keys, also where these
+// belong to a menu as well, and from a context menu. Where Tab stops at it, it is selected whole.
 #pragma once
 
 #include <QLabel>
@@ -13,6 +13,7 @@ class CSelectableLabel : public QLabel {
  protected:
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
 }  // namespace orbisol

@@ -45,7 +45,7 @@ TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
   Show(17991109);
   EXPECT_TRUE(ShowsLine("Samedi 29 octobre 1799"));
   EXPECT_TRUE(ShowsLine("Jour julien n° 2378444"));
-  EXPECT_TRUE(ShowsLine("Octidi 18 brumaire an 8\n (an VIII)"));
+  EXPECT_TRUE(ShowsLine("Octidi 18 brumaire an 8\n(an VIII)"));
 
   Show(15821004);
   EXPECT_TRUE(ShowsLine("Jeudi 4 octobre 1582"));
@@ -89,7 +89,7 @@ TEST_F(ConverterTest, ComplementaryDaysFollowTheYear) {
   Day()->setCurrentIndex(5);
   QTest::keyClick(Year(), Qt::Key_Return);
   EXPECT_EQ(Now(), 17950922);
-  EXPECT_TRUE(ShowsLine("Jour de la Révolution an 3\n (an III)"));
+  EXPECT_TRUE(ShowsLine("Jour de la Révolution an 3\n(an III)"));
   Month()->setCurrentIndex(3);
   EXPECT_EQ(Day()->count(), 30);
 }

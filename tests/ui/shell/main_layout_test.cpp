@@ -39,16 +39,18 @@ TEST(MainLayoutTest, HidingThePaneWithItsWidthLeavesTheMonthAsItIs) {
     }
 }
 
-TEST(MainLayoutTest, HeaderAndGridShareTheHeight) {
-  const MainLayout places = LayOutMain(Measures(850, 403, true, true));
-  EXPECT_EQ(places.group, (Rect{kMargin, kTopMargin, kMargin + 850 - 2 * kMargin - 336, 403 - kTopMargin}));
-  EXPECT_EQ(places.header.top, 24);
-  EXPECT_EQ(places.header.Height(), 403 / 7);
-  EXPECT_EQ(places.grid.top, 24 + 403 / 7 + 4);
-  EXPECT_EQ(places.grid.bottom, places.group.bottom - kGap);
-  EXPECT_EQ(places.grid.left - places.group.left, kGap);
-  EXPECT_GT(places.separator.left, places.group.right);
-  EXPECT_LT(places.separator.right, places.pane.left);
+TEST(MainLayoutTest, PartsFollowOneAnotherAndWeeksCanBeEquallyHigh) {
+  for (int height = 200; height < 900; ++height) {
+    const int even = EvenHeight(height, 24);
+    ASSERT_TRUE(even <= height && height - even <= 8) << height;
+    const MainLayout places = LayOutMain(Measures(850, even, true, true));
+    ASSERT_EQ(places.grid.Height() % 7, 0) << height;
+    ASSERT_GE(places.header.top, 24);
+    ASSERT_GT(places.grid.top, places.header.bottom);
+    ASSERT_TRUE(places.grid.bottom < places.group.bottom && places.group.bottom < even);
+    ASSERT_GT(places.grid.Height(), 4 * places.header.Height());
+    ASSERT_TRUE(places.group.right < places.separator.left && places.separator.right < places.pane.left);
+  }
 }
 
 TEST(MainLayoutTest, NothingIsTurnedInsideOutInAWindowOfNoSize) {
