@@ -1,12 +1,17 @@
 // The converter pane, through its controls.
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
+
+#include <set>
 
 #include "tests/ui/shell/frame_fixture.h"
 
@@ -54,6 +59,65 @@ TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
   Show(15821015);
   EXPECT_TRUE(ShowsLine("Vendredi 5 octobre 1582"));
   EXPECT_FALSE(ShowsLine("Grégorien proleptique : 15 octobre 1582"));
+
+  Rules().firstDayOfYear[0] = {15000325, false};  // the civil year, not the historical one
+  Show(16000324);
+  EXPECT_TRUE(ShowsLine("Vendredi 14 mars 1599"));
+}
+
+TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
+  frame->resize(1280, 720);
+  DayEvent event;
+  event.ymdFrom = kAlwaysFrom;
+  event.ymdTo = kAlwaysTo;
+  event.month = 5;
+  for (const auto& [day, name] : {std::pair(8, u"Victoire & <b>"), std::pair(20, u"Anniversaire")}) {
+    event.day = day;
+    event.isPublic = day == 8;
+    event.name.Set(name);
+    Content().dayEvents.push_back(event);
+  }
+  Dialog().SettingsChanged();
+  Settle();
+  auto* const list = Named<QListWidget>("Ce mois-ci");
+  ASSERT_TRUE(list->isVisible());
+  QStringList lines;
+  for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text();
+  EXPECT_EQ(lines.mid(0, 3).join(u'|'),
+            QStringLiteral("Victoire & <b>|Anniversaire|Dernier quartier de lune"));
+
+  QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(list);
+  ASSERT_EQ(spoken->role(), QAccessible::List);
+  EXPECT_EQ(spoken->child(0)->text(QAccessible::Name),
+            QStringLiteral("Mercredi 8 mai 2024 : Victoire & <b>, jour férié"));
+
+  list->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(list, Qt::Key_Home);
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_EQ(Now(), 20240520);
+  EXPECT_TRUE(list->hasFocus());
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+  EXPECT_EQ(Now(), 20240508);
+
+  // Kinds are told by color and weight: holiday, event, moon.
+  std::set<QRgb> inks;
+  Show(20240530);
+  Dialog().FocusMonth();
+  const QImage picture = list->viewport()->grab().toImage();
+  for (const int line : {0, 1, 2}) {
+    const QRect place = list->visualItemRect(list->item(line));
+    QRgb darkest = qRgb(255, 255, 255);
+    for (int y = place.top(); y <= place.bottom(); ++y)
+      for (int x = place.width() / 8; x < place.width(); ++x)
+        if (qGray(picture.pixel(x, y)) < qGray(darkest)) darkest = picture.pixel(x, y);
+    inks.insert(darkest);
+  }
+  EXPECT_EQ(inks.size(), 3U);
+
+  frame->resize(1280, 100);  // as low as it goes: the groups need the room
+  Settle();
+  EXPECT_FALSE(list->isVisible());
 }
 
 TEST_F(ConverterTest, ARepublicanDateIsEnteredAndShown) {
@@ -131,6 +195,9 @@ TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
   }
   QTest::mouseClick(Kept(), Qt::LeftButton);
   EXPECT_EQ(Now(), 20240515);
+  QTest::keyClick(frame->windowHandle(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            Kept()->text());  // not the long date, which the menu copies
 
   Click(Keep());
   EXPECT_EQ(Kept()->text() + Difference()->text(), QString());
@@ -153,11 +220,20 @@ TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderAndUnderTheRulesInForc
   EXPECT_EQ(Kept()->text(), QStringLiteral("15 mai 2025"));
 }
 
-TEST_F(ConverterTest, TheKeyboardReachesTheDayNumberAndPressesButtons) {
-  auto* const number = Control<QLabel>("Jour julien n° 2460446");
-  number->setFocus(Qt::TabFocusReason);
-  QTest::keyClick(frame->windowHandle(), Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), number->text());  // not the date, which the menu copies
+TEST_F(ConverterTest, TheKeyboardCopiesWhatIsShownAndPressesButtons) {
+  for (const char* const text : {"Mercredi 2 mai 2024", "Jour julien n° 2460446"}) {
+    auto* const line = Control<QLabel>(text);
+    line->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(frame->windowHandle(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), line->text());  // not the date, which the menu copies
+
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(9, 9), line->mapToGlobal(QPoint(9, 9)));
+    QApplication::sendEvent(line, &asked);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions().first()->text(), QStringLiteral("&Copier"));
+    menu->close();
+  }
 
   auto* const button = Control<QPushButton>("notre ère");
   button->setFocus();

@@ -269,15 +269,59 @@ TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOne) {
   EXPECT_EQ(frame->windowHandle()->title(), QString::fromUtf8("Orbisol - Été & <b> [*]"));
 }
 
-TEST_F(FrameTest, ThePaneGrowsWithTheFont) {
+TEST_F(FrameTest, AtEveryFontTheWindowFitsOnItsScreenAndItsTextsStayWhole) {
   Open();
-  const int pane = Dialog().PaneWidth();
-  QFont large = Dialog().font();
-  large.setPointSizeF(large.pointSizeF() * 1.5);
-  Dialog().setFont(large);
-  Settle();
-  EXPECT_GT(Dialog().PaneWidth(), pane);
-  EXPECT_GE(Dialog().PaneWidth(), Dialog().Pane().minimumSizeHint().width());
+  const QFont font = Dialog().font();
+  const QSize screen = frame->screen()->availableSize();
+  int narrower = 0;
+  for (const double times : {1.0, 1.5, 2.0, 2.7}) {
+    SCOPED_TRACE(times);
+    QFont large = font;
+    large.setPointSizeF(font.pointSizeF() * times);
+    QApplication::setFont(large);
+    Settle();
+    for (const bool isPaneShown : {false, true}) {
+      Dialog().ShowPane(isPaneShown);
+      frame->resize(1, 1);  // as small as it goes
+      Settle();
+      EXPECT_TRUE(frame->width() <= screen.width() && frame->height() <= screen.height());
+      const CHeaderWnd& header = Dialog().Header();
+      const QFontMetrics metrics(header.font());
+      EXPECT_LT(metrics.horizontalAdvance(header.LeftText() + header.RightText()), header.width());
+      EXPECT_GE(Dialog().Month().geometry().bottom(), Dialog().height() / 2);
+      EXPECT_LT(Dialog().Month().geometry().bottom(), Dialog().height());
+    }
+    EXPECT_GT(Dialog().PaneWidth(), narrower);
+    narrower = Dialog().PaneWidth() - 1;  // on a narrow screen it cannot grow for ever
+    auto* const button = Control<QPushButton>("julien");
+    button->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());  // the pane has scrolled there
+  }
+  QApplication::setFont(font);
+}
+
+TEST_F(FrameTest, TabGoesThroughEverythingInAFullCircle) {
+  Open();
+  frame->resize(1200, 700);
+  for (const bool isPaneShown : {true, false}) {
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+      Dialog().ShowPane(isPaneShown);
+      Dialog().FocusMonth();
+      QStringList names;
+      do {
+        QTest::keyClick(frame->windowHandle(), key);
+        const QWidget* const focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr);
+        names << focused->accessibleName() + focused->property("text").toString();
+      } while (!Dialog().Month().hasFocus() && names.size() < 40);
+      EXPECT_TRUE(Dialog().Month().hasFocus());
+      for (const char* const name : {"Mois précédent", "Mois : Mai", "Année : 2024", "Mois suivant"})
+        EXPECT_EQ(names.filter(QString::fromUtf8(name)).size(), 1) << name;
+      for (const char* const name : {"Mercredi 2 mai", "Jour julien", "floréal", "Date retenue", "&julien",
+                                     "Aujourd'hui", "Ce mois-ci"})
+        EXPECT_EQ(names.filter(QString::fromUtf8(name)).size(), isPaneShown ? 1 : 0) << name;
+    }
+  }
 }
 
 TEST_F(FrameTest, SelectionsFollowTheThemeOfTheDesktop) {
