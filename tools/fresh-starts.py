@@ -83,8 +83,10 @@ class Display:
         nice = ["nice", "-n", "15"] if mode == "loaded" else []
         environment = {**os.environ, "XDG_CACHE_HOME": scratch, "XDG_CONFIG_HOME": scratch}
         self.spawn([*nice, "openbox"], env=environment)
-        if not wait_for(30, lambda: "window id" in output_of("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")):
+        # It announces itself before it takes care of windows: the list of windows comes last, and it may rest then.
+        if not wait_for(30, lambda: "window id" in output_of("xprop", "-root", "_NET_CLIENT_LIST")):
             raise SystemExit("fresh-starts: no window manager")
+        time.sleep(SETTLED_SECONDS[mode])
         if mode == "loaded":
             for _ in range(3):
                 self.spawn([sys.executable, "-c", "while True: pass"])
