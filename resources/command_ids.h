@@ -5,7 +5,7 @@
 namespace orbisol {
 
 enum CommandId : int {
-  kNoCommand = 0,  // in tables of menus: a separator
+  kNoCommand = 0,  // stands for a separator in the tables of the menus
 
   kCmdQuit = 2,
   kCmdCopyJulianDate = 140,
@@ -16,7 +16,7 @@ enum CommandId : int {
   kCmdEditEvents = 264,
   kCmdPreferences = 265,
   kCmdAbout = 896,
-  kCmdFirstMonth = 1051,  // the menu of the months: 1051 January .. 1062 December
+  kCmdFirstMonth = 1051,  // entries of the menu of the months: 1051 January .. 1062 December
   kCmdLastMonth = 1062,
   kCmdGoBack = 5201,
   kCmdGoForward = 5202,

@@ -1,5 +1,5 @@
-// What the menus, the tool bar and the keys of the main window hold, in their order. What a command does is
-// said by the window's own table.
+// The menus, the tool bar and the keys of the main window, in their order. The window has a table of its own
+// from each command to the function that runs it.
 //
 //   for (const Menu& menu : MainMenu())
 //     for (const MenuItem& item : menu.items) …
@@ -13,10 +13,10 @@
 namespace orbisol {
 
 struct MenuItem {
-  CommandId command;             // kNoCommand: a separator
-  std::u16string_view text;      // "&" stands before the letter that chooses it
-  std::u16string_view shortcut;  // in the portable notation ("Ctrl+C"); empty for none
-  bool isChecked = false;        // carries a check mark
+  CommandId command;             // kNoCommand is a separator
+  std::u16string_view text;      // title with "&" before the letter that chooses it
+  std::u16string_view shortcut;  // keys in the portable notation ("Ctrl+C"); empty is "none"
+  bool isChecked = false;        // true where a check mark says whether something is shown
 };
 
 struct Menu {
@@ -27,8 +27,8 @@ struct Menu {
 std::span<const Menu> MainMenu();
 
 struct ToolItem {
-  CommandId command;      // kNoCommand: a separator
-  std::string_view icon;  // name of its picture
+  CommandId command;      // kNoCommand is a separator
+  std::string_view icon;  // name of a drawing in resources/pictures/icons
 };
 
 std::span<const ToolItem> MainToolBar();

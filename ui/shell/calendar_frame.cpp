@@ -65,8 +65,8 @@ const CCalendarFrame::Handler* CCalendarFrame::HandlerOf(CommandId command) {
   return found == std::end(kHandlers) ? nullptr : found;
 }
 
-CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
-    : m_doors(doors),
+CCalendarFrame::CCalendarFrame(const FrameServices& services)
+    : m_services(services),
       m_commands(new CCommandTable(this, [this](CommandId command) { RunCommand(command); })),
       m_placement(new CFramePlacement(*this)),
       m_toolBar(nullptr),
@@ -104,8 +104,8 @@ CCalendarFrame::CCalendarFrame(const FrameDoors& doors)
 
 // What is stored goes into the live records here, and nowhere else at start-up.
 void CCalendarFrame::TakeSettings() {
-  StoredSettings stored = ReadSettings(m_doors.store, m_doors.calendars, m_doors.publicCalendars,
-                                       m_doors.locale, VirtualScreen());
+  StoredSettings stored = ReadSettings(m_services.store, m_services.calendars, m_services.publicCalendars,
+                                       m_services.locale, VirtualScreen());
   m_isFirst = !stored.layoutStored;
   if (m_isFirst) stored.display.mainLayout.rightPaneShown = FirstSize().width() >= kWidthForPane ? 1 : 0;
   Display() = std::move(stored.display);
@@ -143,7 +143,7 @@ void CCalendarFrame::StoreLayout() {
   ClosingFrame closing = m_placement->Closing();
   closing.paneShown = m_dialog->IsPaneShown();
   closing.paneWidth = m_dialog->PaneWidth();
-  SaveMainWindowLayout(m_doors.store, Display().mainLayout, closing, VirtualScreen());
+  SaveMainWindowLayout(m_services.store, Display().mainLayout, closing, VirtualScreen());
 }
 
 void CCalendarFrame::closeEvent(QCloseEvent* event) {

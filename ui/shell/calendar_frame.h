@@ -1,10 +1,10 @@
-// The main window: menu bar, tool bar and status bar around the main dialog, and what every command does.
+// The main window: menu bar, tool bar and status bar around the main dialog, and the functions that run the
+// commands. Commands that open a window of their own have their table in openings.h.
 //
-//   CCalendarFrame frame({store, calendars, publicCalendars, {u"fr", u"FR"}});  // reads the settings and
-//   puts them in force frame.Open();                                              // where it stood when it
-//   was last closed
+//   CCalendarFrame frame({store, calendars, publicCalendars, {u"fr", u"FR"}});
+//   frame.Open();
 //
-// Closing it stores where it stands.
+// The constructor reads the settings and puts them in force. Closing the window stores where it stands.
 #pragma once
 
 #include <QMainWindow>
@@ -25,35 +25,37 @@ namespace orbisol {
 
 class CElidedLabel;
 
-struct FrameDoors {
+struct FrameServices {
   SettingsStore& store;
   CCalendarStore& calendars;
   const CPublicCalendars& publicCalendars;
   UserLocale locale;
 };
 
-// Puts a text on the clipboard. Where that cannot be had nothing happens, and nothing is said.
+// Puts a text on the clipboard. Does nothing, and reports nothing, where the clipboard cannot be had.
 void CopyTextToClipboard(const QString& text);
 
 class CCalendarFrame : public QMainWindow {
   Q_OBJECT
 
  public:
-  // The doors outlive the frame.
-  explicit CCalendarFrame(const FrameDoors& doors);
+  // The parts of the machine outlive the frame.
+  explicit CCalendarFrame(const FrameServices& services);
 
+  // Shows the window where it was closed, or in the middle of the screen where it never was.
   void Open();
-  // To the front, for a user who started the program again; the desktop gave that start the token, where it
-  // asks for one.
+
+  // Brings the window to the front, for a user who started the program again. `token` is what the desktop
+  // gave to that start, so that the window may take the focus; empty where it gave none.
   void Raise(const std::string& token = {});
 
-  // Stores where the window stands now, as closing it does.
+  // Stores where the window stands now, like closing it.
   void StoreLayout();
 
   void RunCommand(CommandId command);
 
   CMainDlg& Dialog() { return *m_dialog; }
-  const FrameDoors& Doors() const { return m_doors; }
+  const FrameServices& Services() const { return m_services; }
   CCommandTable& Commands() { return *m_commands; }
   QString StatusText() const;
 
@@ -69,7 +71,7 @@ class CCalendarFrame : public QMainWindow {
   static const Handler kHandlers[];
   static const Handler* HandlerOf(CommandId command);
   static bool IsReady(CommandId command);
-  void OpenWindow(CommandId command, const OpeningRequest& request);  // beeps where there is none
+  void OpenWindow(CommandId command, const OpeningRequest& request);  // beeps where no window is made yet
 
   void OnDateShown(const QString& description);
 
@@ -88,13 +90,13 @@ class CCalendarFrame : public QMainWindow {
   void UpdateTitle();
   void UpdateCommands();
 
-  FrameDoors m_doors;
+  FrameServices m_services;
   CCommandTable* m_commands;
   CFramePlacement* m_placement;
   QToolBar* m_toolBar;
   CElidedLabel* m_description;
   CMainDlg* m_dialog;
-  bool m_isFirst = false;  // no place of the window was ever stored
+  bool m_isFirst = false;  // true where no place of the window was ever stored
 };
 
 }  // namespace orbisol

@@ -1,4 +1,7 @@
-// The body of the program.
+// The body of the program, from the settings key to the end of the main window.
+//
+//   QApplication application(argc, argv);
+//   return Run(application);
 #pragma once
 
 #include "files/file_system.h"
@@ -10,20 +13,21 @@ class QApplication;
 
 namespace orbisol {
 
-// What start-up is given by the machine.
+// Parts of the machine that start-up uses; they outlive the call.
 struct StartUp {
   SettingsStore& store;
   FileSystem& files;
   CalendarFolders folders;
   UserLocale locale;
-  InstancePlace instance;  // where a second start finds the first
+  InstancePlace instance;  // place where a second start finds the first
 };
 
-// Until the main window is closed; the exit code. Without a settings key the installation is broken: that is
-// said, and nothing is opened. Where the program runs already its window is raised instead.
+// Runs until the main window closes and returns the exit code, which is 0. Without a settings key it reports
+// a broken installation and opens nothing. Where the program runs already it raises that window instead. A
+// signal to end and the end of the session store where the window stands.
 int Run(const StartUp& startUp);
 
-// The same with the answers of the desktop.
+// Runs with the answers of the desktop.
 int Run(QApplication& application);
 
 }  // namespace orbisol

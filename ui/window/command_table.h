@@ -23,17 +23,19 @@ namespace orbisol {
 
 class CCommandTable : public QObject {
  public:
-  // `run` is called for a command that the user chose; it sets the check marks anew.
+  // Makes an empty table that lives as long as `owner`. `run` is called for each command that the user
+  // chooses; it sets the check marks anew, because the toolkit has flipped them.
   CCommandTable(QObject* owner, std::function<void(CommandId)> run);
 
+  // Makes an action for each item, with its key, its status text and its tool tip.
   void FillMenuBar(QMenuBar& bar, std::span<const Menu> menus);
-  // Every command must have been in a menu; others are left out.
+  // Adds buttons for commands that FillMenuBar() was given before, and leaves out all others.
   void FillToolBar(QToolBar& bar, std::span<const ToolItem> items);
 
-  // Null for a command that is in no menu.
+  // Returns the action of a command; null for one that is in no menu.
   QAction* Action(CommandId command) const;
 
-  // A command that is in no menu is passed over.
+  // Set the state of a command; one that is in no menu is passed over.
   void SetEnabled(CommandId command, bool isEnabled);
   void SetChecked(CommandId command, bool isChecked);
 

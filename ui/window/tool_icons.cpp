@@ -94,14 +94,38 @@ class CDrawnIcon : public QIconEngine {
   QColor m_ink;  // invalid: that of the palette
 };
 
-// Sizes between are scaled from the largest drawing.
-QPixmap ProgramPixmap(const char* name, int side) {
-  QPixmap pixmap(side, side);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  QSvgRenderer(Drawing(QLatin1String(name))).render(&painter);
-  return pixmap;
-}
+// The icon of the program. It is drawn when somebody asks for a size of it, which at start-up may be nobody.
+class CProgramIcon : public QIconEngine {
+ public:
+  QIconEngine* clone() const override { return new CProgramIcon(*this); }
+  QString key() const override { return QStringLiteral("orbisol-program"); }
+
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+    return {{16, 16}, {22, 22}, {32, 32}, {48, 48}, {64, 64}, {128, 128}};
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+    const int side = qMin(size.width(), size.height());
+    if (side <= 0) return {};
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    QSvgRenderer(Drawing(DrawingFor(side))).render(&painter);
+    return pixmap;
+  }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    painter->drawPixmap(
+        rect, pixmap((QSizeF(rect.size()) * painter->device()->devicePixelRatioF()).toSize(), mode, state));
+  }
+
+ private:
+  // Small icons have drawings of their own, whose lines fall on whole pixels.
+  static QString DrawingFor(int side) {
+    if (side <= 16) return QStringLiteral("orbisol-16");
+    return side <= 24 ? QStringLiteral("orbisol-22") : QStringLiteral("orbisol");
+  }
+};
 
 }  // namespace
 
@@ -111,12 +135,6 @@ QIcon ToolIcon(std::string_view name, const QColor& ink) {
   return QIcon(new CDrawnIcon(text, ink));
 }
 
-QIcon ProgramIcon() {
-  QIcon icon;
-  icon.addPixmap(ProgramPixmap("orbisol-16", 16));
-  icon.addPixmap(ProgramPixmap("orbisol-22", 22));
-  for (const int side : {32, 48, 64, 128}) icon.addPixmap(ProgramPixmap("orbisol", side));
-  return icon;
-}
+QIcon ProgramIcon() { return QIcon(new CProgramIcon); }
 
 }  // namespace orbisol

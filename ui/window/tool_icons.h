@@ -10,11 +10,11 @@
 
 namespace orbisol {
 
-// An icon of resources/pictures/icons by its name. It follows the palette of the application, unless an ink
-// is given; disabled it is drawn in the color of disabled text. Empty for a name that does not exist.
+// Returns an icon of resources/pictures/icons by its name. It follows the palette of the application, unless
+// an ink is given; disabled it is drawn in the color of disabled text. Empty for a name that does not exist.
 QIcon ToolIcon(std::string_view name, const QColor& ink = QColor());
 
-// The icon of the program and its windows.
+// Returns the icon of the program and its windows. Its sizes are drawn when they are asked for.
 QIcon ProgramIcon();
 
 }  // namespace orbisol

@@ -56,7 +56,8 @@ class FrameTest : public ::testing::Test {
   static void Settle() { QApplication::processEvents(); }
 
   void Open() {
-    frame = std::make_unique<CCalendarFrame>(FrameDoors{store, calendars, publicCalendars, {u"fr", u"FR"}});
+    frame =
+        std::make_unique<CCalendarFrame>(FrameServices{store, calendars, publicCalendars, {u"fr", u"FR"}});
     frame->Open();
     frame->activateWindow();
     Settle();
