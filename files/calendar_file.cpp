@@ -92,7 +92,8 @@ bool SurvivesRewrite(std::u16string_view blockTag, std::u16string_view read, std
     const auto& [tag, value] = *element;
     if (value.empty()) continue;
 
-    auto rest = std::find_if(rests.begin(), rests.end(), [&](const Rest& known) { return known.tag == tag; });
+    auto rest = std::find_if(rests.begin(), rests.end(),
+                             [name = tag](const Rest& known) { return known.tag == name; });
     const bool isFirst = rest == rests.end();
     if (isFirst) rest = rests.insert(rest, {tag, Trimmed(written)});
     const bool isYear = isOlder && isFirst && (tag == u"yFrom" || tag == u"yTo");

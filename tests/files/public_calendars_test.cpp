@@ -16,7 +16,8 @@ namespace orbisol {
 namespace {
 
 // The names of the days that bear such a mark.
-std::map<PackedDate, std::string> MarkedDays(const std::string& file, int mark, int firstYear, int lastYear) {
+std::map<PackedDate, std::string> MarkedDays(const std::string& file, unsigned mark, int firstYear,
+                                             int lastYear) {
   const CalendarContent content = ReadCalendar(BytesOf(ORBISOL_LEGALS "/" + file)).content;
   std::map<PackedDate, std::string> days;
   for (int n = Date(firstYear, 1, 1).DayNumber(); n <= Date(lastYear, 12, 31).DayNumber(); ++n) {
