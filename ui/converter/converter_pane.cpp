@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "content/selected_date.h"
 #include "core/date_text.h"
 #include "ui/converter/julian_group.h"
@@ -78,7 +80,7 @@ QSize CConverterPane::sizeHint() const {
 // Shows the list of the month where its least number of lines is free below the groups.
 void CConverterPane::FitList() {
   const int free = viewport()->height() - sizeHint().height() - widget()->layout()->spacing();
-  m_month->setMaximumHeight(m_month->HeightWithin(free));
+  m_month->setMaximumHeight(std::min(m_month->HeightWithin(free), m_month->sizeHint().height()));
   m_month->setVisible(free >= m_month->minimumSizeHint().height());
 }
 
