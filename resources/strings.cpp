@@ -164,6 +164,7 @@ constexpr Entry kStrings[] = {
     {kTextDaysOfPeriod, u"%s (%d–%d)"},
     {kTextSpokenLine, u"%s : %s"},
     {kTextCopy, u"&Copier"},
+    {kTextNextHoliday, u"Prochain jour férié : %s, %s"},
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdGoToToday, u"Revenir à la date d'aujourd'hui\nAujourd'hui (Alt+Début)"},

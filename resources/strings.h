@@ -88,6 +88,7 @@ enum TextId : int {
   kTextDaysOfPeriod = 5195,  // title, first and last day
   kTextSpokenLine = 5196,    // long date and text
   kTextCopy = 5197,          // in context menus
+  kTextNextHoliday = 5198,   // in the status bar: date, names
 
   kTextCalendarChanged = 5300,            // its file, by somebody else: name, path, free name
   kTextCalendarChangedButtons = 5301,     // keep both, reload, replace

@@ -81,7 +81,10 @@ QSize CConverterPane::sizeHint() const {
 void CConverterPane::FitList() {
   const int free = viewport()->height() - sizeHint().height() - widget()->layout()->spacing();
   m_month->setMaximumHeight(std::min(m_month->HeightWithin(free), m_month->sizeHint().height()));
-  m_month->setVisible(free >= m_month->minimumSizeHint().height());
+  const bool isShown = free >= m_month->minimumSizeHint().height();
+  if (isShown == ListsMonth()) return;
+  m_month->setVisible(isShown);
+  emit listShown();
 }
 
 void CConverterPane::resizeEvent(QResizeEvent* event) {
@@ -117,6 +120,8 @@ void CConverterPane::ShowMonth(const MonthModel& month) {
   m_month->Show(month);
   m_month->MarkDate(Selected().Packed());
 }
+
+bool CConverterPane::ListsMonth() const { return !m_month->isHidden(); }
 
 void CConverterPane::GoTo(PackedDate date) {
   Selected().SetPacked(date);

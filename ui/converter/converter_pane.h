@@ -30,6 +30,8 @@ class CConverterPane : public QScrollArea {
   void Refresh();
   // Lists what `month` brings, which was built for the selected date.
   void ShowMonth(const MonthModel& month);
+  // Tells whether the window leaves room for that list.
+  bool ListsMonth() const;
   // Takes over colors and calendar rules that were changed; the dates themselves wait for Refresh().
   void SettingsChanged();
 
@@ -46,6 +48,8 @@ class CConverterPane : public QScrollArea {
   void dateChanged();
   // A control has done its work or disappears, and the keyboard belongs to the month again.
   void focusGivenUp();
+  // The list of the month appeared, or had to go.
+  void listShown();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -7,10 +7,11 @@
 
 #include <algorithm>
 
+#include "content/calendar_content.h"
 #include "content/reform_remark.h"
 #include "content/selected_date.h"
-#include "content/tip_text.h"
 #include "resources/strings.h"
+#include "ui/shell/status_text.h"
 #include "ui/toolkit/calendar_group.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/geometry.h"
@@ -51,6 +52,7 @@ CMainDlg::CMainDlg(bool isPaneShown, QWidget* parent)
   connect(m_month, &CMonthWindow::dayOpened, this, &CMainDlg::dayOpened);
   connect(m_pane, &CConverterPane::dateChanged, this, [this] { Refresh(); });
   connect(m_pane, &CConverterPane::focusGivenUp, this, &CMainDlg::FocusMonth);
+  connect(m_pane, &CConverterPane::listShown, this, [this] { emit dateShown(Description()); });
 }
 
 void CMainDlg::Visit(DateMove move) { m_history.Visit(Selected().Packed(), move); }
@@ -138,16 +140,19 @@ void CMainDlg::ShowPane(bool isShown) {
   Measure();
   LayOut();
   FocusMonth();
+  emit dateShown(Description());
 }
 
 void CMainDlg::FocusMonth() { m_month->setFocus(Qt::OtherFocusReason); }
 
 QString CMainDlg::Description() {
-  const int cell = m_month->SelectedCell();
-  if (cell == kNoCell) return {};
-  const DayCell& day = m_month->Month().cells[static_cast<std::size_t>(cell)];
-  return ToQString(TipText(day, Display().tipsForEventsOnly))
-      .replace(QLatin1Char('\n'), QLatin1String(" | "));
+  StatusFacts facts{.date = Selected(),
+                    .range = m_month->RangeText(),
+                    .withoutDate = Display().tipsForEventsOnly,
+                    .namesNextHoliday = !m_isPaneShown || !m_pane->ListsMonth()};
+  if (const int cell = m_month->SelectedCell(); cell != kNoCell)
+    facts.day = &m_month->Month().cells[static_cast<std::size_t>(cell)];
+  return ToQString(StatusText(facts, Content().dayEvents));
 }
 
 void CMainDlg::Refresh(DateMove move) {

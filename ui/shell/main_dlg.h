@@ -59,8 +59,8 @@ class CMainDlg : public QWidget {
   CConverterPane& Pane() { return *m_pane; }
 
  signals:
-  // The selected date may have changed, and with it the commands that can be given. `description` says in one
-  // line which holiday, event, vacation and moon fall on it; empty for none.
+  // The selected date may have changed, and with it the commands that can be given. `description` is the line
+  // of the status bar (status_text.h).
   void dateShown(const QString& description);
   void periodChosen(const Date& from, const Date& to);  // days were selected to be edited; from <= to
   void dayOpened(const Date& date);                     // the selected day was opened to be edited

@@ -48,8 +48,35 @@ TEST_F(FrameTest, TheStatusBarDescribesTheDay) {
   Dialog().SettingsChanged();
   Show(20240523);  // a full moon too
   EXPECT_EQ(frame->StatusText(), QString::fromUtf8("<b>Fête</b> & Cie | (Pleine lune)"));
+  Show(20241131);
+  EXPECT_EQ(frame->StatusText(),
+            QString::fromUtf8("Le 31 novembre 2024 n'existe pas ; il compte comme le 1er décembre"));
   Show(20240521);
+  QTest::keyClick(&Dialog().Month(), Qt::Key_Right, Qt::ShiftModifier);
+  Settle();
+  EXPECT_EQ(frame->StatusText(), QString::fromUtf8("Du 21 mai 2024 au 22 mai 2024, 2 jours"));
+}
+
+// The list in the pane names the holidays of the month; without it the status bar names the next one.
+TEST_F(FrameTest, TheStatusBarNamesTheNextHolidayWhereNoListDoes) {
+  Open();
+  Content().dayEvents = {EveryYear(5, 8, u"Victoire 1945"), EveryYear(6, 1, u"Fête")};
+  Content().dayEvents[1].isPublic = false;
+  Dialog().SettingsChanged();
+  Show(20240521);
+  frame->resize(1100, 900);
+  Settle();
   EXPECT_EQ(frame->StatusText(), QString());
+  frame->RunCommand(kCmdTogglePane);
+  const QString next = QString::fromUtf8("Prochain jour férié : 8 mai 2025, Victoire 1945");
+  EXPECT_EQ(frame->StatusText(), next);
+  frame->RunCommand(kCmdTogglePane);
+  EXPECT_EQ(frame->StatusText(), QString());
+  frame->resize(1100, frame->minimumHeight());
+  Settle();
+  EXPECT_EQ(frame->StatusText(), next);
+  Show(20240508);
+  EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QStringLiteral("Victoire 1945"));
 }
 
 TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
