@@ -240,7 +240,8 @@ TEST_F(MonthWindowTest, PicturesComeFromRegularFilesAndWithoutBeingWaitedFor) {
     window->SettingsChanged();
     const auto seen = [&] { return window->grab().toImage().pixelColor(50, 415); };
     EXPECT_EQ(seen(), QColor(Qt::white)) << "nothing is waited for";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return seen() == QColor(color); }, 5000)) << path.toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&, wanted = QColor(color)] { return seen() == wanted; }, 5000))
+        << path.toStdString();
   }
 }
 
