@@ -21,21 +21,19 @@ constexpr std::chrono::milliseconds kBetweenLooks(20);
 constexpr int kMostLooks = 500;  // ten seconds
 constexpr std::chrono::seconds kFarewell(1);
 
-// Reads in a thread that nobody waits for: one that is stuck in the kernel ends with the process.
-std::future<QImage> ReadBeside(const QString& path) {
-  std::promise<QImage> promise;
-  std::future<QImage> picture = promise.get_future();
+// Starts to read in a thread of its own. Without one to be had there will be no picture.
+std::thread ReadBeside(const QString& path, std::promise<QImage> promise) {
   try {
-    std::thread([path, result = std::move(promise)]() mutable {
+    return std::thread([path, result = std::move(promise)]() mutable {
       try {
         result.set_value(ReadPicture(path, kLargeScreen).image);
       } catch (...) {  // no memory for it
         result.set_exception(std::current_exception());
       }
-    }).detach();
-  } catch (const std::system_error&) {  // no thread to be had: there will be no picture
+    });
+  } catch (const std::system_error&) {
+    return {};
   }
-  return picture;
 }
 
 }  // namespace
@@ -47,6 +45,19 @@ CBackgroundPicture::CBackgroundPicture() {
 
 CBackgroundPicture::~CBackgroundPicture() {
   if (m_reading.valid()) m_reading.wait_for(kFarewell);
+  LeaveReader();
+}
+
+// Lets go of the thread. One that is stuck in the kernel is left behind and ends with the process.
+void CBackgroundPicture::LeaveReader() {
+  if (!m_reader.joinable()) return;
+  const bool isDone =
+      !m_reading.valid() || m_reading.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+  if (isDone) {
+    m_reader.join();
+  } else {
+    m_reader.detach();
+  }
 }
 
 void CBackgroundPicture::Load(const DisplaySettings& settings) {
@@ -66,7 +77,10 @@ void CBackgroundPicture::Load(const DisplaySettings& settings) {
 void CBackgroundPicture::Read() {
   if (m_wanted.isEmpty()) return;
   m_path = std::exchange(m_wanted, QString());
-  m_reading = ReadBeside(m_path);
+  LeaveReader();
+  std::promise<QImage> promise;
+  m_reading = promise.get_future();
+  m_reader = ReadBeside(m_path, std::move(promise));
   m_lookCount = 0;
   m_looks.start();
 }
@@ -75,11 +89,13 @@ void CBackgroundPicture::Look() {
   if (m_reading.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
     if (++m_lookCount < kMostLooks) return;
     m_silent = m_path;
+    LeaveReader();
     m_reading = {};
     m_looks.stop();
     return;
   }
   m_looks.stop();
+  LeaveReader();
   try {
     m_picture = m_reading.get();
   } catch (const std::exception&) {

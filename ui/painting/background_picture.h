@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <future>
+#include <thread>
 
 #include "settings/display_settings.h"
 
@@ -39,13 +40,15 @@ class CBackgroundPicture : public QObject {
 
  private:
   void Look();
+  void LeaveReader();
 
   QImage m_picture;
   QString m_wanted;  // path that Read() begins with; empty: nothing is to be read
   QString m_silent;  // path of a file that did not answer; it is not asked again
   QString m_path;    // path of the file that is being read
   std::future<QImage> m_reading;
-  QTimer m_looks;  // for the end of the reading
+  std::thread m_reader;  // sets m_reading
+  QTimer m_looks;        // for the end of the reading
   int m_lookCount = 0;
 };
 

@@ -22,8 +22,9 @@ namespace {
 // later, when it moves, resizes or activates the window.
 constexpr int kMarginChecks[] = {0, 50, 200, 600};
 
-// Milliseconds until the size is there to which a maximized window is put back.
-constexpr int kReturnTime = 50;
+// Milliseconds after which the size is looked for to which a maximized window is put back. After the last of
+// them it is set, whatever the window system has made of it.
+constexpr int kReturnChecks[] = {50, 200, 600};
 
 // Pixels by which a side may miss what was asked for, where the screen's ratio is a fraction.
 constexpr int kRounding = 1;
@@ -131,7 +132,9 @@ bool CFramePlacement::eventFilter(QObject*, QEvent* event) {
       if (!m_isCorrected) QTimer::singleShot(0, this, &CFramePlacement::Correct);
       break;
     case QEvent::WindowStateChange:
-      if (HasNormalSize()) QTimer::singleShot(kReturnTime, this, &CFramePlacement::ReturnToNormal);
+      if (HasNormalSize())
+        for (const int wait : kReturnChecks)
+          QTimer::singleShot(wait, this, [this, wait] { ReturnToNormal(wait == kReturnChecks[2]); });
       break;
     default:
       break;
@@ -179,8 +182,13 @@ void CFramePlacement::Correct() {
   m_window.setGeometry(frame.marginsRemoved(margins));
 }
 
-void CFramePlacement::ReturnToNormal() {
+// Gives the normal size the change that it is owed, once the window has that size again.
+void CFramePlacement::ReturnToNormal(bool isLastCheck) {
   if (!HasNormalSize()) return;
+  if (m_owedWidth != 0 && m_normalWidth > 0 && !IsNear(m_window.width(), m_normalWidth)) {
+    if (!isLastCheck) return;
+    m_window.resize(m_normalWidth, m_window.height());
+  }
   Correct();
   Resize(std::exchange(m_owedWidth, 0));
 }
@@ -190,6 +198,7 @@ void CFramePlacement::Widen(int change) {
   if (HasNormalSize()) {
     Resize(change);
   } else {
+    if (m_owedWidth == 0) m_normalWidth = m_window.normalGeometry().width();
     m_owedWidth += change;
   }
 }

@@ -61,7 +61,7 @@ class CFramePlacement : public QObject {
   bool IsAskedHeight(int height) const;
   QRect FrameOf(const QRect& inside, const QMargins& margins, int owed) const;
   void Correct();
-  void ReturnToNormal();
+  void ReturnToNormal(bool isLastCheck);
   void Resize(int change);
 
   QWidget& m_window;
@@ -72,6 +72,7 @@ class CFramePlacement : public QObject {
   QMargins m_margins;          // as last seen at the normal size
   bool m_isCorrected = false;  // the margins have been taken off
   int m_owedWidth = 0;         // change of the normal width while the window has another
+  int m_normalWidth = 0;       // of the inside, without what is owed; 0 while it was never known
 };
 
 }  // namespace orbisol

@@ -42,7 +42,7 @@ class FrameTest : public ::testing::Test {
         publicCalendars(files, kMemoryFolders) {
     Select(20240515);
     WindowLayout layout;
-    layout.rightPaneShown = 1;
+    layout.rightPaneShown = true;
     StoreLayout(layout);
   }
   ~FrameTest() override {

@@ -182,7 +182,7 @@ TEST_F(FrameTest, AWindowStoredWhereNobodySeesItComesBackOntoTheScreen) {
        {Rect{4000, 3000, 4900, 3500}, Rect{-9000, -9000, -8000, -8500}, Rect{kMost, kMost, -kMost, -kMost}}) {
     WindowLayout far;
     far.rect = rect;
-    far.statusBarShown = 0;
+    far.statusBarShown = false;
     StoreLayout(far);
     Open();
     EXPECT_TRUE(frame->screen()->availableGeometry().contains(frame->geometry())) << rect.left;
