@@ -89,7 +89,7 @@ void SaveWindow(CPictureFolder& folder, const WindowPicture& picture, const QStr
   const CPublicCalendars publicCalendars(files, kMemoryFolders);
   if (!isFresh) {
     WindowLayout layout;
-    layout.rightPaneShown = 1;
+    layout.rightPaneShown = true;
     store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(layout))}});
   }
   CCalendarFrame frame({store, calendars, publicCalendars, {u"fr", u"FR"}});

@@ -15,7 +15,7 @@ namespace {
 constexpr std::u16string_view kSeparator = u" | ";
 
 std::u16string OneLine(std::u16string text) {
-  for (std::size_t at = 0; (at = text.find(u'\n', at)) != text.npos; at += kSeparator.size())
+  for (std::size_t at = 0; (at = text.find(u'\n', at)) != std::u16string::npos; at += kSeparator.size())
     text.replace(at, 1, kSeparator);
   return text;
 }
