@@ -83,9 +83,9 @@ CCalendarFrame::CCalendarFrame(const FrameServices& services)
   m_commands->FillToolBar(*m_toolBar, MainToolBar());
   statusBar()->setContentsMargins(kStatusIndent, 0, 0, 0);
   statusBar()->addWidget(m_description, 1);
-  statusBar()->setVisible(Display().mainLayout.statusBarShown != 0);
+  statusBar()->setVisible(Display().mainLayout.statusBarShown);
 
-  m_dialog = new CMainDlg(Display().mainLayout.rightPaneShown != 0);
+  m_dialog = new CMainDlg(Display().mainLayout.rightPaneShown);
   setCentralWidget(m_dialog);
   connect(m_dialog, &CMainDlg::dateShown, this, &CCalendarFrame::OnDateShown);
   connect(m_dialog, &CMainDlg::periodChosen, this, [this](const Date& from, const Date& to) {
@@ -107,7 +107,7 @@ void CCalendarFrame::TakeSettings() {
   StoredSettings stored = ReadSettings(m_services.store, m_services.calendars, m_services.publicCalendars,
                                        m_services.locale, VirtualScreen());
   m_isFirst = !stored.layoutStored;
-  if (m_isFirst) stored.display.mainLayout.rightPaneShown = FirstSize().width() >= kWidthForPane ? 1 : 0;
+  if (m_isFirst) stored.display.mainLayout.rightPaneShown = FirstSize().width() >= kWidthForPane;
   Display() = std::move(stored.display);
   Rules() = stored.rules;
   Content() = std::move(stored.content);
@@ -130,7 +130,7 @@ void CCalendarFrame::Open() {
     m_placement->OpenCentred(FirstSize());
   } else {
     m_placement->Open({layout.rect.left, layout.rect.top, layout.rect.Width() - hidden, layout.rect.Height()},
-                      layout.maximized != 0);
+                      layout.maximized);
   }
 }
 
@@ -185,7 +185,7 @@ void CCalendarFrame::OpenWindow(CommandId command, const OpeningRequest& request
 
 void CCalendarFrame::UpdateCommands() {
   m_commands->SetChecked(kCmdToggleToolBar, m_toolBar->isVisibleTo(this));
-  m_commands->SetChecked(kCmdToggleStatusBar, Display().mainLayout.statusBarShown != 0);
+  m_commands->SetChecked(kCmdToggleStatusBar, Display().mainLayout.statusBarShown);
   m_commands->SetChecked(kCmdTogglePane, m_dialog->IsPaneShown());
   m_commands->SetEnabled(kCmdCopyRepublicanDate, !m_dialog->RepublicanText().isEmpty());
   m_commands->SetEnabled(kCmdGoBack, m_dialog->History().CanGoBack());
@@ -214,7 +214,7 @@ void CCalendarFrame::OnToggleStatusBar() {
 // The frame takes or gives the room of the pane, so that the month stays as it is.
 void CCalendarFrame::OnTogglePane() {
   const bool isShown = !m_dialog->IsPaneShown();
-  Display().mainLayout.rightPaneShown = isShown ? 1 : 0;
+  Display().mainLayout.rightPaneShown = isShown;
   if (isShown) m_placement->Widen(m_dialog->PaneWidth());
   m_dialog->ShowPane(isShown);
   layout()->activate();  // the smallest size follows the pane

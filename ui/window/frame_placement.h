@@ -2,7 +2,7 @@
 // manager has put its frame around it, and tells where it stands when it closes.
 //
 //   CFramePlacement placement(window);                // lives as long as the window
-//   placement.Open(ToQRect(layout.rect), layout.maximized != 0);
+//   placement.Open(ToQRect(layout.rect), layout.maximized);
 //   placement.Widen(-paneWidth);                      // a part of the window goes, and its room with it
 //   SavePrintWindowLayout(store, layout, placement.Closing(), VirtualScreen());
 //
