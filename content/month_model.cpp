@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "content/day_rules.h"
+#include "content/month_page.h"
 #include "core/date_range.h"
 #include "core/week_number.h"
 
@@ -14,15 +15,6 @@ namespace {
 constexpr std::size_t kMaxDays = 31;  // of a month
 
 bool IsDropped(const Date& date) { return Rules().IsDropped(date.Packed()); }
-
-// The last day of the month that a date lies in, as the month's own page has it. A February can depend on the
-// day one asks from (Date::DaysInMonth): the page asks from the first day it shows.
-int LastDayOfPage(const Date& date) {
-  Date first = date;
-  first.day = 1;
-  while (IsDropped(first) && first.day < first.DaysInMonth()) ++first.day;
-  return first.DaysInMonth();
-}
 
 // The days of all pages one after the other: month lengths, dropped dates left out. On purpose: this is not
 // Date::AddDays; where a page shows 29 February in a year that has none, the days of the neighboring pages
