@@ -20,12 +20,12 @@ constexpr Entry kStrings[] = {
     {kTextPrevious, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
     {kTextNext, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
     {135, u"Installation incorrecte - réinstallez le programme."},
-    {137,
+    {kTextRuleKinds,
      u"À date fixe|Relatif à Pâques romain|Relatif à Pâques orthodoxe|Jour semaine donné|"
      u"Jour sem. avant date (incluse)|Jour sem. après date (incluse)|Bank Holiday (ni sam. ni dim.)|"
      u"Sauf dimanche"},
-    {138, u"premier|second|troisième|quatrième|dernier|"},
-    {139, u"1er|2e|3e|4e|Der.|"},
+    {kTextLongOrdinals, u"premier|second|troisième|quatrième|dernier|"},
+    {kTextShortOrdinals, u"1er|2e|3e|4e|Der.|"},
     {kCmdCopyJulianDate, u"Copier la date julienne dans le presse-papier\nCopier la date julienne"},
     {kCmdCopyRepublicanDate,
      u"Copier la date républicaine dans le presse-papier\nCopier la date républicaine"},
@@ -185,6 +185,26 @@ constexpr Entry kStrings[] = {
     {kTextCalendarNotSynced,
      u"Le calendrier « %s » est enregistré, mais le disque ne l'a pas confirmé.\n\n"
      u"Le fichier %s contient vos modifications ; une coupure de courant pourrait encore les faire perdre."},
+    {kTextRuleDays,
+     u"le %s|le %s, ou le lundi suivant s'il tombe un week-end|le %s, ou le lendemain s'il tombe un "
+     u"dimanche"},
+    {kTextNthWeekday, u"le %s %s de %s|le %s %s d'%s"},
+    {kTextWeekdayBesideDate, u"le dernier %s avant le %s inclus|le premier %s à partir du %s"},
+    {kTextRomanEasterDays,
+     u"le jour de Pâques|le lendemain de Pâques|la veille de Pâques|%d jours après Pâques|"
+     u"%d jours avant Pâques"},
+    {kTextOrthodoxEasterDays,
+     u"le jour de la Pâque orthodoxe|le lendemain de la Pâque orthodoxe|la veille de la Pâque orthodoxe|"
+     u"%d jours après la Pâque orthodoxe|%d jours avant la Pâque orthodoxe"},
+    {kTextNoRuleDay, u"aucun jour"},
+    {kTextYear, u"%d|l'an %d"},
+    {kTextValidityYears, u"depuis %s|jusqu'en %s|de %s à %s|en %s"},
+    {kTextValidityDates, u"depuis le %s|jusqu'au %s|du %s au %s|le %s seulement"},
+    {kTextOddValidity, u"bornes : %s et %s"},
+    {kTextNeverValid, u"jamais valable"},
+    {kTextPeriodDays, u"du %s au %s|1er"},
+    {kTextFallsOn, u"Tombe %s.|%s en %s|aucun jour en %s|Ne tombe aucun jour en %s."},
+    {kTextList, u", | et "},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
     {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},

@@ -10,10 +10,14 @@ namespace orbisol {
 // The entries that have no command or control of the same number. Numbers below 5000 came with the calendar's
 // data and menus; above it each part of the program has a range: 50xx names that the calendar speaks, 51xx
 // the main window, the fields that dialogs share, help and about, 52xx commands, 53xx editing (events,
-// periods, calendars), 54xx printing, 55xx the preferences, 56xx the holidays of other countries.
+// periods, calendars), 54xx printing, 55xx the preferences, 56xx the holidays of other countries, 57xx how
+// rules and dates are told and read.
 enum TextId : int {
   kTextPrevious = 131,  // tips of the header's arrows
   kTextNext = 132,
+  kTextRuleKinds = 137,      // one for each kind of rule
+  kTextLongOrdinals = 138,   // from the first to the fourth, and the last
+  kTextShortOrdinals = 139,  // the same
   kTextPictureFilter = 279,  // of a file dialog: caption, patterns
   kTextEras = 280,           // of a year before the first
   kTextNewMoon = 281,        // the other phases follow
@@ -96,6 +100,22 @@ enum TextId : int {
   kTextCalendarNotMade = 5303,            // there is no file: name, path
   kTextCalendarNotWrittenButtons = 5304,  // save under the free name, try again
   kTextCalendarNotSynced = 5305,          // name, path
+
+  kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
+  kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel
+  kTextWeekdayBesideDate = 5702,  // weekday and date: before, after
+  kTextRomanEasterDays = 5703,    // that day, the day after, the day before; number of days after, before
+  kTextOrthodoxEasterDays = 5704,
+  kTextNoRuleDay = 5705,      // of a rule that names no day of the calendar
+  kTextYear = 5706,           // number of a year; the same for one of at most two digits
+  kTextValidityYears = 5707,  // whole years: since, until, from and to, in one year
+  kTextValidityDates = 5708,  // the same by dates
+  kTextOddValidity = 5709,    // bounds as they stand
+  kTextNeverValid = 5710,
+  kTextPeriodDays = 5711,  // first and last date; the first day of a month
+  kTextFallsOn =
+      5712,          // sentence; days and years in it; years without a day; years of a sentence without days
+  kTextList = 5713,  // between the items of a list: any two, the last two
 };
 
 // Empty for a number that the table does not hold.

@@ -1,0 +1,98 @@
+// Rules and periods in French words.
+
+#include "content/rule_text.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/content/rule_builder.h"
+
+namespace orbisol {
+namespace {
+
+TEST(RuleTextTest, EveryKindHasItsWords) {
+  const struct {
+    DayEvent rule;
+    const char* words;
+  } kRows[] = {
+      {Rule(kFixedDate, {.month = 1, .day = 1}), "le 1er janvier"},
+      {Rule(kFixedDate, {.month = 7, .day = 14, .from = 18800101}), "le 14 juillet, depuis 1880"},
+      {Rule(kRomanEaster, {.day = 0}), "le jour de Pâques"},
+      {Rule(kRomanEaster, {.day = 1}), "le lendemain de Pâques"},
+      {Rule(kRomanEaster, {.day = 39}), "39 jours après Pâques"},
+      {Rule(kRomanEaster, {.day = -2}), "2 jours avant Pâques"},
+      {Rule(kOrthodoxEaster, {.day = -1}), "la veille de la Pâque orthodoxe"},
+      {Rule(kNthWeekday, {.month = 11, .weekday = 4, .weeknum = 4, .from = 19410101}),
+       "le 4e jeudi de novembre, depuis 1941"},
+      {Rule(kNthWeekday, {.month = 10, .weekday = 1, .weeknum = 1}), "le 1er lundi d'octobre"},
+      {Rule(kNthWeekday, {.month = 5, .weekday = 7, .weeknum = 5}), "le dernier dimanche de mai"},
+      {Rule(kWeekdayBefore, {.month = 11, .day = 22, .weekday = 3, .weeknum = 1}),
+       "le dernier mercredi avant le 22 novembre inclus"},
+      {Rule(kWeekdayAfter, {.month = 6, .day = 20, .weekday = 6, .weeknum = 1}),
+       "le premier samedi à partir du 20 juin"},
+      {Rule(kBankHoliday, {.month = 12, .day = 25}),
+       "le 25 décembre, ou le lundi suivant s'il tombe un week-end"},
+      {Rule(kExceptSunday, {.month = 5, .day = 1, .to = 19681231}),
+       "le 1er mai, ou le lendemain s'il tombe un dimanche, jusqu'en 1968"},
+      {Rule(kFixedDate, {.month = 0, .day = 99}), "aucun jour"},
+      {Rule(kFixedDate, {.month = 3, .day = 15, .from = 0, .to = 0}), "le 15 mars, jamais valable"},
+      {Rule(kNthWeekday, {.month = 3, .weekday = 9, .weeknum = -1}), "aucun jour"},
+      {Rule(DayEventType{8}, {}), "aucun jour"},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(RuleText(row.rule)), row.words);
+}
+
+TEST(RuleTextTest, ValiditiesAreToldByYearsWhereTheyCanBe) {
+  const struct {
+    RecordBounds bounds;
+    const char* words;
+  } kRows[] = {
+      {{kAlwaysFrom, kAlwaysTo}, ""},
+      {{19410101, 19681231}, "de 1941 à 1968"},
+      {{19450101, 19451231}, "en 1945"},
+      {{19410714, kAlwaysTo}, "depuis le 14 juillet 1941"},
+      {{kAlwaysFrom, 19680301}, "jusqu'au 1er mars 1968"},
+      {{19410101, 19680303}, "du 1er janvier 1941 au 3 mars 1968"},
+      {{20240501, 20240501}, "le 1er mai 2024 seulement"},
+      {{-441231, kAlwaysTo}, "depuis l'an -44"},
+      {{kAlwaysFrom, 331231}, "jusqu'en l'an 33"},
+      {{-440315, -440301}, "du 1er mars -44 au 15 mars -44"},
+      {{-440315, 20240101}, "bornes : 15 mars -44 et 1er janvier 2024"},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(ValidityText(row.bounds)), row.words);
+}
+
+TEST(RuleTextTest, PeriodsLeaveOutWhatBothEndsShare) {
+  const struct {
+    PackedDate from, to;
+    const char* words;
+  } kRows[] = {
+      {20240513, 20240522, "du 13 au 22 mai 2024"},
+      {20240501, 20240502, "du 1er au 2 mai 2024"},
+      {20240706, 20240901, "du 6 juillet au 1er septembre 2024"},
+      {20241221, 20250106, "du 21 décembre 2024 au 6 janvier 2025"},
+      {-440315, -440301, "du 1er au 15 mars -44"},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(PeriodText(Period(row.from, row.to))), row.words);
+}
+
+TEST(RuleTextTest, TheDaysOfSomeYearsAreOneSentence) {
+  const struct {
+    DayEvent rule;
+    int year;
+    const char* words;
+  } kRows[] = {
+      {Rule(kNthWeekday, {.month = 11, .weekday = 4, .weeknum = 4}), 2024,
+       "Tombe le 28 novembre en 2024, le 27 novembre en 2025, le 26 novembre en 2026."},
+      {Rule(kFixedDate, {.month = 7, .day = 14}), 2024, "Tombe le 14 juillet en 2024, 2025 et 2026."},
+      {Rule(kFixedDate, {.month = 2, .day = 29}), 2024,
+       "Tombe le 29 février en 2024, aucun jour en 2025 et 2026."},
+      {Rule(kFixedDate, {.month = 2, .day = 29}), 2025, "Ne tombe aucun jour en 2025, 2026 et 2027."},
+      {Rule(kFixedDate, {.month = 7, .day = 14}), 3998, "Tombe le 14 juillet en 3998 et 3999."},
+      {Rule(kWeekdayAfter, {.month = 3, .day = 1, .weekday = 1, .weeknum = 1}), -8,
+       "Tombe le 29 février et le 1er mars en -8, le 7 mars en -7, le 6 mars en -6."},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(FallsOnText({&row.rule, 1}, row.year, 3)), row.words);
+}
+
+}  // namespace
+}  // namespace orbisol
