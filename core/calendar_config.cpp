@@ -9,8 +9,8 @@ constinit CalendarRules liveRules;
 }
 
 void CalendarConfig::ApplyGregorianStart(PackedDate start) {
-  // Far enough back that a date of the reforms we know is read as a Gregorian one. On purpose: what the
-  // reform dropped before 10 October 1500 is read as Julian on both sides, and counts 0.
+  // This start lies before all reforms we know, so that their first days are read as Gregorian. On purpose:
+  // both dates of a reform before 10 October 1500 are read as Julian, and their distance is 0.
   constexpr PackedDate kStandInReform = 15001010;
 
   const YearMonthDay first = Unpack(start);
@@ -27,7 +27,7 @@ void CalendarConfig::ApplyGregorianStart(PackedDate start) {
 }
 
 CalendarRules DefaultCalendarRules() {
-  CalendarRules rules;  // the members begin as the Roman reform leaves them
+  CalendarRules rules;  // initialised to the Roman reform by its members
   const Locale& locale = *CurrentPlatform().locale;
   rules.iso8601 = Iso8601ByLocale(locale.FirstDayOfWeek(), locale.FirstWeekOfYear());
   return rules;

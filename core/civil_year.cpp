@@ -7,8 +7,8 @@ namespace {
 
 bool TableIsEmpty() { return Rules().firstDayOfYear[0].from == 0; }
 
-// The first row that begins on or before a date, else the empty one. The end of the table is tested first: 0
-// is greater than every date before the era.
+// Returns the index of the first row that begins on or before a date, else that of the empty row. The end of
+// the table is tested first, because its 0 is greater than every date before the era.
 int RowAt(PackedDate packed) {
   const CivilYearStart* const rows = Rules().firstDayOfYear;
   int i = 0;
@@ -16,13 +16,13 @@ int RowAt(PackedDate packed) {
   return i;
 }
 
-// The month and day of the row that governs a date, or 1 January.
+// Returns the month and day of the row that governs a date, or 1 January, as month * 100 + day.
 int GoverningStart(const Date& date) {
   const PackedDate from = Rules().firstDayOfYear[RowAt(date.Packed())].from;
   return from == 0 ? kFirstOfJanuary : MonthDayOf(from);
 }
 
-// The day number of the day of a year that is given as month * 100 + day.
+// Returns the day number of a day in a year; `monthDay` is month * 100 + day.
 std::int64_t DayNumberInYear(std::int64_t year, int monthDay) {
   return Date(Saturate(year), monthDay / 100, monthDay % 100).DayNumber();
 }
@@ -72,7 +72,7 @@ int SetCivilYear(Date& date, int target) {
   const int yearBefore = date.year;
   date.year = target;
   const int plain = CivilYearOf(date);
-  // On purpose: what the historical year was is asked for, not what the civil year should become.
+  // On purpose: the civil year is compared with the historical year before the call, not with `target`.
   if (plain == yearBefore) return plain;
 
   int reached = plain;

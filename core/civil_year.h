@@ -1,7 +1,7 @@
 // Civil years: the numbering of years where they began on another day than 1 January.
 //
 // A Date is always numbered from 1 January (the historical year). The rows of the rules
-// (CalendarConfig::firstDayOfYear) say from when on civil years began on another day, and whether their
+// (CalendarRules::firstDayOfYear) say from when on civil years began on another day, and whether their
 // number lagged behind (the days before the start counted to the year before) or ran one ahead ("J.+1").
 //
 //   // with the row {15000325, false}: Florence

@@ -12,43 +12,43 @@ constexpr int kYearShift = 4800;
 constexpr int kJulianCycle = 100 * kDaysIn4Years;  // days of 400 Julian years
 constexpr int kGregorianCycle = kDaysIn400Years;
 constexpr int kJulianOrigin = -32082;     // day number of 1 March -4800 in the Julian calendar
-constexpr int kGregorianOrigin = -32044;  // and in the Gregorian
+constexpr int kGregorianOrigin = -32044;  // day number of 1 March -4800 in the Gregorian calendar
 
 // The early Julian calendar had a leap year every third year from -44 on, none from 1 March -8 to 28 February
 // 4, and ordinary ones again from then on. The three stretches meet without a gap.
 constexpr int kTriennialStart = 1704987;  // day number of 1 January -44
-constexpr int kNoLeapStart = 1718199;     // of 1 March -8
-constexpr int kOrdinaryStart = 1722579;   // of 1 March 4
-constexpr int kTriennialShift = 4799;     // its years are counted from 1 March -4799 ...
-constexpr int kTriennialOrigin = -32113;  // ... the day number of that day, had the cycle always held
-constexpr int kNoLeapOrigin = -30881;     // of 1 March -4800, had there never been a leap year
+constexpr int kNoLeapStart = 1718199;     // day number of 1 March -8
+constexpr int kOrdinaryStart = 1722579;   // day number of 1 March 4
+constexpr int kTriennialShift = 4799;     // years from 1 March -4799, where the count of this cycle begins
+constexpr int kTriennialOrigin = -32113;  // day number of 1 March -4799, had the cycle always held
+constexpr int kNoLeapOrigin = -30881;     // day number of 1 March -4800, had there never been a leap year
 
 constexpr PackedDate kLastEarlyLeapDay = -80229;
 
-// The everyday dates: what follows fits 32 bits for them, and a division in half the width takes half the
-// time. Any other integers go the same way in 64 bits.
+// Everyday dates are counted in 32 bits, because a division in half the width takes half the time. All other
+// integers are counted by the same formulas in 64 bits.
 constexpr int kEverydayYears = 1000000;
 constexpr bool IsEveryday(int year, int month, int day) {
-  // One comparison each: what lies below the range is far above it as an unsigned number.
+  // One comparison tests both ends of a range: a value below it becomes a very large unsigned number.
   return static_cast<unsigned>(year) + kYearShift - 1 < kEverydayYears + kYearShift - 1u &&
          static_cast<unsigned>(month) - 1 < 12 && static_cast<unsigned>(day) < 100;
 }
 constexpr bool IsEveryday(int dayNumber) { return dayNumber > -32000 && dayNumber < 365 * kEverydayYears; }
 
-// The dates whose day number the early leap years decide.
+// First and last of the dates whose day number the early leap years decide.
 constexpr std::int64_t kEarlyFrom = DayOrder(-43, 1, 1);
 constexpr std::int64_t kEarlyTo = DayOrder(4, 2, 28);
 
-// Days from 1 March to the first of `month`, where January and February are the months 13 and 14 of the year
-// before. C. Tøndering, Calendar FAQ, "The Julian Period".
+// Returns the days from 1 March to the first of `month`, where January and February are the months 13 and 14
+// of the year before. C. Tøndering, Calendar FAQ, "The Julian Period".
 template <typename U>
 constexpr U DaysSinceMarch(U month) {  // [3, 14]
   return (153 * month - 457) / 5;      // [0, 337]
 }
 static_assert(DaysSinceMarch(3u) == 0 && DaysSinceMarch(8u) == 153 && DaysSinceMarch(14u) == 337);
 
-// The same by a shift instead of a division. C. Neri and L. Schneider, "Euclidean affine functions and their
-// application to calendar algorithms", 2022.
+// Returns DaysSinceMarch by a shift instead of a division. C. Neri and L. Schneider, "Euclidean affine
+// functions and their application to calendar algorithms", 2022.
 constexpr unsigned QuickDaysSinceMarch(unsigned month) {  // [3, 14]
   return (979 * month - 2919) / 32;                       // [0, 337]
 }
@@ -59,7 +59,7 @@ constexpr bool QuickDaysAgree() {
 }
 static_assert(QuickDaysAgree());
 
-// Century years whose leap day the Gregorian calendar dropped.
+// Returns how many of the first `centuries` century years have no leap day in the Gregorian calendar.
 template <typename U>
 constexpr U DroppedLeapDays(U centuries) {
   return centuries - centuries / 4;
@@ -72,24 +72,25 @@ struct MarchDay {
   U dayOfYear;  // 0 is 1 March
 };
 
-// `days` from the origin of a count whose every `years` years, `length` days long, end with one leap day.
+// Returns the day that lies `days` after the origin of a count. In that count each run of `years` years is
+// `length` days long and ends with its one leap day.
 template <typename U>
 constexpr MarchDay<U> MarchDayOf(U days, U years, U length) {
   const U scaled = days * years + years - 1;
   return {scaled / length, scaled % length / years};
 }
 
-// A Gregorian day is counted as if no century had dropped its leap day, and is then a Julian one of the same
-// date.
+// Returns the day that lies `days` after the origin. A Gregorian day is moved on by the leap days that
+// centuries dropped: the Julian day there has the same date.
 template <typename U>
 constexpr MarchDay<U> MarchDayInCycles(U days, bool gregorian) {
   const U centuries = (4 * days + 3) / kGregorianCycle;
   return MarchDayOf<U>(gregorian ? days + DroppedLeapDays(centuries) : days, 4, kDaysIn4Years);
 }
 
-// Month and day of a day of a March year, with January and February as months 13 and 14. Months have 153 days
-// in five, 30.6 on average: 2141 / 65536 of a month a day, and what is left over counts the days. Neri and
-// Schneider as above.
+// Month and day in a year that begins on 1 March, with January and February as months 13 and 14. Five months
+// have 153 days, 30.6 on average, so that a day is 2141 / 65536 of a month; the remainder counts the days of
+// the month. Neri and Schneider as above.
 struct MonthAndDay {
   unsigned month;  // [3, 14]
   unsigned day;    // [1, 31]
@@ -107,7 +108,7 @@ constexpr bool MonthsEndWhereTheyShould() {
 }
 static_assert(MonthsEndWhereTheyShould());
 
-// Sets year, month and day. The year of the origin is `firstYear`.
+// Sets year, month and day of `date`. `firstYear` is the year of the count's origin.
 template <typename U>
 void SetDate(Date& date, const MarchDay<U>& march, std::int64_t firstYear) {
   const auto [month, day] = MonthAndDayOf(static_cast<unsigned>(march.dayOfYear));
@@ -121,7 +122,8 @@ void SetDate(Date& date, const MarchDay<U>& march, std::int64_t firstYear) {
   date.day = static_cast<int>(day);
 }
 
-// Before -4800 a date 400, 800 … years later looks the same.
+// Sets the date of any day number. A day before the origin is moved on by whole cycles of 400 years, in which
+// month and day repeat, and its year back again.
 [[gnu::noinline]] void SetAnyDateInCycles(Date& date, int dayNumber, bool gregorian) {
   std::int64_t days = std::int64_t{dayNumber} - (gregorian ? kGregorianOrigin : kJulianOrigin);
   const int cycle = gregorian ? kGregorianCycle : kJulianCycle;
@@ -131,27 +133,27 @@ void SetDate(Date& date, const MarchDay<U>& march, std::int64_t firstYear) {
           -kYearShift - 400 * cyclesBack);
 }
 
-// Without the early leap years.
+// Sets the date of a day number in a calendar without the early leap years.
 void SetDateInCycles(Date& date, int dayNumber, bool gregorian) {
   if (!IsEveryday(dayNumber)) return SetAnyDateInCycles(date, dayNumber, gregorian);
   const auto days = static_cast<unsigned>(dayNumber - (gregorian ? kGregorianOrigin : kJulianOrigin));
   SetDate(date, MarchDayInCycles(days, gregorian), -kYearShift);
 }
 
-// The rare ways stand apart, so that the everyday one stays short: it is walked millions of times.
+// The rare cases are functions of their own, so that the everyday one, called millions of times, stays short.
 
-// The day number of a date between 1 January -43 and 28 February 4 under the early leap years.
+// Returns the day number of a date between 1 January -43 and 28 February 4 under the early leap years.
 [[gnu::noinline]] int EarlyDayNumber(int year, int month, int day) {
   const int before = month < 3 ? 1 : 0;
   const std::int64_t y = std::int64_t{year} + kYearShift - before;
   const std::int64_t inYear = std::int64_t{day} - 1 + DaysSinceMarch(std::int64_t{month} + 12 * before);
-  // On purpose: 29 February -8 is not before itself, and takes the number of 1 March.
+  // On purpose: `<` leaves 29 February -8 to the next count, which gives it the number of 1 March.
   if (DayOrder(year, month, day) < DayOrder(kLastEarlyLeapDay))
     return Saturate(inYear + kDaysInYear * (y - 1) + (y - 1) / 3 + kTriennialOrigin);
   return Saturate(inYear + kDaysInYear * y + kNoLeapOrigin);
 }
 
-// Sets a day from 1 January -44 to 28 February 4 under the early leap years.
+// Sets the date of a day from 1 January -44 to 28 February 4 under the early leap years.
 [[gnu::noinline]] void SetEarlyDate(Date& date, int dayNumber) {
   if (dayNumber < kNoLeapStart) {
     SetDate(date, MarchDayOf<unsigned>(static_cast<unsigned>(dayNumber - kTriennialOrigin), 3, kDaysIn3Years),
@@ -189,8 +191,8 @@ int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool
   const unsigned toYear = kDaysIn4Years * y / 4;  // 365.25 a year, rounded down
   const unsigned julian = static_cast<unsigned>(day - 1) +
                           QuickDaysSinceMarch(static_cast<unsigned>(month) + 12 * before) + toYear;
-  // The two calendars are joined by a mask, not a branch: dates come in any order, and the processor would
-  // guess wrong at every change between them.
+  // A mask selects the calendar instead of a branch: dates come in any order, and the processor would predict
+  // the branch wrongly at every change of calendar.
   const unsigned shift = static_cast<unsigned>(kGregorianOrigin - kJulianOrigin) - DroppedLeapDays(y / 100);
   const auto ifGregorian = static_cast<unsigned>(~(sinceReform >> 63));  // all bits or none
   return static_cast<int>(julian + (shift & ifGregorian)) + kJulianOrigin;
@@ -210,7 +212,7 @@ int GregorianDaysInMonth(int year, int month) {
 Date Date::Today() {
   if (Rules().startGregorian == 0) Rules().ApplyGregorianStart(kRomanReform);
   const YearMonthDay today = CurrentPlatform().clock->Today();
-  // On purpose: the clock is Gregorian also where a reform yet to come leaves the calendar Julian.
+  // On purpose: the clock is Gregorian even if the reform in force lies in the future.
   return DateOfDayNumber(DayNumberUnder(today.year, today.month, today.day, kAlwaysGregorian, false));
 }
 
@@ -244,7 +246,7 @@ int Date::DaysInMonth(int ofMonth) const {
   const CalendarRules& rules = Rules();
   if (!rules.proleptic && year >= -44 && year <= 7) return year <= -8 && (year - 7) % 3 == 0 ? 29 : 28;
   if (year > rules.ReformYear()) return GregorianDaysInMonth(year, 2);
-  // On purpose: the year of the reform is Julian here, also where the reform came before February.
+  // On purpose: the year of the reform is Julian here, even if the reform came before February.
   return CivilYear(Pack(year, 2, day)) % 4 == 0 ? 29 : 28;
 }
 

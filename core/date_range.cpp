@@ -4,7 +4,8 @@
 
 namespace orbisol {
 
-// The year is tested beside the order: a month that is none could carry the date into a year that is shown.
+// The year is tested as well as the order, because a month outside 1..12 can move the order into another
+// year.
 bool IsWithinBounds(const Date& date) {
   return IsYearShown(date.year) && DayOrder(kFirstDateShown) <= DayOrder(date) &&
          DayOrder(date) <= DayOrder(kLastDateShown);

@@ -8,7 +8,8 @@
 namespace orbisol {
 namespace {
 
-// Before the rest of a date, with the comma that the order wants.
+// Returns the weekday's name, 1 Monday .. 7, followed by the rest of a date; a comma stands between them
+// unless the day comes first.
 std::u16string WithWeekday(int dateOrder, int weekday, const std::u16string& rest) {
   return UpperFirst(WeekdayName(weekday)) + (dateOrder == 1 ? u" " : u", ") + rest;
 }

@@ -9,11 +9,11 @@
 namespace orbisol {
 namespace {
 
-constexpr double kRadians = 0.017453292519943295;  // of a degree
-constexpr double kDegrees = 57.29577951308232;     // of a radian
+constexpr double kRadians = 0.017453292519943295;  // radians in a degree
+constexpr double kDegrees = 57.29577951308232;     // degrees in a radian
 
-// An angle by its sine and cosine. The perturbations are sums of few angles, and sums of these take products
-// only, where a sine costs ten times as much.
+// Sine and cosine of an angle. The perturbations need the sines of many sums of few angles; these follow by
+// products, where each call of sin would cost ten times as much.
 struct SinCos {
   double sin;
   double cos;
@@ -29,41 +29,43 @@ SinCos operator-(SinCos a, SinCos b) {
 
 double DegreesOf(double y, double x) { return std::atan2(y, x) * kDegrees; }
 
-// Into [0, 360).
+// Returns the angle in [0, 360]. A negative angle too small for the sum gives 360 itself.
 double Reduce(double degrees) { return degrees - 360.0 * std::floor(degrees / 360.0); }
 
-// Orbital elements, in degrees and degrees a day: P. Schlyter, "Computing planetary positions".
+// Orbital elements: P. Schlyter, "Computing planetary positions". They are linear in the time t, in days
+// from the beginning of 31 December 1999 UT. For the days shown t is [-2191119.5, 730485.5], and no angle
+// exceeds 2.9e7 degrees, where neighboring doubles are 4e-9 degrees apart.
 struct Element {
-  double atStart;
-  double perDay;
+  double atStart;  // degrees
+  double perDay;   // degrees a day
 
   double At(double t) const { return atStart + perDay * t; }
 };
 
 constexpr Element kSunPerihelion{282.9404, 4.70935e-5};
 constexpr Element kSunAnomaly{356.047, 0.9856002585};
-constexpr Element kSunEccentricity{0.016709, -1.151e-9};  // a number, no angle
+constexpr Element kSunEccentricity{0.016709, -1.151e-9};  // a ratio; [0.0158, 0.0193] for the days shown
 constexpr Element kMoonNode{125.1228, -0.0529538083};
 constexpr Element kMoonPerigee{318.0634, 0.1643573223};
 constexpr Element kMoonAnomaly{115.3654, 13.0649929509};
 constexpr double kMoonEccentricity = 0.0549;
 constexpr double kMoonEccentricityInDegrees = 3.1455382952682194;
-constexpr double kMoonMinorAxis = 0.99698599;  // square of the ratio of the axes
-constexpr double kMoonInclination = 5.1454;
+constexpr double kMoonMinorAxis = 0.99698599;  // square of the ratio of the axes, 1 - e * e
+constexpr double kMoonInclination = 5.1454;    // degrees
 
-// The mean Moon ahead of the mean Sun.
+// Mean longitude of the Moon less that of the Sun.
 constexpr Element kMeanLead{kMoonNode.atStart + kMoonPerigee.atStart + kMoonAnomaly.atStart -
                                 kSunAnomaly.atStart - kSunPerihelion.atStart,
                             kMoonNode.perDay + kMoonPerigee.perDay + kMoonAnomaly.perDay -
                                 kSunAnomaly.perDay - kSunPerihelion.perDay};
 
 double SunLongitude(double t, double perihelion, double meanAnomaly, SinCos anomaly) {
-  const double e = kSunEccentricity.At(t);
+  const double e = kSunEccentricity.At(t);  // above 1 two million years ago; the root is then a NaN
   const SinCos eccentric = SinCosOf(meanAnomaly + e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
   return DegreesOf(std::sqrt(1.0 - e * e) * eccentric.sin, eccentric.cos - e) + perihelion;
 }
 
-// Kepler's equation by Newton's method. The first correction is always made.
+// Solves Kepler's equation by Newton's method; anomalies are in degrees. The first correction is always made.
 SinCos MoonEccentricAnomaly(double meanAnomaly, SinCos anomaly) {
   constexpr double kCloseEnough = 0.005;
   double angle =
@@ -71,13 +73,13 @@ SinCos MoonEccentricAnomaly(double meanAnomaly, SinCos anomaly) {
   for (;;) {
     const SinCos eccentric = SinCosOf(angle);
     const double correction = (angle - kMoonEccentricityInDegrees * eccentric.sin - meanAnomaly) /
-                              (1.0 - kMoonEccentricity * eccentric.cos);
+                              (1.0 - kMoonEccentricity * eccentric.cos);  // divided by [0.945, 1.055]
     angle -= correction;
-    if (!(std::abs(correction) >= kCloseEnough)) return SinCosOf(angle);
+    if (!(std::abs(correction) >= kCloseEnough)) return SinCosOf(angle);  // ends for a NaN too
   }
 }
 
-// On its ellipse, seen from the Earth, projected on the ecliptic.
+// Returns the Moon's longitude on its ellipse, seen from the Earth and projected on the ecliptic, in degrees.
 double UnperturbedMoonLongitude(double node, double perigee, double meanAnomaly, SinCos anomaly) {
   static const double axes = std::sqrt(kMoonMinorAxis);
   static const double tilt = SinCosOf(kMoonInclination).cos;
@@ -90,20 +92,21 @@ double UnperturbedMoonLongitude(double node, double perigee, double meanAnomaly,
   return DegreesOf(across * tilt, along) + node;
 }
 
+// Returns what the Sun adds to the Moon's longitude, in degrees [-2.5, 2.5]: the twelve greatest terms.
 double Perturbations(SinCos moon, SinCos sun, SinCos lead, SinCos fromNode) {
   const SinCos lead2 = lead + lead;
-  const SinCos moonLessLead2 = moon - lead2;  // the evection's angle
+  const SinCos moonLessLead2 = moon - lead2;  // angle of the evection, the greatest term
   return -1.274 * moonLessLead2.sin + 0.658 * lead2.sin - 0.186 * sun.sin -
          0.059 * (moonLessLead2 + moon).sin - 0.057 * (moonLessLead2 + sun).sin + 0.053 * (moon + lead2).sin +
          0.046 * (lead2 - sun).sin + 0.041 * (moon - sun).sin - 0.035 * lead.sin - 0.031 * (moon + sun).sin -
          0.015 * (fromNode + fromNode - lead2).sin + 0.011 * (moonLessLead2 - lead2).sin;
 }
 
-// Returns whether the day of `angle` is the nearest to the phase angle among its neighbors. Of two equally
-// near days the earlier one is.
+// Returns whether the day of `angle` is nearer to the phase angle than its two neighbors. Of two equally near
+// days the earlier one counts as the nearest. Angles are [0, 359], so that products stay below 360 * 360.
 bool IsNearestDay(int before, int angle, int after, int phase) {
   int center = phase;
-  if (phase == 0) {  // away from where angles jump from 359 to 0
+  if (phase == 0) {  // turned to the opposite side, where angles do not jump from 359 to 0
     center = 180;
     before = (before + 180) % 360;
     angle = (angle + 180) % 360;
@@ -112,12 +115,12 @@ bool IsNearestDay(int before, int angle, int after, int phase) {
   const int u = before - center;
   const int w = after - center;
   const int s = angle - center;
-  if (u * w > 0) return false;  // not reached between yesterday and tomorrow
+  if (u * w > 0) return false;  // the phase is not reached between yesterday and tomorrow
   if (s * u >= 0) return std::abs(s) <= std::abs(w);
   return std::abs(s) < std::abs(u);
 }
 
-// The phase whose day an angle may lie on.
+// Phase that may fall on the day of an angle, with its own angle.
 struct Candidate {
   MoonPhase phase;  // kNoPhase when there is none
   int angle;
@@ -131,7 +134,7 @@ Candidate CandidateOf(int angle) {
   return {kNoPhase, 0};
 }
 
-// The elongations of the noons around the one looked at, each computed once.
+// Elongations of the last noons asked for, each computed once: four in a row have different places.
 class CNoonElongations {
  public:
   int At(std::int64_t dayNumber) {
@@ -148,15 +151,16 @@ class CNoonElongations {
   Noon m_noons[4];
 };
 
-constexpr int kLeastGap = 6;  // days from one phase to the next, at the fewest
+constexpr int kLeastGap = 6;  // least number of days from one phase to the next
 
-// Returns whether the mean Moon is too far from all phase angles for the true one to be near. The true Moon
-// is at most 12 degrees away from the mean one in the whole range shown, and its phases are looked for within
-// 10 degrees.
+// Returns whether the mean Moon is too far from all phase angles for the true one to be near.
 bool IsFarFromPhases(double t) {
+  constexpr double kMostFromMean = 12.0;  // degrees between true and mean Moon, over the whole range shown
+  constexpr double kPhaseReach = 10.0;    // degrees from a phase within which CandidateOf looks for it
   constexpr double kFar = 23.0;
+  static_assert(kFar > kMostFromMean + kPhaseReach && kFar < 45.0);
   const double lead = kMeanLead.At(t);
-  const double fromPhase = lead - 90.0 * std::floor(lead / 90.0);
+  const double fromPhase = lead - 90.0 * std::floor(lead / 90.0);  // [0, 90]
   return fromPhase > kFar && fromPhase < 90.0 - kFar;
 }
 
@@ -176,7 +180,7 @@ int MoonElongation(double t) {
   const double longitude = UnperturbedMoonLongitude(node, perigee, moonAnomaly, moon) +
                            Perturbations(moon, sun, SinCosOf(lead), SinCosOf(fromNode));
   const double elongation = Reduce(SunLongitude(t, sunPerihelion, sunAnomaly, sun) - longitude);
-  return elongation < 360.0 ? static_cast<int>(elongation) : 0;
+  return elongation < 360.0 ? static_cast<int>(elongation) : 0;  // 0 also for a NaN
 }
 
 bool IsPhaseDay(double t, int angle, int phase) {

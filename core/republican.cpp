@@ -15,7 +15,7 @@ std::u16string_view Item(int textId, int index) { return Piece(StringText(textId
 }  // namespace
 
 RepublicanDate ToRepublican(const Date& date) {
-  // Days since the first day of a year 0.
+  // `days` counts from the first day of the year 0, one year of 365 days before the epoch.
   const std::int64_t days = std::int64_t{date.DayNumber()} - Date(kRepublicanEpoch).DayNumber() + kDaysInYear;
   const std::int64_t q400 = days / kDaysIn400Years;
   auto rest = static_cast<int>(days - kDaysIn400Years * q400);
@@ -26,7 +26,7 @@ RepublicanDate ToRepublican(const Date& date) {
   const int q1 = rest / kDaysInYear;
   auto year = static_cast<int>(400 * q400) + 100 * q100 + 4 * q4 + q1;
   int dayOfYear = rest - kDaysInYear * q1;
-  // The "+ 1" above took the last day of four years, the sixth complementary day, for the next year's.
+  // The sixth complementary day ends its four years, but the "+ 1" above has put it before the next year.
   if (dayOfYear == -1 && year % 4 == 0) {
     --year;
     dayOfYear = kDaysInYear;
@@ -35,7 +35,7 @@ RepublicanDate ToRepublican(const Date& date) {
 }
 
 int ComplementaryDays(int year) {
-  const std::int64_t next = std::int64_t{year} + 1;  // the leap day ends the year before the divisible one
+  const std::int64_t next = std::int64_t{year} + 1;  // divisible by 4 after a sextile year
   return next % 4 == 0 && (next % 100 != 0 || next % 400 == 0) ? 6 : 5;
 }
 

@@ -39,15 +39,15 @@ void AppendUtf8(std::string& out, char32_t c) {
   }
 }
 
-// The rest of a character after its first byte: how many bytes follow, and the range of the first of these.
+// Bytes that must follow the first byte of a character: their number, and the range of the first of them.
 struct Utf8Lead {
   int following;  // 0 for a byte that begins no character of more than one byte
   unsigned char firstMin;
   unsigned char firstMax;
 };
 
-// The well-formed sequences, table 3-7 of the Unicode standard: no overlong forms, no surrogates, none above
-// U+10FFFF.
+// Returns what may follow a byte, by table 3-7 of the Unicode standard: no overlong forms, no surrogates,
+// nothing above U+10FFFF.
 Utf8Lead LeadOf(unsigned char byte) {
   if (byte < 0xC2 || byte > 0xF4) return {0, 0, 0};
   if (byte < 0xE0) return {1, 0x80, 0xBF};
@@ -59,7 +59,7 @@ Utf8Lead LeadOf(unsigned char byte) {
   return {3, 0x80, 0xBF};
 }
 
-// A letter of an alphabet of Europe, with its capital and what it folds to.
+// Letter of a European language, with its capital and the text it folds to.
 struct Letter {
   char16_t unit;
   char16_t capital;
@@ -71,7 +71,7 @@ constexpr Letter kLetters[] = {
 static_assert(std::is_sorted(std::begin(kLetters), std::end(kLetters),
                              [](const Letter& a, const Letter& b) { return a.unit < b.unit; }));
 
-// Null for a unit that is its own capital and folds to itself.
+// Returns the row of a letter; null for a unit that is its own capital and folds to itself.
 const Letter* FindLetter(char16_t unit) {
   const Letter* const found =
       std::lower_bound(std::begin(kLetters), std::end(kLetters), unit,
@@ -103,7 +103,7 @@ std::u16string FromUtf8(std::string_view bytes) {
     bool complete = rest.following > 0;
     for (int k = 0; complete && k < rest.following; ++k) {
       if (i == bytes.size() || at(i) < rest.firstMin || at(i) > rest.firstMax) {
-        complete = false;  // the byte that does not belong begins the next character
+        complete = false;  // this byte begins the next character
       } else {
         c = (c << 6) | (at(i++) & 0x3Fu);
         rest.firstMin = 0x80;
@@ -191,7 +191,7 @@ int ParseDecimal(std::u16string_view text) {
   while (i < text.size() && (text[i] == u' ' || (text[i] >= u'\t' && text[i] <= u'\r'))) ++i;
   bool negative = false;
   if (i < text.size() && (text[i] == u'-' || text[i] == u'+')) negative = text[i++] == u'-';
-  constexpr long long kBeyond = 100000000000;  // no int reaches it, and ten times as much is no overflow
+  constexpr long long kBeyond = 100000000000;  // above every int, and ten times as much still fits
   long long number = 0;
   for (; i < text.size() && text[i] >= u'0' && text[i] <= u'9'; ++i)
     if (number < kBeyond) number = number * 10 + (text[i] - u'0');

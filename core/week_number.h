@@ -1,4 +1,4 @@
-// Week numbers, 1..53. Not meant for days before 1 January -4712, where any number may result.
+// Week numbers, 1..53. Days before 1 January -4712 are outside their range and get any number.
 //
 //   WeekNumber(Date(20241231));  // 1 in ISO weeks: the week of 1 January 2025
 #pragma once
