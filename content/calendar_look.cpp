@@ -5,8 +5,8 @@
 namespace orbisol {
 namespace {
 
-// On purpose: the last two columns differ. Settings taken over from an older release keep its look. The
-// captions come from the table of texts.
+// Names and values of the colors; ColorTable() adds the captions from the table of texts. On purpose: the
+// last two columns differ, because settings taken over from an older release keep the look of that release.
 constexpr ColorInfo kColorRows[] = {
     {kHeaderTextColor, "HeaderTextColor", {}, kHighlightTextColor, kHighlightTextColor},
     {kHeaderBgColor, "HeaderBgColor", {}, kHighlightColor, kHighlightColor},
@@ -22,7 +22,7 @@ constexpr ColorInfo kColorRows[] = {
     {kGrayTextColor, "GrayTextColor", {}, kGreyTextColor, kGreyTextColor},
     {kColorCalHeader, "ColorCalHeader", {}, kWindowTextColor, kWindowTextColor},
     {kColorBgCal, "ColorBgCal", {}, kButtonFaceColor, kButtonFaceColor},
-    // On purpose: older releases stored it, and it is not taken over.
+    // On purpose: a migration deletes the color that older releases stored and does not take it over.
     {kColorWeekNumber, "ColorWeekNumber", {}, kGreyTextColor, kGreyTextColor},
 };
 static_assert(std::size(kColorRows) == kColorCount);

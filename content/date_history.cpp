@@ -16,7 +16,7 @@ void CDateHistory::Visit(PackedDate date, DateMove move) {
     if (m_dates.size() > kMostDates) m_dates.erase(m_dates.begin());
     m_reachedBy = move == DateMove::kTypingBegins ? DateMove::kTyping : move;
   } else if (m_present > 0 && m_dates[m_present - 1] == date) {
-    m_dates.pop_back();  // back where the walk began
+    m_dates.pop_back();  // the walk has returned to where it began
     m_reachedBy = DateMove::kLeap;
   } else {
     m_dates[m_present] = date;

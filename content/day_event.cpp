@@ -5,7 +5,8 @@
 namespace orbisol {
 namespace {
 
-// On purpose: month 0 takes nearly any day; it falls on none.
+// Returns the greatest day that a rule may have in a month. On purpose: month 0 takes nearly any day, and
+// such a rule falls on no date.
 int LongestDay(int month) { return month == 0 ? 99 : LongestMonth(month); }
 
 bool IsBetween(int value, int low, int high) { return low <= value && value <= high; }

@@ -7,7 +7,7 @@
 namespace orbisol {
 namespace {
 
-// First and last of some consecutive days. Sums of any ints fit.
+// First and last of consecutive days, in 64 bits, which hold sums of any ints.
 struct Range {
   std::int64_t first;
   std::int64_t last;
@@ -17,13 +17,13 @@ struct Range {
 };
 constexpr Range kNothing{1, 0};
 
-// The year of a day, as far as rules depend on it. Easter is computed when the first rule asks for it.
+// Facts about one year on which rules depend. Easter is computed when the first rule asks for it.
 class CRuleYear {
  public:
   explicit CRuleYear(int year) : m_year(year) {}
 
-  // Returns the days on which a rule that counts from some day of the year can fall: day numbers, for the
-  // Orthodox Easter a packed date. Nothing for the other kinds.
+  // Returns the days on which a rule can fall if it counts from some day of the year: day numbers, for the
+  // Orthodox Easter packed dates. The other kinds have an empty range.
   Range RangeOf(const DayEvent& event) {
     switch (event.type) {
       case DayEventType::kRomanEaster:
@@ -32,9 +32,9 @@ class CRuleYear {
       case DayEventType::kOrthodoxEaster:
         if (m_year < kFirstEasterYear) return kNothing;
         return From(OrthodoxEaster(m_year, event.day), 1);
-      case DayEventType::kWeekdayBefore:  // the first week before ends with the date itself
+      case DayEventType::kWeekdayBefore:  // week 1 ends with the date itself
         return From(NumberOf(event) + 1 - 7 * std::int64_t{event.weeknum}, 7);
-      case DayEventType::kWeekdayAfter:  // the first week after begins with it
+      case DayEventType::kWeekdayAfter:  // week 1 begins with the date itself
         return From(NumberOf(event) + 7 * (std::int64_t{event.weeknum} - 1), 7);
       default:
         return kNothing;
@@ -69,7 +69,7 @@ bool IsNthInMonth(const RuleDay& ruleDay, int n) {
   std::int64_t day = ruleDay.day;
   std::int64_t length = Date(ruleDay.year, ruleDay.month, ruleDay.day).DaysInMonth();
 
-  // Where the reform skipped dates inside one month, the days that were are counted.
+  // If the reform removed dates inside one month, only the days that existed are counted.
   const CalendarRules& rules = Rules();
   const YearMonthDay start = Unpack(rules.startGregorian);
   const YearMonthDay dropped = Unpack(rules.julianEquivalentOfStart);
@@ -83,12 +83,12 @@ bool IsNthInMonth(const RuleDay& ruleDay, int n) {
   return n >= 1 && n <= 4 && day > 7 * (n - 1) && day <= 7 * n;
 }
 
-// `range` is that of the rule in the day's year.
+// Returns whether a rule falls on a day; `range` is RangeOf the rule in the day's year.
 bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
   constexpr int kMonday = 1;
   constexpr int kFriday = 5;
   constexpr int kSunday = 7;
-  const std::int64_t later = std::int64_t{day.day} - event.day;  // days past the rule's own, in its month
+  const std::int64_t later = std::int64_t{day.day} - event.day;  // days after the rule's own day of the month
   switch (event.type) {
     case DayEventType::kFixedDate:
       return event.month == day.month && later == 0;
@@ -102,7 +102,7 @@ bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
     case DayEventType::kWeekdayAfter:
       return event.weekday == day.weekday && range.Holds(day.dayNumber);
     case DayEventType::kBankHoliday:
-      // On purpose: the month is the rule's own. What is shifted past its end falls on no day.
+      // On purpose: only the rule's own month is looked at. A holiday shifted past its end falls on no day.
       return event.month == day.month && ((later == 0 && day.weekday <= kFriday) ||
                                           ((later == 1 || later == 2) && day.weekday == kMonday));
     case DayEventType::kExceptSunday:
@@ -112,7 +112,7 @@ bool FallsOn(const DayEvent& event, const Range& range, const RuleDay& day) {
   return false;
 }
 
-// Returns whether a rule looks at days by their month and not by a range.
+// Returns whether a rule falls in its own month only, so that other months can skip it.
 bool StaysInMonth(const DayEvent& event) {
   switch (event.type) {
     case DayEventType::kFixedDate:
@@ -154,7 +154,7 @@ void ForEachMatch(std::span<const DayEvent> events, std::span<const RuleDay> day
 
 unsigned MarkOf(const DayEvent& event) { return event.isPublic ? kHolidayMark : kEventMark; }
 
-// A text longer than will be kept takes no more names; CutJoined then ends it.
+// Appends the name of a rule, unless the text is already longer than what CutJoined keeps.
 void Join(std::u16string& names, const DayEvent& event) {
   if (names.size() > kMaxJoinedUnits) return;
   if (!names.empty()) names += u" + ";

@@ -8,7 +8,7 @@
 namespace orbisol {
 namespace {
 
-// Hashes of the fields in which the records of one list differ most. Equality looks at all of them.
+// Return hashes of the fields in which the records of one list differ most; equality compares all fields.
 std::size_t Mixed(std::size_t hash, int number) { return hash * 1000003 + static_cast<unsigned>(number); }
 
 struct RecordHash {

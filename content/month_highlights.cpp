@@ -21,7 +21,7 @@ void AddTexts(std::vector<Highlight>& list, const DayCell& cell) {
 std::vector<Highlight> HighlightsOf(const MonthModel& month) {
   std::vector<Highlight> list;
   std::vector<Highlight> moons;
-  std::size_t period = 0;  // one more than the index of the period that holds the cell before; 0 for none
+  std::size_t period = 0;  // 1 + index of the period that holds the cell before this one; 0 if none does
   for (int i = month.FirstCell(); i <= month.LastCell(); ++i) {
     const DayCell& cell = month.cells[static_cast<std::size_t>(i)];
     if (cell.day == 0 || cell.month != month.month) continue;
@@ -49,7 +49,7 @@ std::optional<Highlight> NextPublicHoliday(std::span<const DayEvent> rules, cons
   std::int64_t dayNumber = std::int64_t{after.DayNumber()} + 1;
   const std::int64_t last = dayNumber + kDaysToNextHoliday - 1;
   while (dayNumber <= last) {
-    // The rules are gone through once for all days of a month.
+    // Matching a month at once goes through the rules once instead of once a day.
     std::size_t count = 0;
     for (; count < kMaxDays && dayNumber <= last; ++dayNumber) {
       const Date date = DateOfDayNumber(Saturate(dayNumber));

@@ -12,13 +12,12 @@
 namespace orbisol {
 namespace {
 
-constexpr std::size_t kMaxDays = 31;  // of a month
+constexpr std::size_t kMaxDays = 31;  // length of the longest month
 
 bool IsDropped(const Date& date) { return Rules().IsDropped(date.Packed()); }
 
-// The days of all pages one after the other: month lengths, dropped dates left out. On purpose: this is not
-// Date::AddDays; where a page shows 29 February in a year that has none, the days of the neighboring pages
-// agree with it.
+// Moves to the next day that a page shows, passing over dropped dates. On purpose: this is not Date::AddDays.
+// If a page shows 29 February in a year that has none, the neighboring pages must agree with it.
 void StepOn(Date& date) {
   do {
     if (date.day < LastDayOfPage(date)) {
@@ -41,7 +40,8 @@ void StepBack(Date& date) {
   } while (IsDropped(date));
 }
 
-// On purpose: the weekday is that of the day's number, also where that differs from the column's.
+// Sets the date of a cell. On purpose: the weekday follows from the day number, even if it differs from that
+// of the column.
 void SetDate(DayCell& cell, const Date& date, const RuleDay& ruleDay) {
   cell.day = date.day;
   cell.weekday = ruleDay.weekday % kDaysInWeek;
@@ -54,7 +54,7 @@ void SetDate(DayCell& cell, const Date& date) { SetDate(cell, date, RuleDayOf(da
 
 enum class Titles { kShown, kHidden };
 
-// The first period in the list that holds a day marks it.
+// Marks the days that lie in a period. The first period in the list that holds a day gives its title.
 void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cells, Titles titles) {
   if (cells.empty()) return;
   PackedDate lowest = cells[0].ymd;
@@ -73,7 +73,7 @@ void MarkPeriods(std::span<const HolidayPeriod> periods, std::span<DayCell> cell
   }
 }
 
-// On purpose: a public holiday hides the personal events of its day.
+// Sets the marks and names of all days. On purpose: a public holiday hides the personal events of its day.
 void MarkRules(std::span<const DayEvent> events, std::span<const RuleDay> days, std::span<DayCell> cells) {
   std::array<DayMatch, kMaxDays> matches;
   MatchDaysOfMonth(events, days, std::span(matches).first(days.size()));
@@ -103,7 +103,7 @@ Color At(const std::array<Color, kColorCount>& colors, ColorIndex index) {
   return colors[static_cast<std::size_t>(index)];
 }
 
-// On purpose: the two colors of a day have different precedences.
+// Sets the colors of all days. On purpose: text and background have different orders of precedence.
 void ColorDays(std::span<DayCell> cells, const std::array<Color, kColorCount>& colors) {
   for (DayCell& cell : cells) {
     ColorIndex text = kStandardTextColor;
@@ -143,7 +143,8 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
     day = first.day;
   }
 
-  // Days before the 1st, from the last of them back. `start` and `end` bound what is filled.
+  // Cells before the 1st are filled backwards from the last of them. `start` and `end` bound the filled
+  // cells.
   const int day1 = m_firstCell + (first.Weekday(true) - m_firstCell + kDaysInWeek) % kDaysInWeek;
   int start = day1;
   for (Date before = first; start > m_firstCell;) {
@@ -163,8 +164,8 @@ void MonthModel::Build(const CalendarContent& content, const std::array<Color, k
   }
   const int afterMonth = end;
 
-  // Days after the last, to the end of its week. On purpose: they all have the week number of the first. Up
-  // to seven, where the number of the last day is not that of its column.
+  // Cells after the last day complete its week: up to seven if the weekday of the last day differs from that
+  // of its column. On purpose: they all have the week number of the first of them.
   const int lastWeekday = mondayFirst ? 0 : 6;
   --date.day;
   while (cells[static_cast<std::size_t>(end - 1)].weekday != lastWeekday && end < afterMonth + kDaysInWeek) {

@@ -51,12 +51,11 @@ struct MonthModel {
   int month = 0;  // 1..12
   int day = 1;    // kept by Build
 
-  // Computes all cells under the rules in force. Where the reform removed the 1st of the month, the model's
-  // date becomes the first day that exists from there on, and stays so; of a month that it removed whole that
-  // is a day of the next one. On purpose: a public holiday hides the personal events of
-  // its day; a day's text color is that of holiday or event before vacation, its background that of vacation
-  // before holiday before event; days of the neighboring months have no moon and no marks but that of a
-  // vacation period.
+  // Computes all cells under the rules in force. If the reform removed the 1st, year, month and day move on
+  // to the first day that exists, possibly in the next month, and stay there. On purpose: a public holiday
+  // hides the personal events of its day; a day's text color is that of holiday or event before vacation, its
+  // background that of vacation before holiday before event; days of the neighboring months have no moon and
+  // no marks but that of a vacation period.
   void Build(const CalendarContent& content, const std::array<Color, kColorCount>& colors, Moon moon);
 
   // Returns where the first row begins: 1 with Monday-first weeks, else 0.

@@ -1,4 +1,4 @@
-#include "content/reform_remark.h"
+#include "content/reform_note.h"
 
 #include <algorithm>
 
@@ -11,19 +11,19 @@
 namespace orbisol {
 namespace {
 
-enum { kBefore, kAtReform, kWithoutReform };  // pieces of kTextReform
+enum { kBefore, kAtReform, kWithoutReform };  // indices of the pieces of kTextReform
 
 int MonthIndex(int year, int month) { return 12 * year + month; }
 
 }  // namespace
 
-std::u16string ReformRemark(int year, int month) {
+std::u16string ReformNote(int year, int month) {
   const std::u16string_view texts = StringText(kTextReform);
   const int reform = Rules().firstGregorianDayNumber;
   if (reform > Date(kLastDateShown).DayNumber()) return std::u16string(Piece(texts, u'|', kWithoutReform));
   const Date first = DateOfDayNumber(reform);
   const Date last = DateOfDayNumber(reform - 1);
-  // A reform in the first centuries calls its first day by an earlier date than the day before it.
+  // In the first centuries the first Gregorian day has an earlier date than the last Julian day.
   const auto [from, to] =
       std::minmax({MonthIndex(last.year, last.month), MonthIndex(first.year, first.month)});
   const int asked = MonthIndex(year, month);

@@ -13,10 +13,9 @@ Date& Selected() {
 }
 
 void StepDays(Date& date, int days) {
-  // Some days read as a date that has another day's number: 29 February -8 has that of 1 March, and after a
-  // reform before the year 200 dates come twice. A step back that ends on such a day is no step back, and
-  // goes on until the date is an earlier one. The longest repeat, of a reform at the very beginning, is 32
-  // days.
+  // Some days have the date of another day: 29 February -8 takes the number of 1 March, and after a reform
+  // before the year 200 dates come twice. A step back can therefore end on the same or a later date; it goes
+  // on until the date is earlier. The longest repeat, of a reform at the very beginning, is 32 days.
   constexpr int kLongestRepeat = 40;
   const Date start = date;
   std::int64_t dayNumber = std::int64_t{start.DayNumber()} + days;
@@ -31,7 +30,7 @@ void StepMonths(Date& date, int months) {
   ClampToBounds(date);
 }
 
-// On purpose: 29 February is kept in a common year.
+// Moves by years. On purpose: 29 February is kept in a common year.
 void StepYears(Date& date, int years) {
   SelectDate(date, Saturate(std::int64_t{date.year} + years), date.month, date.day);
 }

@@ -8,10 +8,10 @@
 namespace orbisol {
 namespace {
 
-// Pieces of kTextDayKinds.
+// Indices of the pieces of kTextDayKinds.
 enum { kKindHoliday, kKindEvent, kKindVacation, kKindToday };
 
-// "31 novembre" and "1er décembre".
+// Returns "31 novembre", "1er décembre" and the like.
 std::u16string DayAndMonth(const Date& date) {
   const std::u16string month = MonthName(date.month);
   const std::u16string_view forms = StringText(kTextDayOfMonth);

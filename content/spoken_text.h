@@ -12,7 +12,7 @@
 
 namespace orbisol {
 
-// Returns a sentence that says which day a date counts as that does not exist; empty for a date that exists.
+// Returns a sentence that says as which day a date counts that does not exist; empty for a date that exists.
 std::u16string MissingDateText(const Date& date);
 
 // Returns both ends of a range and its length; `from` is the earlier. A single day has a form of its own.

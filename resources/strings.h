@@ -87,7 +87,7 @@ enum TextId : int {
   kTextUsage = 5190,             // answer to --help
   kTextUnknownWord = 5191,       // of the command line, in one line
   kTextKeptPlaceholders = 5192,  // of the remembered date and of its distance, while these are empty
-  kTextReform = 5193,            // remarks over Julian months: before a reform, at it, without one
+  kTextReform = 5193,            // notes over Julian months: before a reform, at it, without one
   kTextMonthList = 5194,
   kTextDaysOfPeriod = 5195,  // title, first and last day
   kTextSpokenLine = 5196,    // long date and text

@@ -24,7 +24,7 @@ int FieldWidth(const QLineEdit& field, const QString& text);
 // description too, because readers replace the name of a list with the item chosen in it.
 void NameField(QWidget* field, int piece);
 
-// Returns a new label for a date, semi-bold to be told from titles and remarks, which the mouse and Tab
+// Returns a new label for a date, semi-bold to be told from titles and notes, which the mouse and Tab
 // reach.
 QLabel* MakeDateLabel();
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 
 #include "content/calendar_content.h"
-#include "content/reform_remark.h"
+#include "content/reform_note.h"
 #include "content/selected_date.h"
 #include "resources/strings.h"
 #include "ui/shell/status_text.h"
@@ -158,7 +158,7 @@ QString CMainDlg::Description() {
 void CMainDlg::Refresh(DateMove move) {
   Visit(move);
   m_month->Refresh();
-  m_group->SetRemark(ToQString(ReformRemark(Selected().year, Selected().month)));
+  m_group->SetNote(ToQString(ReformNote(Selected().year, Selected().month)));
   m_header->Refresh();
   m_pane->Refresh();
   m_pane->ShowMonth(m_month->Month());

@@ -9,7 +9,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kTitleIndent = 7;  // pixels left of the title in a group without a layout
-constexpr int kRemarkGap = 16;   // least distance of title and remark, in pixels
+constexpr int kNoteGap = 16;     // least distance of title and note, in pixels
 
 }  // namespace
 
@@ -28,10 +28,10 @@ int CCalendarGroup::ContentTop() const {
          style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this).top();
 }
 
-void CCalendarGroup::SetRemark(const QString& remark) {
-  if (remark == m_remark) return;
-  m_remark = remark;
-  setAccessibleDescription(remark);
+void CCalendarGroup::SetNote(const QString& note) {
+  if (note == m_note) return;
+  m_note = note;
+  setAccessibleDescription(note);
   update();
 }
 
@@ -48,8 +48,8 @@ void CCalendarGroup::paintEvent(QPaintEvent*) {
   const QRect line(left, label.top(), width() - 2 * left, label.height());
   painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, title());
   const QFontMetrics metrics = painter.fontMetrics();
-  if (metrics.horizontalAdvance(title()) + kRemarkGap + metrics.horizontalAdvance(m_remark) <= line.width())
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_remark);
+  if (metrics.horizontalAdvance(title()) + kNoteGap + metrics.horizontalAdvance(m_note) <= line.width())
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_note);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(LineColor(*this));
   constexpr qreal kCorner = 3;

@@ -15,16 +15,16 @@ class CCalendarGroup : public QGroupBox {
   // Returns where content may begin below the title, in pixels from the upper edge.
   int ContentTop() const;
 
-  // Shows a remark at the right end of the title's line, for screen readers as the group's description. It is
+  // Shows a note at the right end of the title's line, for screen readers as the group's description. It is
   // left out where the two do not fit; empty for none.
-  void SetRemark(const QString& remark);
-  QString Remark() const { return m_remark; }
+  void SetNote(const QString& note);
+  QString Note() const { return m_note; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QString m_remark;
+  QString m_note;
 };
 
 // Returns the color of lines between and around groups: that of the text, as faint as a line may be. `widget`
