@@ -20,7 +20,7 @@
 namespace orbisol {
 namespace {
 
-// Least sizes by the size of the font (its em), at which the month is still read with ease.
+// Least sizes at which the month is still easy to read, in units of the font's size (its em).
 constexpr double kLeastColumnWidth = 4.7;
 constexpr double kLeastHeight = 25;
 
@@ -44,7 +44,7 @@ CMainDlg::CMainDlg(bool isPaneShown, QWidget* parent)
   Measure();
 
   connect(m_header, &CHeaderWnd::dateChanged, this, &CMainDlg::Refresh);
-  // Each move is noted when it is made; showing it everywhere can wait until the keyboard has been heard.
+  // Each move enters the history at once; showing it everywhere waits until pending keys have been handled.
   connect(m_month, &CMonthWindow::dateMoved, this, &CMainDlg::Visit);
   connect(m_month, &CMonthWindow::dateMoved, this, &CMainDlg::Refresh, Qt::QueuedConnection);
   connect(m_month, &CMonthWindow::dateDragged, this, [this] { Refresh(DateMove::kStep); });
@@ -86,14 +86,14 @@ void CMainDlg::Measure() {
   const int around = 2 * (kMargin + kGap);
   const int texts = m_header->minimumSizeHint().width() + around;
   const int month = std::max(qRound(kLeastColumnWidth * em) * kDayColumns + around, texts);
-  // Where the two have no room side by side the month gives way to the pane first, then the pane, which
+  // If the two do not fit side by side, first the month shrinks to its least width, then the pane, which
   // scrolls.
-  m_paneWidth = PaneWidthFor(m_pane->sizeHint().width());
-  if (texts + m_paneWidth > room.width()) m_paneWidth = PaneWidthWithin(room.width() - texts);
+  m_paneWidth = RoundPaneWidthUp(m_pane->sizeHint().width());
+  if (texts + m_paneWidth > room.width()) m_paneWidth = RoundPaneWidthDown(room.width() - texts);
 
   int width = month;
   const int height = std::max(qRound(kLeastHeight * em), kHeaderShare * m_header->minimumSizeHint().height());
-  if (m_isPaneShown) width += m_paneWidth;  // its height asks for nothing: it scrolls
+  if (m_isPaneShown) width += m_paneWidth;  // it needs no least height, because it scrolls
   const QSize least = QSize(width, height).boundedTo(room);
   setMinimumSize(least.width(), EvenHeight(least.height()));
 }
@@ -134,7 +134,7 @@ void CMainDlg::changeEvent(QEvent* event) {
 void CMainDlg::ShowPane(bool isShown) {
   if (isShown == m_isPaneShown) return;
   m_isPaneShown = isShown;
-  // A pane that is not seen must not be reached with Tab either.
+  // Tab must not reach a pane that is not seen.
   m_pane->setVisible(isShown);
   m_separator->setVisible(isShown);
   Measure();

@@ -24,8 +24,8 @@ class CMainDlg : public QWidget {
  public:
   explicit CMainDlg(bool isPaneShown, QWidget* parent = nullptr);
 
-  // Shows the selected date everywhere. `move` says how it was changed; a date that is the same counts for
-  // nothing.
+  // Shows the selected date everywhere. `move` says how it was changed; an unchanged date leaves the history
+  // alone.
   void Refresh(DateMove move = DateMove::kLeap);
   // Takes over colors, fonts, switches, calendar rules and content that were changed.
   void SettingsChanged();
@@ -37,8 +37,8 @@ class CMainDlg : public QWidget {
   // Returns by how many pixels the window grows with the pane; it follows the font and the screen.
   int PaneWidth() const { return m_paneWidth; }
 
-  // Measures anew how small the dialog may become: its texts stay whole, yet the window fits on its screen.
-  // To be called when the dialog stands in its window, and when bars appear or the screen changes.
+  // Computes the least size of the dialog: its texts stay whole, yet the window fits on its screen. Call it
+  // when the dialog has its place in the window, and when bars appear or the screen changes.
   void Measure();
   // Returns the largest height, at most `height`, at which all weeks of the month are equally high.
   int EvenHeight(int height) const;
@@ -49,7 +49,7 @@ class CMainDlg : public QWidget {
   // Gives the keyboard to the month.
   void FocusMonth();
 
-  // Go through the dates visited; where there is none on that side nothing happens.
+  // Go through the dates visited; do nothing where there is none on that side.
   void GoBack();
   void GoForward();
   const CDateHistory& History() const { return m_history; }
@@ -59,11 +59,11 @@ class CMainDlg : public QWidget {
   CConverterPane& Pane() { return *m_pane; }
 
  signals:
-  // The selected date may have changed, and with it the commands that can be given. `description` is the line
-  // of the status bar (status_text.h).
+  // Tells that the selected date may have changed, and with it the commands that can be given. `description`
+  // is the line of the status bar (status_text.h).
   void dateShown(const QString& description);
-  void periodChosen(const Date& from, const Date& to);  // days were selected to be edited; from <= to
-  void dayOpened(const Date& date);                     // the selected day was opened to be edited
+  void periodChosen(const Date& from, const Date& to);  // the user selected days to edit; from <= to
+  void dayOpened(const Date& date);                     // the user opened the selected day to edit it
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -10,22 +10,22 @@
 
 namespace orbisol {
 
-// As the dialog was designed; all columns of a month come out equal because kGap + kMargin is a multiple of
-// seven, as the pane's width must be too.
+// Distances of the dialog's design. All columns of a month are equally wide because kGap + kMargin is a
+// multiple of seven; the pane's width must be one too.
 constexpr int kMargin = 7;        // left of the group box
-constexpr int kGap = 7;           // from its edge to the header and the grid
+constexpr int kGap = 7;           // from the edge of the group box to the header and the grid
 constexpr int kTopMargin = 5;     // above the group box, and below
 constexpr int kHeaderToGrid = 4;  // between header and grid
 constexpr int kDayColumns = 7;
-constexpr int kHeaderShare = 7;  // the header takes one part of so many of the dialog's height
+constexpr int kHeaderShare = 7;  // the header's height is one part in so many of the dialog's
 static_assert((kGap + kMargin) % kDayColumns == 0);
 
 struct MainMeasures {
-  int width = 0;  // of the dialog
+  int width = 0;  // size of the dialog
   int height = 0;
   int headerTop = 0;         // below the title of the group box
   int leastHeader = 0;       // height that the texts of the header need
-  bool weekNumbers = false;  // shown
+  bool weekNumbers = false;  // whether week numbers are shown
   bool paneShown = true;
   int paneWidth = 0;  // a multiple of kDayColumns
 };
@@ -35,21 +35,21 @@ struct MainLayout {
   Rect header;
   Rect grid;
   Rect separator;
-  Rect pane;  // right of the client area where it is hidden
+  Rect pane;  // outside at the right while the pane is hidden
 
   bool operator==(const MainLayout&) const = default;
 };
 
-// Any numbers are accepted; what has no room is empty, never turned inside out.
+// Returns the places of all parts. Any numbers are accepted; a part without room is empty, never inverted.
 MainLayout LayOutMain(const MainMeasures& measures);
 
-// Returns the largest height of the dialog, at most `height`, at which the seven rows of the grid come out
-// equal.
+// Returns the largest height of the dialog, at most `height`, at which the seven rows of the grid are
+// equally high.
 int EvenHeight(int height, int headerTop, int leastHeader = 0);
 
 // Returns the smallest multiple of kDayColumns that holds `width`.
-constexpr int PaneWidthFor(int width) { return (width + kDayColumns - 1) / kDayColumns * kDayColumns; }
+constexpr int RoundPaneWidthUp(int width) { return (width + kDayColumns - 1) / kDayColumns * kDayColumns; }
 // Returns the largest multiple of kDayColumns within `width`; 0 for a negative width.
-constexpr int PaneWidthWithin(int width) { return width < 0 ? 0 : width / kDayColumns * kDayColumns; }
+constexpr int RoundPaneWidthDown(int width) { return width < 0 ? 0 : width / kDayColumns * kDayColumns; }
 
 }  // namespace orbisol
