@@ -39,8 +39,8 @@ void CCalendarGroup::paintEvent(QPaintEvent*) {
   QStyleOptionGroupBox option;
   initStyleOption(&option);
   const QRect label = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
-  // The title begins where the content does. The first item knows that; the layout's own rectangle is moved
-  // by the style in a group that holds a check box.
+  // The title is aligned with the content. The first item gives its place, because the style moves the
+  // layout's own rectangle in a group that holds a check box.
   const bool hasContent = layout() != nullptr && layout()->count() > 0;
   const int left = hasContent ? layout()->itemAt(0)->geometry().left() : kTitleIndent;
   QPainter painter(this);

@@ -23,7 +23,7 @@ double Contrast(const QColor& a, const QColor& b) {
 
 QColor LegibleOn(const QColor& ground, QColor ink) {
   constexpr double kLegible = 4.5;
-  constexpr int kStep = 4;  // of 255; the end of the scale, black or white, is always reached
+  constexpr int kStep = 4;  // lightness, of 255; the steps reach black or white at last
   const int change = Contrast(ground, Qt::black) > Contrast(ground, Qt::white) ? -kStep : kStep;
   while (Contrast(ink, ground) < kLegible && (change < 0 ? ink.lightness() > 0 : ink.lightness() < 255))
     ink.setHsl(ink.hslHue(), ink.hslSaturation(), std::clamp(ink.lightness() + change, 0, 255));

@@ -1,4 +1,4 @@
-// Colors on their way to the toolkit.
+// Conversion of colors to the toolkit's, and their legibility.
 #pragma once
 
 #include <QColor>
@@ -16,8 +16,8 @@ inline QColor ToQColor(Color color) {
 // Accessibility Guidelines 2.1 define it. Small texts are read with ease from 4.5 on.
 double Contrast(const QColor& a, const QColor& b);
 
-// Returns `ink` if a small text of it is read with ease on `ground`; else the nearest color of the same hue,
-// darker or lighter, that is.
+// Returns `ink` if a small text in it is easy to read on `ground`; else the nearest darker or lighter color
+// of the same hue that is.
 QColor LegibleOn(const QColor& ground, QColor ink);
 
 }  // namespace orbisol

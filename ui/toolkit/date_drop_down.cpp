@@ -38,7 +38,7 @@ QToolButton* MakeArrow(Qt::ArrowType arrow, const QString& name) {
   return button;
 }
 
-// A step may lead to a date that does not exist; the day that it counts as does.
+// Returns the date itself, or, for one that does not exist, the date of the day that it counts as.
 Date ExistingDate(const Date& date) {
   return DoesDateExist({date.year, date.month, date.day}) ? date : DateOfDayNumber(date.DayNumber());
 }
@@ -53,7 +53,7 @@ CDateDropDown::CDateDropDown(QWidget* field)
   setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
   setAccessibleName(TablePiece(kTextDateEdit, 1));
 
-  constexpr int kPreviousMonth = 1;  // pieces of the header's names
+  constexpr int kPreviousMonth = 1;  // indices of pieces of kTextHeaderNames
   constexpr int kNextMonth = 2;
   auto* const previous = MakeArrow(Qt::LeftArrow, TablePiece(kTextHeaderNames, kPreviousMonth));
   auto* const next = MakeArrow(Qt::RightArrow, TablePiece(kTextHeaderNames, kNextMonth));
@@ -99,7 +99,7 @@ CDateDropDown::CDateDropDown(QWidget* field)
 }
 
 void CDateDropDown::Open(PackedDate ymd, const QString& noneText) {
-  setFont(parentWidget()->font());  // a window of its own would take that of the application
+  setFont(parentWidget()->font());  // a top-level window has the application's font by default
   m_none->setText(MenuText(UpperFirst(Utf16View(noneText))));
   m_none->setVisible(!noneText.isEmpty());
   SetColumnWidths();
@@ -116,7 +116,7 @@ void CDateDropDown::Open(PackedDate ymd, const QString& noneText) {
   m_table->setFocus(Qt::PopupFocusReason);
 }
 
-// Columns as wide as the widest of names and days, so that the table follows the font.
+// Makes the columns as wide as the widest of names and days, so that the table follows the font.
 void CDateDropDown::SetColumnWidths() {
   const QFontMetrics metrics(m_table->font());
   int widest = metrics.horizontalAdvance(QStringLiteral("00"));

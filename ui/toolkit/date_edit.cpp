@@ -76,7 +76,7 @@ QString CDateEdit::TextOf(PackedDate ymd) const {
   return ymd == 0 ? m_noneText : ToQString(FieldDate(ymd, UserOrder()));
 }
 
-// The only reader of what was typed.
+// Reads the text anew. No other function interprets what was typed.
 void CDateEdit::ReadText() {
   const QString typed = text().trimmed();
   if (!m_noneText.isEmpty() && (typed.isEmpty() || typed.compare(m_noneText, Qt::CaseInsensitive) == 0)) {
@@ -98,7 +98,7 @@ void CDateEdit::Take(PackedDate ymd, const QString& error) {
   if (wasValid != IsValid()) emit validityChanged(IsValid());
 }
 
-// A sign beside the text and a description, so that neither colors nor eyes are needed to notice it.
+// Shows an error by a sign beside the text and by a description, so that neither color nor sight is needed.
 void CDateEdit::ShowMark() {
   const bool isMarked = !m_error.isEmpty() && !(m_isUnfinished && (hasFocus() || text().isEmpty()));
   m_mark->setVisible(isMarked);
@@ -107,7 +107,7 @@ void CDateEdit::ShowMark() {
   setAccessibleDescription(isMarked ? m_error : ToQString(DatePattern(UserOrder())));
 }
 
-// Writes a valid date as the field shows it, whatever way it was typed.
+// Writes a valid date in the field's own form, however it was typed.
 void CDateEdit::ShowDate() {
   m_isUnfinished = false;
   if (IsValid()) setText(TextOf(m_date));
@@ -116,7 +116,7 @@ void CDateEdit::ShowDate() {
 
 CDateEdit::Part CDateEdit::PartAtCursor() const {
   const QString before = text().left(cursorPosition());
-  int place = 0;  // of the number at the cursor
+  int place = 0;  // index of the number at the cursor
   bool isDigit = false;
   for (const QChar unit : before) {
     if (isDigit && !unit.isDigit()) ++place;
@@ -128,7 +128,7 @@ CDateEdit::Part CDateEdit::PartAtCursor() const {
   return kOrders[std::clamp(UserOrder(), 0, 2)][std::clamp(place, 0, 2)];
 }
 
-// The text is the field's own here, with one "/" between two parts.
+// Selects a part. The text has the field's own form here, with one "/" between two parts.
 void CDateEdit::SelectPart(Part part) {
   qsizetype begin = 0;
   for (;;) {
@@ -157,7 +157,7 @@ void CDateEdit::Step(Part part, int steps) {
     date.AddMonths(part == Part::kMonth ? steps : steps * kMonthsAYear);
   }
   ClampToBounds(date);
-  // A month may lead to a date that the reform removed; the day that it counts as exists.
+  // A step of a month may end on a date that the reform removed; the field takes the day that it counts as.
   if (!DoesDateExist({date.year, date.month, date.day})) date.SetDayNumber(date.DayNumber());
   SetDate(date.Packed());
   SelectPart(part);
@@ -212,7 +212,7 @@ void CDateEdit::OpenDropDown() {
   m_dropDown->Open(m_date, m_noneText);
 }
 
-// Wide enough for the widest date, or the text of no date, with both buttons.
+// Returns a size that holds the widest date, or the text of no date, with both buttons.
 QSize CDateEdit::sizeHint() const {
   const QFontMetrics metrics = fontMetrics();
   const int widest = std::max(metrics.horizontalAdvance(QStringLiteral("00/00/-00000")),

@@ -8,8 +8,7 @@
 //
 // Dates lie within -3999-01-01 … 3999-12-31 and exist under the rules in force. A text that is none is kept
 // as it was typed, with a warning sign beside it whose tip gives the reason; the reason is the field's
-// accessible description as well. A date that is merely unfinished is not marked before the field loses the
-// focus.
+// accessible description as well. An unfinished date is marked only when the field loses the focus.
 //
 // Keys: Up and Down step the day, month or year at the cursor, Page Up and Page Down the month, with Ctrl the
 // year; Alt+Down or F4 opens a calendar below the field.
@@ -38,13 +37,13 @@ class CDateEdit : public QLineEdit {
   // differs from Date().
   void SetDate(PackedDate ymd);
 
-  // The last valid date, 0 for none. While IsValid() is false the text says something else.
+  // Returns the last valid date, 0 for none. While IsValid() is false the text says something else.
   PackedDate Date() const { return m_date; }
   bool IsValid() const { return m_error.isEmpty(); }
   // Returns why the text is no date, in French; empty where it is one.
   QString Error() const { return m_error; }
 
-  // Opens the calendar below the field; without effect while the field is read only.
+  // Opens the calendar below the field; does nothing while the field is read only.
   void OpenDropDown();
 
   QSize sizeHint() const override;

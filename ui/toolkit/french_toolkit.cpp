@@ -14,7 +14,7 @@
 namespace orbisol {
 namespace {
 
-// The texts that the toolkit's French file lacks, in whatever window they stand.
+// French texts that the toolkit's own file lacks, the same in all windows.
 class CTableTranslator : public QTranslator {
  public:
   explicit CTableTranslator(QObject* parent) : QTranslator(parent) {
@@ -37,7 +37,8 @@ class CTableTranslator : public QTranslator {
 
 void SpeakFrench(QCoreApplication& application) {
   QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-  // The last one installed is asked first: the table answers only for what the toolkit's file leaves out.
+  // The translator installed last is asked first, so the table answers only for what the toolkit's file
+  // lacks.
   QCoreApplication::installTranslator(new CTableTranslator(&application));
   auto* const toolkit = new QTranslator(&application);
   if (toolkit->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -6,8 +6,8 @@ class QCoreApplication;
 
 namespace orbisol {
 
-// Before the first window is made. A machine without the toolkit's own French file gets the texts of the
-// string table alone.
+// Installs the French texts. Call it before the first window is made. A machine without the toolkit's own
+// French file gets the texts of the string table alone.
 void SpeakFrench(QCoreApplication& application);
 
 }  // namespace orbisol

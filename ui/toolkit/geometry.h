@@ -1,4 +1,4 @@
-// Places on their way to the toolkit, and back.
+// Conversion of rectangles and positions between ours and the toolkit's.
 #pragma once
 
 #include <QPointF>
@@ -12,8 +12,8 @@ namespace orbisol {
 
 inline QRect ToQRect(const Rect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
-// Returns the pixel in which the position of an event lies. On a screen of a fractional ratio that is often
-// none of its corners.
+// Returns the pixel in which the position of an event lies. On a screen of a fractional ratio the
+// position often lies inside the pixel, not at its corner.
 inline QPoint PixelAt(const QPointF& position) {
   return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
 }

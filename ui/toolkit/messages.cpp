@@ -10,7 +10,7 @@
 namespace orbisol {
 namespace {
 
-struct DesktopMessages : MessageDoor {
+struct DesktopMessages : UserMessages {
   void ShowError(QWidget* parent, const QString& text) override {
     QMessageBox box(QMessageBox::Critical, TableText(kTextProgramName), text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
@@ -23,7 +23,7 @@ struct DesktopMessages : MessageDoor {
     QList<QAbstractButton*> made;
     for (const QString& button : buttons) made.append(box.addButton(button, QMessageBox::ActionRole));
     if (!made.isEmpty()) box.setDefaultButton(static_cast<QPushButton*>(made.first()));
-    // Nothing of the list means "leave it": Escape and the frame's own button do that.
+    // No button of the list means "leave it": Escape and the close button of the box do.
     QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
     box.setEscapeButton(cancel);
     box.exec();
@@ -33,18 +33,18 @@ struct DesktopMessages : MessageDoor {
   void Beep() override { QApplication::beep(); }
 };
 
-MessageDoor*& Door() {
+UserMessages*& InForce() {
   static DesktopMessages desktop;
-  static MessageDoor* door = &desktop;
-  return door;
+  static UserMessages* inForce = &desktop;
+  return inForce;
 }
 
 }  // namespace
 
-MessageDoor& Messages() { return *Door(); }
+UserMessages& Messages() { return *InForce(); }
 
-ScopedMessages::ScopedMessages(MessageDoor& door) : m_saved(Door()) { Door() = &door; }
+ScopedMessages::ScopedMessages(UserMessages& messages) : m_saved(InForce()) { InForce() = &messages; }
 
-ScopedMessages::~ScopedMessages() { Door() = m_saved; }
+ScopedMessages::~ScopedMessages() { InForce() = m_saved; }
 
 }  // namespace orbisol

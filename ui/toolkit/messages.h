@@ -1,4 +1,4 @@
-// What the program says aloud: message boxes and the beep. Tests put their own in their place.
+// Message boxes and the beep, behind an interface that tests implement with a test double.
 //
 //   Messages().ShowError(this, TableText(135));
 //   if (Messages().Choose(this, question, {replace, keepBoth}) == 0) …
@@ -11,30 +11,33 @@ class QWidget;
 
 namespace orbisol {
 
-struct MessageDoor {
-  virtual ~MessageDoor() = default;
+struct UserMessages {
+  virtual ~UserMessages() = default;
 
-  // Both return when the user has closed the box. Texts are plain text. `parent` may be null.
+  // Shows an error and returns when the user has closed the box. `text` is plain text. `parent` may be null.
   virtual void ShowError(QWidget* parent, const QString& text) = 0;
-  // The button pressed, from 0, the first of which is the default; -1 when the box was closed by other means.
+
+  // Asks a question likewise. Returns the index in `buttons` of the button pressed, the first being the
+  // default; -1 when the box was closed by other means.
   virtual int Choose(QWidget* parent, const QString& text, const QStringList& buttons) = 0;
 
-  // For an action that is refused.
+  // Beeps, for an action that is refused.
   virtual void Beep() = 0;
 };
 
-MessageDoor& Messages();
+// Returns the desktop's messages, or the test double in force.
+UserMessages& Messages();
 
-// Holds another door in place, and puts back what was.
+// Puts a test double in force for one scope, and the messages before it at its end.
 class ScopedMessages {
  public:
-  explicit ScopedMessages(MessageDoor& door);
+  explicit ScopedMessages(UserMessages& messages);
   ~ScopedMessages();
   ScopedMessages(const ScopedMessages&) = delete;
   ScopedMessages& operator=(const ScopedMessages&) = delete;
 
  private:
-  MessageDoor* m_saved;
+  UserMessages* m_saved;
 };
 
 }  // namespace orbisol

@@ -20,9 +20,9 @@ namespace {
 constexpr int kPathLetters = 40;
 constexpr int kPictureLines = 5;  // height of the small picture, in lines of text
 
-enum ChooserText { kPathName, kBrowse, kPictureName, kNoPicture };  // pieces of kTextPictureChooser
+enum ChooserText { kPathName, kBrowse, kPictureName, kNoPicture };  // indices of its pieces
 
-// "*.[pP][nN][gG]" for "*png" and "*.png".
+// Returns "*.[pP][nN][gG]" for "*png" and "*.png".
 QString AnyCase(std::u16string_view pattern) {
   QString found = QStringLiteral("*.");
   for (const QChar unit : ToQString(pattern)) {
@@ -40,7 +40,7 @@ QString AnyCase(std::u16string_view pattern) {
 QString PictureFilter(std::u16string_view entry) {
   QStringList patterns;
   for (const std::u16string_view pattern : Split(Piece(entry, u'|', 1), u';')) patterns << AnyCase(pattern);
-  // The dialog takes the last brackets for the patterns and hides them.
+  // The dialog takes the text in the last brackets for patterns and does not show it.
   return QStringLiteral("%1 (%2)").arg(ToQString(Piece(entry, u'|', 0)), patterns.join(QLatin1Char(' ')));
 }
 
@@ -52,7 +52,7 @@ CPictureChooser::CPictureChooser(QWidget* parent)
   m_edit->setAccessibleName(TablePiece(kTextPictureChooser, kPathName));
   m_edit->setPlaceholderText(TablePiece(kTextPictureChooser, kNoPicture));
   m_edit->setMinimumWidth(kPathLetters * fontMetrics().averageCharWidth());
-  m_browse->setAutoDefault(false);  // Enter in the path is not meant for it
+  m_browse->setAutoDefault(false);  // Enter in the path must not press it
   m_picture->setTextFormat(Qt::PlainText);
   m_picture->setWordWrap(true);
   m_picture->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -94,7 +94,7 @@ void CPictureChooser::ShowPicture() {
   }
   const qreal ratio = devicePixelRatioF();
   const int height = qRound(m_picture->height() * ratio);
-  // A panorama is not to widen the dialog: twice as wide as high at most.
+  // The picture is at most twice as wide as high, so that a panorama does not widen the dialog.
   const QImage small = file.image.scaled(2 * height, height, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   QPixmap pixmap = QPixmap::fromImage(small);
   pixmap.setDevicePixelRatio(ratio);
@@ -108,7 +108,7 @@ void CPictureChooser::Browse() {
       this, TableText(kTextOpenPicture),
       isThere ? current.absolutePath() : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
       PictureFilter(StringText(kTextPictureFilter)));
-  // The desktop's own dialog would speak the session's language.
+  // The desktop's own dialog would be in the session's language.
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setFileMode(QFileDialog::ExistingFile);

@@ -17,9 +17,9 @@ class QPushButton;
 
 namespace orbisol {
 
-// The filter of the file dialog as the toolkit wants it, from an entry of the string table: a caption and its
-// patterns between "|". The caption is shown as it stands. Each pattern is found in capitals too, and one
-// without its dot ("*png") is read with it.
+// Returns the filter of the file dialog in the toolkit's form, from an entry of the string table: a caption
+// and its patterns between "|". The caption is shown as it stands. Each pattern is found in capitals too, and
+// one without its dot ("*png") is read with it.
 QString PictureFilter(std::u16string_view entry);
 
 class CPictureChooser : public QWidget {
@@ -32,7 +32,7 @@ class CPictureChooser : public QWidget {
   void SetPath(const QString& path);
   QString Path() const { return m_path; }
 
-  // Whether the path is empty or that of a picture which can be read.
+  // Returns whether the path is empty or that of a picture which can be read.
   bool IsValid() const { return m_isValid; }
 
   // Opens the file dialog, and takes what is chosen in it.

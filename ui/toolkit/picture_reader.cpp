@@ -17,9 +17,9 @@ namespace orbisol {
 namespace {
 
 constexpr qint64 kMostBytes = qint64{512} << 20;
-constexpr qint64 kMostPixels = 250'000'000;  // some cameras of telephones make 200 million
+constexpr qint64 kMostPixels = 250'000'000;  // pictures of telephones have up to 200 million
 
-// As QImageReader::format() names them.
+// Names of the formats, as QImageReader::format() returns them.
 constexpr std::array<const char*, 5> kFormats = {"tiff", "jpeg", "png", "gif", "bmp"};
 
 // Opens a regular file that is not empty. Without O_NONBLOCK the opening itself would wait for the writer of
@@ -55,7 +55,7 @@ PictureFile ReadPicture(const QString& path, const QSize& largest) {
   const QSize size = reader.size();
   if (!size.isValid() || size.isEmpty()) return {{}, PictureFault::kDamaged};
   if (qint64{size.width()} * size.height() > kMostPixels) return {{}, PictureFault::kTooLarge};
-  // A picture that lies on its side is scaled before it is turned.
+  // A picture that lies on its side is scaled before it is turned, so its bound lies on its side too.
   const bool isTurned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
   const QSize bound = isTurned ? largest.transposed() : largest;
   if (size.width() > bound.width() || size.height() > bound.height())

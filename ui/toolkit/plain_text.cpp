@@ -30,7 +30,7 @@ QString MenuText(std::u16string_view plain) {
 
 QString TipMarkup(const QString& plain) {
   if (plain.isEmpty()) return {};
-  // The toolkit breaks lines of markup at a width of its own, and far too early.
+  // The toolkit breaks lines of markup far too early, at a width of its own.
   constexpr qsizetype kLongestLine = 80;
   const QStringList lines = plain.split(QLatin1Char('\n'));
   const bool isShort = std::all_of(lines.begin(), lines.end(),

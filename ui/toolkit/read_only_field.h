@@ -20,8 +20,8 @@ class CReadOnlyField : public QLineEdit {
   void ShowText(const QString& text);
 
  signals:
-  // The user went to the field with the mouse or a key. A menu that closes, an editor or a window that gives
-  // the focus back is no visit.
+  // Tells that the user went to the field with the mouse or a key. Focus given back by a menu, an editor or a
+  // window that closes is no visit.
   void visited();
 
  protected:

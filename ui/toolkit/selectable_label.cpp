@@ -21,7 +21,7 @@ CSelectableLabel::CSelectableLabel(QWidget* parent) : QLabel(parent) {
 bool CSelectableLabel::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && hasSelectedText() &&
       static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
-    event->accept();  // the keys copy the selection, nothing that a menu would copy with them
+    event->accept();  // these keys copy the selection here, although a menu has them too
     return true;
   }
   return QLabel::event(event);
@@ -33,8 +33,7 @@ void CSelectableLabel::focusInEvent(QFocusEvent* event) {
     setSelection(0, static_cast<int>(text().size()));
 }
 
-// Offers to copy what is selected, or the whole text. The toolkit's own menu stays away from labels of one
-// line.
+// Offers to copy what is selected, or the whole text. The toolkit has no such menu for labels of one line.
 void CSelectableLabel::contextMenuEvent(QContextMenuEvent* event) {
   if (!hasSelectedText()) setSelection(0, static_cast<int>(text().size()));
   auto* const menu = new QMenu(this);

@@ -1,5 +1,5 @@
-// A line of plain text that can be selected with the mouse, copied with the usual keys, also where these
-// belong to a menu as well, and from a context menu. Where Tab stops at it, it is selected whole.
+// A line of plain text that can be selected with the mouse and copied from a context menu or with the usual
+// keys, even if a menu has these keys too. Tab selects it whole.
 #pragma once
 
 #include <QLabel>

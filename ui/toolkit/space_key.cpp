@@ -21,7 +21,7 @@ bool CSpaceKeyFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride) return false;
   auto* const key = static_cast<QKeyEvent*>(event);
   if (key->key() != Qt::Key_Space || !TakesSpace(watched)) return false;
-  key->accept();  // It is an ordinary key there, no shortcut.
+  key->accept();  // the widget then gets it as an ordinary key, not as a shortcut
   return true;
 }
 

@@ -1,5 +1,5 @@
-// A shortcut of the Space key must not take Space from a button, a box or a list that has the focus: there it
-// presses, checks or opens.
+// Keeps the Space key for the button, check box or list that has the focus, where it presses, checks or
+// opens, although Space is a shortcut of the window.
 //
 //   QApplication::instance()->installEventFilter(new CSpaceKeyFilter(window));
 #pragma once

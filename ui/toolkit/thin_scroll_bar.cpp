@@ -2,8 +2,8 @@
 
 namespace orbisol {
 
-// Takes its form from a style sheet, which moves the places where the style answers to the mouse along with
-// it. The handle is a grey that is seen on dark grounds and on light ones.
+// Sets the form by a style sheet, which moves the areas that answer to the mouse along with what is drawn.
+// The handle is a grey that can be seen on dark and on light grounds.
 CThinScrollBar::CThinScrollBar(Qt::Orientation orientation, QWidget* parent)
     : QScrollBar(orientation, parent) {
   setStyleSheet(QStringLiteral("QScrollBar { background: transparent; border: none; }"

@@ -14,7 +14,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kNumbers = 3;
-constexpr std::size_t kMostDigits = 6;        // more are no year, and would leave the range of an int
+constexpr std::size_t kMostDigits = 6;        // a longer number is no year, and could overflow an int
 constexpr std::size_t kFewestYearDigits = 3;  // from here on a number can only be a year
 
 struct Number {
@@ -29,7 +29,7 @@ bool IsSeparator(char16_t unit) {
   return IsMinus(unit) || std::u16string_view(u"/. \t\u00A0\u202F").find(unit) != std::u16string_view::npos;
 }
 
-// Where year, month and day stand among the three numbers.
+// Indices of year, month and day among the three numbers.
 struct Places {
   std::size_t year, month, day;
 };
@@ -86,8 +86,8 @@ TypedDate ReadTypedDate(std::u16string_view text, int order) {
   return typed;
 }
 
-// On purpose: a date also exists when it is the day before its own number: 29 February -8 shares the number
-// of 1 March -8.
+// Compares a date with that of its own day number. On purpose: the day before that number is compared too,
+// because 29 February -8 has the number of 1 March -8.
 bool DoesDateExist(const YearMonthDay& date) {
   if (date.month < 1 || date.month > 12 || date.day < 1 || date.day > 31) return false;
   const Date asked(date.year, date.month, date.day);

@@ -7,9 +7,9 @@
 namespace orbisol {
 namespace {
 
-constexpr int kNotch = 120;                // eighths of a degree, a notch of an ordinary wheel
-constexpr int kMostTurned = 100 * kNotch;  // in one event; more is no wheel
-constexpr quint64 kPause = 1000;           // milliseconds after which a turn begins anew
+constexpr int kNotch = 120;                // a notch of an ordinary wheel, in eighths of a degree
+constexpr int kMostTurned = 100 * kNotch;  // bound for one event, above what any wheel sends
+constexpr quint64 kPause = 1000;           // milliseconds after which the remainder is forgotten
 
 }  // namespace
 

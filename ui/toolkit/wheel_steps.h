@@ -16,9 +16,9 @@ class CWheelSteps {
   int Take(QWheelEvent& event);
 
  private:
-  int m_rest = 0;  // turned since the last step, eighths of a degree
+  int m_rest = 0;  // turn since the last step, in eighths of a degree
   bool m_hasCtrl = false;
-  quint64 m_time = 0;  // of the last turn, milliseconds
+  quint64 m_time = 0;  // time of the last turn, in milliseconds
 };
 
 }  // namespace orbisol

@@ -18,7 +18,7 @@
 
 namespace orbisol {
 
-struct SpyMessages : MessageDoor {
+struct SpyMessages : UserMessages {
   std::vector<QString> errors, questions;
   int choice = -1;  // the answer to every question
   int beeps = 0;

@@ -15,7 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Gives the answers of a user, one after the other, and keeps what was asked.
-struct ScriptedMessages : MessageDoor {
+struct ScriptedMessages : UserMessages {
   std::vector<int> answers;
   std::function<void()> whileAsking;  // somebody else
   QStringList shown, buttons;
