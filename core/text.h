@@ -40,6 +40,9 @@ struct FixedText {
   bool operator==(const FixedText& other) const { return View() == other.View(); }
 };
 
+// Byte-order mark, which may stand at the beginning of a UTF-8 file.
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 // Returns UTF-16 of UTF-8. Malformed bytes become U+FFFD, one for each longest beginning of a character (as
 // the Unicode standard recommends).
 std::u16string FromUtf8(std::string_view bytes);

@@ -11,11 +11,11 @@ std::u16string_view Raw(std::u16string_view record, std::u16string_view tag) {
   return FindElement(record, tag, position);
 }
 
-// No number holds an entity, so these need no unescaping.
+// Returns the number in an element. It is not unescaped, because digits are never escaped.
 int Number(std::u16string_view record, std::u16string_view tag) { return ParseDecimal(Raw(record, tag)); }
 
-// Returns the bound that a year gives; 0 gives none. On purpose: before the era the sum names a date of the
-// year that follows, as it did when such rules were written.
+// Returns the bound that a year stands for; 0 stands for none. On purpose: before the era the sum gives a
+// date of the year that follows, as it did in the releases that wrote such rules.
 PackedDate BoundOfYear(int year, int monthDay, PackedDate ifNone) {
   return year == 0 ? ifNone : Saturate(std::int64_t{year} * 10000 + monthDay);
 }
@@ -47,7 +47,7 @@ HolidayPeriod ReadPeriod(std::u16string_view record) {
   return period;
 }
 
-// Calls `use` with each element of that name up to the first that is missing or empty.
+// Calls `use` with each element `tag`, up to the first that is missing or empty.
 template <typename Use>
 void ForEachElement(std::u16string_view block, std::u16string_view tag, Use use) {
   std::ptrdiff_t position = 0;
@@ -109,7 +109,7 @@ bool HasYearBounds(std::u16string_view event) {
 }
 
 void AppendCalendarEvents(std::u16string& out, const CalendarContent& content) {
-  constexpr std::size_t kUnitsOfRecord = 256;  // a rule with a name of middling length
+  constexpr std::size_t kUnitsOfRecord = 256;  // usual length of a rule's text
   out.reserve(out.size() + kUnitsOfRecord * (1 + content.dayEvents.size() + content.vacations.size()));
   if (!content.dayEvents.empty()) {
     out += u"<dayEvents>\r\n";

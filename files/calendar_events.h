@@ -8,10 +8,10 @@
 
 namespace orbisol {
 
-// Returns the rules and periods of a whole file's text, in its order. Periods are judged by the rules in
-// force, so the calendar's own must be put in force first. A record that is not accepted is dropped; an empty
-// `event` or `period` ends its list. Rules of older releases, valid from year to year (`yFrom`, `yTo`), are
-// read too.
+// Returns the rules and periods of a whole file's text, in its order. The rules in force decide
+// which periods are accepted, so the calendar's own must be put in force first. A record that is not accepted
+// is dropped; an empty `event` or `period` ends its list. Rules of older releases, valid from year to year
+// (`yFrom`, `yTo`), are read too.
 CalendarContent ReadCalendarEvents(std::u16string_view text);
 
 // Returns whether a rule's text has the form of older releases.

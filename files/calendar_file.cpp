@@ -12,12 +12,11 @@ namespace orbisol {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::u16string_view kBlanks = u" \t\r\n";
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
 std::string_view WithoutMark(std::string_view bytes) {
-  return bytes.starts_with(kByteOrderMark) ? bytes.substr(kByteOrderMark.size()) : bytes;
+  return bytes.starts_with(kUtf8Mark) ? bytes.substr(kUtf8Mark.size()) : bytes;
 }
 
 CalendarFile ReadText(std::u16string_view text) {
@@ -27,7 +26,7 @@ CalendarFile ReadText(std::u16string_view text) {
   position = 0;
   ReadCalendarParams(FindElement(text, u"CalendarParams", position), calendar.look, calendar.rules);
 
-  // Which dates exist depends on the calendar's own rules, wherever in the file they stand.
+  // The calendar's own rules decide which dates exist, wherever in the file they stand.
   const ScopedRules inForce(calendar.rules);
   calendar.content = ReadCalendarEvents(text);
   return calendar;
@@ -50,7 +49,7 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Returns the text behind the line in which a file calls itself XML.
+// Returns the text after the line in which a file calls itself XML.
 std::u16string_view WithoutHeader(std::u16string_view text) {
   text = Trimmed(text);
   if (text.starts_with(u"<?xml "))
@@ -58,13 +57,13 @@ std::u16string_view WithoutHeader(std::u16string_view text) {
   return text;
 }
 
-// An element of a block, both as they stand in the text.
+// Element of a block: its tag and its content, not unescaped.
 struct Element {
   std::u16string_view tag;
   std::u16string_view content;
 };
 
-// Cuts the next element off a block. Returns nothing where text stands beside the elements, or where one is
+// Cuts the next element off a block. Returns nothing if text stands beside the elements, or if an element is
 // not closed.
 std::optional<Element> TakeElement(std::u16string_view& block) {
   const std::size_t tagEnd = block.find(u'>');
@@ -77,15 +76,15 @@ std::optional<Element> TakeElement(std::u16string_view& block) {
   return element;
 }
 
-// Returns whether each element of the block `read` has its like in the same block `written`, in any order
-// among elements of other names, and no text stands beside the elements. An empty element says nothing.
+// Returns whether each element of the block `read` has its equal in the same block `written`, in any order
+// among elements of other names, and no text stands beside the elements. Empty elements are not compared.
 bool SurvivesRewrite(std::u16string_view blockTag, std::u16string_view read, std::u16string_view written) {
   struct Rest {
     std::u16string_view tag;
-    std::u16string_view written;  // behind the last element of that name that was met
+    std::u16string_view written;  // rest of `written` after the last element of that name
   };
   std::vector<Rest> rests;
-  const bool isOlder = blockTag == u"event" && HasYearBounds(read);  // its years are written as dates
+  const bool isOlder = blockTag == u"event" && HasYearBounds(read);  // its years come back as dates
   for (read = Trimmed(read); !read.empty();) {
     const std::optional<Element> element = TakeElement(read);
     if (!element) return false;

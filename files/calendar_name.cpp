@@ -12,13 +12,12 @@ constexpr std::u16string_view kEnding = u".xml";
 constexpr std::u16string_view kFirstStartEnding = u"_public";
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
-// The characters that are as wide as a blank and show as little.
+// Characters that look like a blank.
 constexpr std::u16string_view kBlanks =
     u" \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007"
     u"\u2008\u2009\u200A\u202F\u205F\u2800\u3000\u3164\uFFA0";
 
-// The marks that nobody sees, in ranges: joiners, marks of direction, selectors of forms, the byte-order
-// mark.
+// Ranges of invisible characters: joiners, marks of direction, variation selectors, the byte-order mark.
 constexpr struct {
   char16_t first, last;
 } kInvisible[] = {{0x00AD, 0x00AD}, {0x034F, 0x034F}, {0x061C, 0x061C}, {0x115F, 0x1160},
@@ -56,7 +55,8 @@ bool IsCalendarName(std::u16string_view name) {
   for (const char16_t unit : name)
     if (unit == u'/' || unit == u'\\' || IsControl(unit)) return false;
   const std::string bytes = ToUtf8(name);
-  return bytes.size() <= kMaxCalendarNameBytes && FromUtf8(bytes) == name;  // half a pair names no file
+  return bytes.size() <= kMaxCalendarNameBytes &&
+         FromUtf8(bytes) == name;  // a lone surrogate cannot be in a file's name
 }
 
 NameFault FaultOfNewName(std::u16string_view name, std::span<const std::u16string> names) {

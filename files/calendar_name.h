@@ -26,15 +26,15 @@ bool IsCalendarName(std::u16string_view name);
 enum class NameFault {
   kNone,
   kBlank,       // empty, or blanks alone
-  kInvisible,   // it holds a mark that nobody sees: of no width, or for the direction of writing
+  kInvisible,   // with an invisible character: one of no width, or for the direction of writing
   kNoFileName,  // not accepted by IsCalendarName
   kReserved,    // it ends in "_public", as the calendars that are meant for first starts do
   kTaken,       // a calendar has that name, upper and lower case aside
 };
 
-// Judges a new or changed name, as it was typed. `names` are those of the calendars that there are, without
-// the one that is renamed. More is refused here than IsCalendarName refuses: that also lets through what
-// older releases and other programs made.
+// Checks a new or changed name, as it was typed, and returns its first fault. `names` are those of the
+// calendars that there are, without the one that is renamed. It refuses more than IsCalendarName, which also
+// accepts names made by older releases and other programs.
 NameFault FaultOfNewName(std::u16string_view name, std::span<const std::u16string> names);
 
 // Returns `name`, or "Calendar" if it is not a valid calendar name.

@@ -9,14 +9,15 @@ namespace orbisol {
 
 namespace {
 
-constexpr std::size_t kHexDigits = 6;  // of a color
+constexpr std::size_t kHexDigits = 6;  // digits of a color
 
 std::u16string Value(std::u16string_view block, std::u16string_view tag, std::u16string_view ifMissing = {}) {
   std::ptrdiff_t position = 0;
   return GetElement(block, tag, position, ifMissing);
 }
 
-// Reads like a decimal number: digits up to the first other character, "00zz11" is 0.
+// Returns a hexadecimal number, read like a decimal one: digits up to the first other character, so that
+// "00zz11" is 0.
 Color HexNumber(std::u16string_view text) {
   Color number = 0;
   for (const char16_t unit : text) {
@@ -37,7 +38,7 @@ bool NextPiece(std::u16string_view& list, std::u16string_view& piece) {
 }
 
 void ReadColors(std::u16string_view table, std::array<Color, kColorCount>& colors) {
-  // On purpose: a malformed piece leaves its color alone and still counts.
+  // On purpose: a malformed piece leaves its color unchanged and still counts as a place of the table.
   std::u16string_view piece;
   for (std::size_t i = 0; i < colors.size() && NextPiece(table, piece); ++i)
     if (piece.size() == 1 + kHexDigits && piece[0] == u'#') colors[i] = HexNumber(piece.substr(1));
@@ -72,7 +73,7 @@ void ReadCivilYears(std::u16string_view table, CalendarConfig& config) {
   for (int row = 0; row < kCivilYearRows && NextPiece(table, piece); ++row) {
     const bool plusOne = piece[0] == u'+';
     const PackedDate from = ParseDecimal(plusOne ? piece.substr(1) : piece);
-    if (from == 0) break;  // it ends the table for everything that scans it
+    if (from == 0) break;  // 0 ends the table for all scans of it
     config.firstDayOfYear[row] = {from, plusOne};
   }
   const std::span<CivilYearStart> rows(config.firstDayOfYear, kCivilYearRows);

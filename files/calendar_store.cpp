@@ -79,10 +79,10 @@ WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile
     bytes = WriteCalendar(calendar, CalendarForm::kUser);
   }
 
-  // Replace() compares again: other programs know nothing of the lock.
-  const FileStamp judged = disk ? disk->stamp : FileStamp();
+  // Replace() compares again, because other programs do not take the lock.
+  const FileStamp expected = disk ? disk->stamp : FileStamp();
   FileStamp written;
-  const WriteResult result = m_files.Replace(path, bytes, &judged, &written, model);
+  const WriteResult result = m_files.Replace(path, bytes, &expected, &written, model);
   if (IsInPlace(result)) m_stamps[path] = written;
   return result;
 }

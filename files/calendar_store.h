@@ -26,19 +26,19 @@ namespace orbisol {
 enum class LoadResult {
   kLoaded,
   kMissing,     // there is no such file; the calendar is empty, with defaults
-  kUnreadable,  // there is one and it cannot be read; likewise, and saving will not touch it
+  kUnreadable,  // the file cannot be read; the calendar is empty too, and saving will not touch the file
 };
 
 // The choice for a file that is not the one last loaded or saved here.
 enum class IfChanged {
   kRefuse,     // leave it alone and say so: the program asks
-  kOverwrite,  // the user said so; it is backed up first
+  kOverwrite,  // replace it, at the user's wish, after backing it up
   kKeepBoth,   // leave it alone and save under a free name
 };
 
 struct SavedCalendar {
   WriteResult result = WriteResult::kFailed;
-  std::u16string name;  // under which it was saved, or was to be
+  std::u16string name;  // name under which it was saved, or was to be saved
 };
 
 class CCalendarStore {

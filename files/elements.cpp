@@ -11,7 +11,7 @@ struct Entity {
   std::u16string_view text;
 };
 constexpr Entity kEntities[] = {
-    // in the order in which they are replaced when read
+    // reading replaces them in this order, "&amp;" first
     {u'&', u"&amp;"}, {u'<', u"&lt;"}, {u'>', u"&gt;"}, {u'"', u"&quot;"}, {u'\'', u"&#39;"},
 };
 

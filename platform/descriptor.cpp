@@ -24,7 +24,7 @@ CDescriptor& CDescriptor::operator=(CDescriptor&& other) noexcept {
 bool CDescriptor::Close() {
   if (m_descriptor < 0) return true;
   const int result = close(std::exchange(m_descriptor, -1));
-  // An interrupted close has closed: it is not repeated.
+  // An interrupted close has closed the descriptor and must not be repeated.
   return result == 0 || errno == EINTR;
 }
 

@@ -30,7 +30,7 @@ QString WithoutCodeSet(std::string_view name) {
 }
 
 // Returns the order of a pattern such as "dd/MM/y" as in Date::dateOrder, by the positions of its letters.
-// All the locales known have one of the three orders.
+// All known locales have one of the three orders.
 int DateOrder(const QString& pattern) {
   const qsizetype day = pattern.indexOf(u'd');
   const qsizetype month = pattern.indexOf(u'M');

@@ -26,7 +26,7 @@ class CDesktopLocale : public Locale {
 
   int ShortDateOrder() const override { return m_dateOrder; }
   int FirstDayOfWeek() const override { return m_firstDay; }
-  // A constant: no desktop says which week is the first. 2, the first of four days, is the rule of ISO 8601.
+  // Returns 2, the first week of four days, as in ISO 8601: no desktop says which week is the first.
   int FirstWeekOfYear() const override { return 2; }
   // Return names as they stand alone ("mai", not "de mai"); empty outside their range.
   std::u16string MonthName(int month) const override { return Item(m_months, month); }
@@ -34,9 +34,9 @@ class CDesktopLocale : public Locale {
   std::u16string WeekdayName(int weekday) const override { return Item(m_weekdays, weekday); }
   std::u16string WeekdayAbbrev(int weekday) const override { return Item(m_weekdayAbbrevs, weekday); }
 
-  // Two or three small letters, as in "fr".
+  // Returns two or three small letters, as in "fr".
   const std::u16string& Language() const { return m_language; }
-  // Two capital letters, as in "FR"; empty when the locale names a language alone.
+  // Returns two capital letters, as in "FR"; empty if the locale names a language alone.
   const std::u16string& Country() const { return m_country; }
 
  private:

@@ -11,7 +11,7 @@
 namespace orbisol {
 namespace {
 
-constexpr int kAttempts = 10;  // against an editor that saves again and again
+constexpr int kAttempts = 10;  // number of tries while another program keeps saving
 
 // Returns the first of the files that exists; empty when there is no key.
 std::string KeyFile(const std::vector<std::string>& files) {
@@ -20,7 +20,7 @@ std::string KeyFile(const std::vector<std::string>& files) {
   return {};
 }
 
-// Returns nothing for a file that cannot be read, or that is too long to be a key.
+// Returns the bytes of a key; nothing if the file cannot be read or is too long to be a key.
 std::optional<FileBytes> ReadKey(const std::string& path) {
   std::optional<FileBytes> file = ReadWholeFile(path);
   if (file && file->bytes.size() > kMaxKeyBytes) file.reset();
@@ -58,7 +58,7 @@ bool CDesktopStore::Write(const std::vector<StoreChange>& changes) {
         return false;
     }
     const FileStamp expected = key == own ? file->stamp : FileStamp{};
-    // Without changes not even the encoding of the file is changed.
+    // Without changes the bytes stay as they are, the encoding included.
     const std::string bytes = changes.empty() ? file->bytes : text.Bytes();
     if (key == own && bytes != file->bytes && !text.IsLossless() &&
         !BackUp(m_files, PathText(own), file->bytes))

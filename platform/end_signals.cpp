@@ -10,9 +10,9 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
-volatile std::sig_atomic_t g_descriptor = -1;  // that the handler writes to
+volatile std::sig_atomic_t g_descriptor = -1;  // descriptor that the handler writes to
 
-// Does what a handler may do: it writes one byte and leaves errno as it was.
+// Writes one byte and leaves errno as it was; a signal handler may do little more.
 void Tell(int) {
   const int saved = errno;
   const char byte = 0;
@@ -22,7 +22,7 @@ void Tell(int) {
 
 void Handle(int number, void (*handler)(int), int flags) {
   struct sigaction old {};
-  // nohup has the hang-up ignored: that is kept.
+  // A signal that is ignored stays ignored, as the hang-up under nohup.
   if (sigaction(number, nullptr, &old) != 0 || old.sa_handler == SIG_IGN) return;
   struct sigaction action {};
   action.sa_handler = handler;

@@ -1,10 +1,9 @@
 // The signals by which a session, a terminal or another program asks this one to end: TERM, HUP and INT.
 //
 //   const CEndSignals signals;
-//   …                           // when signals.Descriptor() can be read: close the window, which stores
-//   things
+//   …                           // when signals.Descriptor() can be read: close the window, which saves
 //
-// They are heard as long as the object lives, of which there is one at a time. A second signal of a kind ends
+// They are received while the object lives, of which there is one at a time. A second signal of a kind ends
 // the process at once, so that one which hangs can still be stopped.
 #pragma once
 
@@ -19,7 +18,8 @@ class CEndSignals {
   CEndSignals(const CEndSignals&) = delete;
   CEndSignals& operator=(const CEndSignals&) = delete;
 
-  // Can be read once a signal came; -1 where the system gave no descriptor, and signals end the process.
+  // Returns a descriptor that can be read once a signal came; -1 if the system gave none, and signals end the
+  // process.
   int Descriptor() const { return m_read.Get(); }
 
  private:

@@ -15,11 +15,11 @@ namespace {
 constexpr char kAccessList[] = "system.posix_acl_access";
 constexpr mode_t kGroupRights = 070;
 
-// Returns what an attribute holds; nothing when the file has none of this name, or `size` bytes are too few
-// for the answer of the system. Text lists of names and values of attributes are asked for in the same way.
+// Returns the answer of a call of the system for the names or the value of attributes; nothing if the call
+// fails, as for an attribute that does not exist or an answer that is too long.
 template <typename Call>
 std::optional<std::string> AnswerOf(Call call) {
-  constexpr std::size_t kLongest = 65536;  // of a value and of all names, in bytes
+  constexpr std::size_t kLongest = 65536;  // limit of the system for a value or all names, in bytes
   std::string answer(kLongest, '\0');
   const ssize_t length = Repeat([&] { return call(answer.data(), answer.size()); });
   if (length < 0) return {};
@@ -35,7 +35,7 @@ bool SetAttribute(int descriptor, const char* name, std::string_view value) {
   return Repeat([&] { return fsetxattr(descriptor, name, value.data(), value.size(), 0); }) == 0;
 }
 
-// Where the file system refuses such attributes for this user, they are left behind.
+// Copies the attributes user.* of a file. Attributes that the file system refuses are left out.
 bool CopyAttributes(int descriptor, const std::string& path) {
   const auto names =
       AnswerOf([&](char* list, std::size_t size) { return listxattr(path.c_str(), list, size); });
@@ -61,25 +61,25 @@ bool CopyRights(int descriptor, const std::string& path, const struct stat& old)
   if (status.st_uid != old.st_uid || status.st_gid != old.st_gid) {
     if (Repeat([&] { return fchown(descriptor, old.st_uid, old.st_gid); }) != 0) {
       if (errno != EPERM) return false;
-      // Only the superuser gives files away; the group is often possible.
+      // Only the superuser may change the owner; changing the group alone often succeeds.
       if (Repeat([&] { return fchown(descriptor, static_cast<uid_t>(-1), old.st_gid); }) != 0) {
         if (errno != EPERM) return false;
         isGroupKept = false;
       }
     }
-    // A change of owner takes some rights away.
+    // A change of owner can clear permission bits.
     if (Repeat([&] { return fstat(descriptor, &status); }) != 0) return false;
   }
   if (!CopyAttributes(descriptor, path)) return false;
 
-  // The permissions of the group are the upper bound of all named users where there is an access list:
-  // without that list they would be the group's own.
+  // With an access list the group's permissions are the upper bound for all named users. Without the list
+  // they would become the group's own.
   const auto list = AttributeOf(path, kAccessList);
   if (!isGroupKept || (list && !SetAttribute(descriptor, kAccessList, *list))) mode = WithoutOwnGroup(mode);
-  // A list that the folder gives to its new files.
+  // The folder may have given its default list to the new file.
   if (!list) Repeat([&] { return fremovexattr(descriptor, kAccessList); });
   if (Repeat([&] { return fstat(descriptor, &status); }) != 0) return false;
-  // Some file systems have rights of their own for all files and refuse every change, even one to the same.
+  // Some file systems have one mode for all files and refuse every change, even to the same mode.
   return (status.st_mode & 07777) == mode || Repeat([&] { return fchmod(descriptor, mode); }) == 0;
 }
 

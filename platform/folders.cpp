@@ -17,7 +17,7 @@ std::string HomeOfAccount() {
   return account == nullptr || account->pw_dir == nullptr ? "" : account->pw_dir;
 }
 
-// Returns the file of this program, links followed; empty when the system does not tell.
+// Returns the file of this program, links followed; empty if the system does not tell.
 std::string Executable() {
   std::string path(4096, '\0');
   const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());

@@ -1,4 +1,4 @@
-// Where the files of the program lie on a Linux desktop.
+// The folders of the program on a Linux desktop.
 //
 //   const Folders folders = DesktopFolders();
 //   folders.calendars;  // "/home/eva/.local/share/Corvalen/orbisol"
@@ -14,12 +14,12 @@ namespace orbisol {
 
 // Absolute paths, in the bytes of the machine (path_text.h).
 struct Folders {
-  std::string calendars;            // of the user's calendars
-  std::string userLegals;           // public calendars that the user added
-  std::string shippedLegals;        // public calendars that came with the program
-  std::string versions;             // earlier versions of the user's calendars
+  std::string calendars;            // folder of the user's calendars
+  std::string userLegals;           // folder of public calendars that the user added
+  std::string shippedLegals;        // folder of public calendars that came with the program
+  std::string versions;             // folder of earlier versions of the user's calendars
   std::vector<std::string> stores;  // files that may hold the settings: the user's, then those only read
-  std::string trash;                // the user's trash, after the rules of freedesktop.org
+  std::string trash;                // user's trash, by the rules of freedesktop.org
 };
 
 // Returns the folders that these variables name. `home` is the folder of the user where HOME names none.

@@ -7,11 +7,11 @@
 namespace orbisol {
 namespace {
 
-constexpr char16_t kEscape = 0xDC00;  // with the byte added, 0x80..0xFF
+constexpr char16_t kEscape = 0xDC00;  // base to which a byte, 0x80..0xFF, is added
 
 bool IsEscape(char16_t unit) { return unit >= kEscape + 0x80 && unit <= kEscape + 0xFF; }
 
-// Returns the length of the well-formed character that begins here, 0 when there is none.
+// Returns the length of the well-formed character at the beginning; 0 if there is none.
 std::size_t CharacterLength(std::string_view bytes) {
   const auto first = static_cast<unsigned char>(bytes[0]);
   const std::size_t length = first < 0x80   ? 1
@@ -42,7 +42,7 @@ std::u16string PathText(std::string_view bytes) {
 
 std::string PathBytes(std::u16string_view path) {
   std::string bytes;
-  std::size_t begin = 0;  // of the part not yet written
+  std::size_t begin = 0;  // beginning of the part not yet converted
   for (std::size_t i = 0; i < path.size(); ++i) {
     if (IsHighSurrogate(path[i]) && i + 1 < path.size() && IsLowSurrogate(path[i + 1])) {
       ++i;

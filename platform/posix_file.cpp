@@ -19,10 +19,10 @@ using std::chrono::milliseconds;
 
 constexpr char kTemporaryPrefix[] = ".orbisol-";
 constexpr char kTemporarySuffix[] = ".tmp";
-constexpr std::chrono::hours kStaleAge{24};  // a save takes far less, on any clock
-constexpr int kMaxLinks = 40;                // as the system follows them
+constexpr std::chrono::hours kStaleAge{24};  // far longer than a save, even if the clock is changed
+constexpr int kMaxLinks = 40;                // limit of the system for links in a path
 
-// FNV-1a, 64 bits.
+// Returns the 64-bit FNV-1a hash.
 std::uint64_t Hash(std::string_view bytes) {
   std::uint64_t hash = 0xCBF29CE484222325;
   for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
@@ -37,8 +37,7 @@ FileStamp StampOf(std::string_view bytes) {
   return stamp;
 }
 
-// Returns the path at the end of a chain of links; the last may point to nothing yet. Empty when there is no
-// end.
+// Returns the path at the end of a chain of links, which may not exist yet; empty if the chain has no end.
 std::string FollowLinks(std::string path) {
   for (int i = 0; i < kMaxLinks; ++i) {
     std::string target(4096, '\0');
@@ -51,14 +50,14 @@ std::string FollowLinks(std::string path) {
   return "";
 }
 
-// Some file systems cannot sync a folder, and say so; there is nothing to wait for then.
+// Syncs a folder. File systems that cannot sync folders say so, and that counts as success.
 bool SyncFolder(int descriptor) {
   return Repeat([&] { return fsync(descriptor); }) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 std::chrono::nanoseconds Now() { return std::chrono::system_clock::now().time_since_epoch(); }
 
-// The temporary file of one save; removed unless it took the place of its target.
+// Temporary file of one save; removed unless it took the place of its target.
 class CTemporary {
  public:
   CTemporary(const std::string& folder, mode_t mode)
@@ -78,14 +77,14 @@ class CTemporary {
 
   const std::string& Path() const { return m_path; }
 
-  // Takes the place of `target`; `flags` are those of renameat2(2), where 0 works on every file system.
+  // Takes the place of `target`. `flags` are those of renameat2(2); 0 works on every file system.
   bool MoveTo(const std::string& target, unsigned flags) {
     if (Repeat([&] { return Rename(target, flags); }) != 0) return false;
-    m_remove = flags == RENAME_EXCHANGE;  // what came out stands here
+    m_remove = flags == RENAME_EXCHANGE;  // the old file now has this name
     return true;
   }
 
-  // Leaves what came out to whoever may look for it.
+  // Leaves the file that was exchanged on the disk, for those who may look for it.
   void Keep() { m_remove = false; }
 
  private:
@@ -105,15 +104,15 @@ class CTemporary {
   bool m_remove;
 };
 
-// Whether a name is that of a temporary file made long ago. The time stands in it: what a save has exchanged
-// is as old as the file that it replaces.
+// Returns whether a name is that of a temporary file made long ago. The name holds the time, because after an
+// exchange the file itself is as old as the one that was replaced.
 bool IsStale(const std::string& name) {
   long long pid = 0, made = 0, count = 0;
   return std::sscanf(name.c_str(), ".orbisol-%lld-%lld-%lld", &pid, &made, &count) == 3 &&
          name.ends_with(kTemporarySuffix) && Now() - std::chrono::nanoseconds(made) > kStaleAge;
 }
 
-// Removes what killed runs left behind. Nothing depends on it.
+// Removes temporary files that killed processes left behind. Nothing depends on its success.
 void RemoveStaleTemporaries(const std::string& folder) {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(folder, error))
@@ -121,7 +120,7 @@ void RemoveStaleTemporaries(const std::string& folder) {
       unlink(entry.path().c_str());
 }
 
-// A lock that some other program holds on the folder for long is not worth failing for.
+// Lock of a folder. If another program holds it for too long, the save goes on without it.
 class CFolderLock : public FileLock {
  public:
   CFolderLock(const std::string& folder, milliseconds patience)
@@ -133,7 +132,7 @@ class CFolderLock : public FileLock {
   CDescriptor m_descriptor;
 };
 
-// Whether a look at the file found the bytes that it was expected to have, or those that are to be written.
+// Returns whether a file holds the expected bytes, or already those that are to be written.
 bool IsAsExpected(const std::string& path, const FileStamp& expected, const FileStamp& wanted) {
   struct stat status;
   if (Repeat([&] { return lstat(path.c_str(), &status); }) != 0) return errno == ENOENT && !expected.exists;
@@ -143,8 +142,8 @@ bool IsAsExpected(const std::string& path, const FileStamp& expected, const File
 
 bool IsUnknownToFileSystem(int error) { return error == EINVAL || error == ENOSYS || error == ENOTSUP; }
 
-// Puts the temporary file in the place of a file with the expected bytes, without a moment in which another
-// program could write there unseen: the two change places, then what came out is looked at.
+// Puts the temporary file in the place of a file with the expected bytes. The two are exchanged, then the old
+// one is compared, so that no write of another program in between goes unnoticed.
 WriteResult Exchange(CTemporary& temporary, const std::string& target, const FileStamp& expected,
                      const FileStamp& wanted) {
   if (!temporary.MoveTo(target, RENAME_EXCHANGE)) {
@@ -158,7 +157,7 @@ WriteResult Exchange(CTemporary& temporary, const std::string& target, const Fil
   return WriteResult::kFailed;
 }
 
-// Puts the temporary file where no file is.
+// Puts the temporary file where there is no file yet.
 WriteResult Create(CTemporary& temporary, const std::string& target, bool isExpected) {
   if (temporary.MoveTo(target, RENAME_NOREPLACE)) return WriteResult::kWritten;
   if (errno == EEXIST && isExpected) return WriteResult::kChanged;
@@ -169,7 +168,7 @@ WriteResult Create(CTemporary& temporary, const std::string& target, bool isExpe
 }  // namespace
 
 std::optional<FileBytes> ReadWholeFile(const std::string& path) {
-  // Without O_NONBLOCK a pipe that stands in the file's place would be waited for.
+  // Without O_NONBLOCK opening a pipe in the file's place would wait for its writer.
   const CDescriptor descriptor = Open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
   struct stat status;
   if (!descriptor.IsOpen() || Repeat([&] { return fstat(descriptor.Get(), &status); }) != 0) return {};
@@ -178,7 +177,7 @@ std::optional<FileBytes> ReadWholeFile(const std::string& path) {
   FileBytes file;
   std::size_t length = 0;
   for (;;) {
-    // One byte more than the size tells the end in the second read.
+    // Room for one byte more than the size lets the second read find the end.
     if (length == file.bytes.size())
       file.bytes.resize(std::max(length + length / 2, static_cast<std::size_t>(status.st_size) + 1));
     const ssize_t count = Repeat(
@@ -206,7 +205,7 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
   if (!MakeFolders(folder)) return WriteResult::kFailed;
 
   struct stat old;
-  // A link that stands at the end of the chain by now is no ordinary file.
+  // lstat() reports a link that has appeared at the end of the chain meanwhile: it is no regular file.
   const bool exists = Repeat([&] { return lstat(target.c_str(), &old); }) == 0;
   if (!exists && errno != ENOENT) return WriteResult::kFailed;
   // rename() ignores write protection; the user set it deliberately, so respect it.
@@ -218,7 +217,7 @@ WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const F
   CTemporary temporary(folder, exists || !model.empty() ? 0600 : 0666);
   if (!temporary.IsOpen() || !WriteAll(temporary.Get(), bytes)) return WriteResult::kFailed;
   if (hasRights && !CopyRights(temporary.Get(), source, old)) return WriteResult::kFailed;
-  // A full disk may show only here, or when the file is closed.
+  // A full disk may be reported only here, or when the file is closed.
   if (Repeat([&] { return fsync(temporary.Get()); }) != 0) return WriteResult::kFailed;
   if (!temporary.Close()) return WriteResult::kFailed;
   const FileStamp wanted = StampOf(bytes);
@@ -255,7 +254,7 @@ bool MakeFolders(const std::string& folder) {
   if (Repeat([&] { return stat(folder.c_str(), &status); }) == 0) return S_ISDIR(status.st_mode);
   const std::string parent = FolderOf(folder);
   if (errno != ENOENT || parent == folder || !MakeFolders(parent)) return false;
-  // Another process may have been faster.
+  // Another process may have made the folder meanwhile.
   if (Repeat([&] { return mkdir(folder.c_str(), 0700); }) != 0 && errno != EEXIST) return false;
   return SyncFolder(parent);
 }

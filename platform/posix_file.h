@@ -17,22 +17,22 @@
 
 namespace orbisol {
 
-// Room for a quarter of a million events. Whatever else is taken for a calendar is held in memory several
-// times over while it is read, in UTF-8, in UTF-16 and in pieces.
+// Greatest size that is read, with room for a quarter of a million events. A file is held in memory several
+// times while it is read, in UTF-8, in UTF-16 and in pieces.
 constexpr std::size_t kMaxFileBytes = std::size_t{1} << 26;
 
-// Returns nothing when the file is missing, is no ordinary file, has more than kMaxFileBytes or fails to be
-// read.
+// Returns the bytes of a file; nothing if it is missing, is no regular file, has more than kMaxFileBytes or
+// fails to be read.
 std::optional<FileBytes> ReadWholeFile(const std::string& path);
 
-// Returns whether anything stands there. A link counts for what it points to. Where nobody can look, as in a
-// folder that is closed to the user, the answer is yes.
+// Returns whether a path exists. A link counts for what it points to. If that cannot be found out, as in a
+// folder that is closed to the user, the answer is true.
 bool FileExists(const std::string& path);
 
-// Afterwards the file holds the old bytes or the new ones, whatever happens. The bytes go to a temporary file
-// in the same folder, which is synced and takes the place of the file; then the folder is synced. Missing
-// folders are made, for the user alone. A symbolic link stays and what it points to is replaced; another name
-// of the same file (a hard link) keeps the old bytes.
+// Replaces a file in one step: whatever happens, it holds the old bytes or the new ones afterwards. The bytes
+// go to a temporary file in the same folder, which is synced and takes the place of the file; then the folder
+// is synced. Missing folders are made, for the user alone. A symbolic link stays and what it points to is
+// replaced; another name of the same file (a hard link) keeps the old bytes.
 //
 // The new bytes have the rights (file_rights.h) of the file that they replace, or those of the file `model`
 // where that is given; when that is missing they are for the user alone.

@@ -1,4 +1,4 @@
-// Where the processes of one user on one display meet.
+// The folder and the name by which the processes of one user on one display find one another.
 #pragma once
 
 #include <string>
@@ -10,10 +10,10 @@ namespace orbisol {
 // Returns $XDG_RUNTIME_DIR, else a folder of the user's own below the temporary one, which it makes. Empty
 // when there is neither, or when somebody else could reach into it.
 std::string RuntimeFolder();
-// The same for other variables and for the user of this number.
+// Returns the same for other variables and another user's number.
 std::string FindRuntimeFolder(const VariableReader& variable, unsigned user);
 
-// Returns where the windows of this process appear, as part of a file's name; empty without a display.
+// Returns the display of this process in a form for a file's name; empty without a display.
 std::string DisplayName();
 std::string FindDisplayName(const VariableReader& variable);
 

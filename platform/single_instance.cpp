@@ -18,16 +18,16 @@ namespace {
 using std::chrono::milliseconds;
 using Moment = std::chrono::steady_clock::time_point;
 
-constexpr milliseconds kPause(25);  // between two tries: the first may hold the lock and not listen yet
+constexpr milliseconds kPause(25);  // pause between two calls: the first may hold the lock and not listen yet
 
 constexpr std::size_t kLongestToken = 4096;
 constexpr milliseconds kLongestHearing(100);
 constexpr char kAnswer = '.';
 
-// Services that clear out runtime folders spare files with the sticky bit.
+// Mode of the lock file. Services that clean runtime folders spare files with the sticky bit.
 constexpr mode_t kLockMode = 01600;
 
-// Returns nothing when the path does not fit.
+// Returns the address of a path; nothing if the path is too long for one.
 std::optional<sockaddr_un> AddressOf(const std::string& path) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
@@ -40,7 +40,7 @@ CDescriptor NewSocket() {
   return CDescriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
-// Waits until something can be read there, also the end of the connection.
+// Waits until a descriptor can be read, be it the end of the connection. Returns false if `end` came first.
 bool IsReadableBefore(Moment end, int descriptor) {
   pollfd waiting{descriptor, POLLIN, 0};
   return Repeat([&] {
@@ -49,7 +49,7 @@ bool IsReadableBefore(Moment end, int descriptor) {
          }) > 0;
 }
 
-// Hands the token to whoever listens there. Returns true when the answer came.
+// Sends the token to the process that listens at a path. Returns whether it answered.
 bool Call(const std::string& path, const std::string& token, Moment end) {
   const auto address = AddressOf(path);
   const CDescriptor caller = NewSocket();
@@ -62,7 +62,7 @@ bool Call(const std::string& path, const std::string& token, Moment end) {
   return IsReadableBefore(end, caller.Get()) && recv(caller.Get(), &answer, 1, MSG_DONTWAIT) == 1;
 }
 
-// Reads until the caller has said all or `end` is reached.
+// Reads until the caller closes its side or `end` is reached.
 std::string Hear(int caller, Moment end) {
   std::string text;
   std::array<char, 512> piece{};
@@ -81,7 +81,7 @@ CSingleInstance::CSingleInstance(const InstancePlace& place) {
   const std::string base = place.folder + "/orbisol" + (place.display.empty() ? "" : "-" + place.display);
   const std::string path = base + ".socket";
   const Moment end = Moment::clock::now() + place.patience;
-  // When the first ends without an answer its lock is free, and the next turn takes its place.
+  // If the first ends without an answer its lock is free, and the next turn of the loop takes it.
   do {
     m_lock = Open(base + ".lock", O_RDWR | O_CREAT | O_NOFOLLOW, 0600);
     const LockResult result =
@@ -103,7 +103,7 @@ CSingleInstance::CSingleInstance(const InstancePlace& place) {
 }
 
 CSingleInstance::~CSingleInstance() {
-  // The socket goes while the lock still keeps others from making theirs.
+  // The socket is removed while the lock still keeps others from making theirs.
   if (!m_path.empty()) unlink(m_path.c_str());
 }
 
@@ -111,7 +111,7 @@ bool CSingleInstance::Listen(const std::string& path) {
   const auto address = AddressOf(path);
   if (!address) return false;
   m_socket = NewSocket();
-  unlink(path.c_str());  // left by a process that was killed: the lock is ours
+  unlink(path.c_str());  // it can only be left over from a killed process, because the lock is ours
   constexpr int kWaitingCalls = 16;
   if (m_socket.IsOpen() &&
       bind(m_socket.Get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0 &&
@@ -131,7 +131,7 @@ std::optional<std::string> CSingleInstance::TakeCall() {
       break;
     }
     std::string said = Hear(caller.Get(), end);
-    // A caller that has given up is not answered: its user has decided otherwise meanwhile.
+    // The token of a caller that has given up is ignored: its user has decided otherwise meanwhile.
     if (send(caller.Get(), &kAnswer, 1, MSG_NOSIGNAL) == 1) token = std::move(said);
   }
   return token;

@@ -24,7 +24,7 @@ std::int64_t NextLocalMidnight() {
   return QDateTime::currentDateTime().date().addDays(1).startOfDay().toSecsSinceEpoch();
 }
 
-// Works everywhere, but is late by the time for which the machine slept.
+// Alarm that counts milliseconds. It works everywhere, but is late by the time for which the machine slept.
 class CCountingAlarm : public Alarm {
  public:
   explicit CCountingAlarm(const std::function<void()>& ring) {
@@ -46,13 +46,13 @@ class CCountingAlarm : public Alarm {
 
 #ifdef __linux__
 
-// Follows the wall clock, and rings as well when that is set.
+// Alarm that follows the wall clock, and rings too when that is set.
 class CClockAlarm : public Alarm {
  public:
   CClockAlarm(CDescriptor timer, const std::function<void()>& ring)
       : m_timer(std::move(timer)), m_notifier(m_timer.Get(), QSocketNotifier::Read) {
     QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this, ring] {
-      // Reading fails when the clock was set: that too may have changed the day.
+      // Reading fails if the clock was set, which may have changed the day too.
       std::uint64_t times = 0;
       [[maybe_unused]] const auto taken = read(m_timer.Get(), &times, sizeof times);
       ring();
@@ -61,7 +61,7 @@ class CClockAlarm : public Alarm {
 
   void Set(std::int64_t moment) override {
     itimerspec when{};
-    when.it_value.tv_sec = std::max<std::int64_t>(moment, 1);  // 0 would stop it
+    when.it_value.tv_sec = std::max<std::int64_t>(moment, 1);  // 0 would stop the timer
     timerfd_settime(m_timer.Get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &when, nullptr);
   }
 

@@ -2,7 +2,7 @@
 // set.
 //
 //   CTodayTimer timer([this] { CheckToday(); });
-//   timer.Restart();  // somebody is looking again
+//   timer.Restart();  // the user is back at the window
 //
 // It waits by the wall clock, in one piece: between two midnights nothing wakes up. The system reports no
 // change of the time zone: until Restart() the timer waits for the midnight of the former one.

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kMaxClashes = 10000;  // names tried before giving up
 
-// Returns a path as the note has it: every byte but those of a plain path as %XX.
+// Returns a path in the form of the note: bytes outside kPlain are written as %XX.
 std::string Quoted(std::string_view path) {
   constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
   std::string text;
@@ -35,7 +35,7 @@ std::string Note(std::string_view path, const LocalMoment& when) {
   return "[Trash Info]\nPath=" + Quoted(path) + "\nDeletionDate=" + date + "\n";
 }
 
-// "Travail.xml", then "Travail 2.xml", "Travail 3.xml" …
+// Returns "Travail.xml" for 1, "Travail 2.xml" for 2 and so on.
 std::string NumberedName(const std::string& name, int number) {
   if (number == 1) return name;
   const std::size_t dot = name.rfind('.');
@@ -48,7 +48,7 @@ bool WriteNote(CDescriptor& file, std::string_view note) {
   return file.Close() && isWritten;
 }
 
-// Makes the note of the first name that is still free, which it thereby takes; empty when none could be made.
+// Takes the first free name by making its note, and returns the name; empty if no note could be made.
 std::string TakeName(const std::string& trash, const std::string& name, std::string_view note) {
   for (int number = 1; number <= kMaxClashes; ++number) {
     const std::string candidate = NumberedName(name, number);
@@ -62,16 +62,16 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
     const std::string place = trash + "/files/" + candidate;
     const bool clashes = Repeat([&] { return lstat(place.c_str(), &status); }) == 0;
     const bool free = !clashes && errno == ENOENT;
-    // A file that somebody put there without a note has its name all the same.
+    // A name is taken too if there is a file of that name without a note.
     const bool written = WriteNote(file, free ? note : "");
     if (free && written) return candidate;
     unlink(info.c_str());
-    if (!clashes) return {};  // What failed here would fail under any other name.
+    if (!clashes) return {};  // any other name would fail likewise
   }
   return {};
 }
 
-// Moves a file to a name that nobody else uses.
+// Moves a file to a name that is not in use.
 bool Move(const std::string& from, const std::string& to) {
   if (Repeat([&] { return rename(from.c_str(), to.c_str()); }) == 0) return true;
   if (errno != EXDEV) return false;
@@ -95,7 +95,7 @@ bool MoveToTrashFolder(const std::string& path, const std::string& trash, const 
 
   const std::string name = TakeName(trash, path.substr(slash + 1), Note(path, when));
   if (name.empty()) return false;
-  // The note is on the disk before the file needs it.
+  // The note must be on the disk before the file is moved.
   if (SyncFolder(trash + "/info") && Move(path, trash + "/files/" + name)) return true;
   unlink((trash + "/info/" + name + ".trashinfo").c_str());
   return false;

@@ -16,14 +16,15 @@ constexpr char kProlepticJulian[] = "ProlepticJulian";
 constexpr char kGregorianStart[] = "GregorianStart";
 constexpr char kFirstDayOfYear[] = "FirstDayOfYear";
 
-// On purpose: older releases wrote it and it is not taken over, the calendar's file or the locale decides.
+// Value of older releases. On purpose: it is not taken over, because the calendar's file or the locale
+// decides.
 constexpr char kIso8601[] = "Iso8601";
 
 constexpr Color kColorMask = 0xFFFFFF;
-constexpr std::size_t kMaxTableUnits = 4096;  // far more than four dates
+constexpr std::size_t kMaxTableUnits = 4096;  // far more than four dates need
 
 // Returns the table in the form of calendar files. Older releases may have written the plus sign of "J.+1"
-// behind the date.
+// after the date.
 std::u16string TableOfFiles(std::u16string_view table) {
   std::u16string text;
   for (std::u16string_view piece : Split(table, u';')) {
@@ -36,7 +37,7 @@ std::u16string TableOfFiles(std::u16string_view table) {
   return text;
 }
 
-// Takes every old value over where `look` and `rules` still are as `before`.
+// Takes over the old values of all fields of `look` and `rules` that still equal those of `before`.
 void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, CalendarLook& look,
                       CalendarRules& rules) {
   const auto take = [](auto& field, const auto& fieldBefore, const auto& old) {
@@ -48,7 +49,8 @@ void ReadLegacyValues(const StoredValues& values, const CalendarFile& before, Ca
   if (const auto weight = DwordOf(values, kBoldFont))
     take(look.fontWeight, before.look.fontWeight, static_cast<int>(*weight));
   for (const ColorInfo& row : ColorTable()) {
-    if (row.index == kColorWeekNumber) continue;  // On purpose: deleted with the others and not taken over.
+    if (row.index == kColorWeekNumber)
+      continue;  // On purpose: this color is deleted with the others, but not taken over.
     const auto i = static_cast<std::size_t>(row.index);
     if (const auto color = DwordOf(values, row.name))
       take(look.colors[i], before.look.colors[i], *color & kColorMask);
@@ -89,16 +91,15 @@ void MigrateLegacySettings(const StoredValues& values, SettingsStore& store, CCa
   if (stored.file != LoadResult::kLoaded) before = {look, stored.rules, {}, {}};
   ReadLegacyValues(values, before, look, stored.rules);
 
-  // Where nobody can tell whether there is a file, or what it holds, the next start tries again.
+  // If it is unknown whether there is a file, or what it holds, the next start tries again.
   if (stored.file == LoadResult::kUnreadable) return;
-  // No file is made of old values that could not be deleted afterwards.
+  // If the old values could not be deleted afterwards, no file is made of them.
   if (!store.Write({})) return;
   const std::u16string_view name = stored.display.calendarName.View();
   const CalendarFile calendar{look, stored.rules, stored.content, u""};
   if (calendars.Save(name, calendar, IfChanged::kRefuse).result != WriteResult::kWritten) return;
 
-  // The key says only afterwards that all is done, so that a start interrupted here is not the last that
-  // tries.
+  // The old values go last, so that the next start repeats a migration that is interrupted here.
   for (const std::u16string& other : calendars.Names())
     if (IsFirstStartCopy(calendars, other)) calendars.Delete(other);
 

@@ -12,8 +12,7 @@ namespace {
 constexpr std::string_view kHeader = "Windows Registry Editor Version 5.00";
 constexpr std::string_view kOurKey = "HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar";
 constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::size_t kLineLength = 78;  // at which a long value is broken
+constexpr std::size_t kLineLength = 78;  // length at which a long value continues on the next line
 
 bool SameName(std::string_view a, std::string_view b) {
   const NameLess less;
@@ -28,7 +27,7 @@ std::string_view Trimmed(std::string_view text) {
   return text;
 }
 
-// Returns the number that one to `maxDigits` hexadecimal digits and nothing else make; at most eight.
+// Returns the number in a text of 1 to `maxDigits` hexadecimal digits, at most 8; nothing for any other text.
 std::optional<std::uint32_t> HexNumber(std::string_view text, std::size_t maxDigits) {
   if (text.empty() || text.size() > maxDigits) return {};
   std::uint32_t number = 0;
@@ -45,7 +44,7 @@ struct DecodedText {
 };
 
 DecodedText Decoded(std::string_view bytes) {
-  // A mark behind a mark is dropped too: written again, it would stand at the beginning and count.
+  // All leading marks are dropped: a second one would be the first of the file when written again.
   while (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
   if (!bytes.starts_with(kUtf16Mark)) {
     std::string utf8 = ToUtf8(FromUtf8(bytes));
@@ -71,7 +70,7 @@ std::vector<std::string_view> Lines(std::string_view text) {
   return lines;
 }
 
-// Takes the text between quotes at the beginning of `rest`, its escapes undone; `rest` moves behind it.
+// Returns the text between quotes at the beginning of `rest`, unescaped, and moves `rest` past it.
 std::optional<std::string> TakeQuoted(std::string_view& rest) {
   std::string text;
   for (std::size_t i = 1; i < rest.size(); ++i) {
@@ -94,7 +93,7 @@ std::string Quoted(std::string_view text) {
   return quoted += '"';
 }
 
-// Reads "32,00,0a", with blanks anywhere between and a comma or not at the end.
+// Returns the bytes of "32,00,0a". Blanks may stand anywhere between, and a comma at the end.
 std::optional<std::string> HexBytes(std::string_view text) {
   std::string bytes;
   text = Trimmed(text);
@@ -114,7 +113,7 @@ bool TakeWord(std::string_view& rest, std::string_view word) {
   return true;
 }
 
-// Reads the part of a line behind the equals sign, its further lines joined.
+// Returns the value after an equals sign; its continuation lines have been joined.
 std::optional<StoredValue> ParseValue(std::string_view text) {
   if (text.starts_with('"')) {
     const std::optional<std::string> quoted = TakeQuoted(text);
@@ -145,8 +144,8 @@ std::optional<StoredValue> ParseValue(std::string_view text) {
 
 bool GoesOn(std::string_view line) { return Trimmed(line).ends_with('\\'); }
 
-// Returns whether a line can be the next one of a value in hexadecimal. A value whose end is lost takes
-// nothing else along.
+// Returns whether a line can continue a hexadecimal value, so that a value whose end is lost does not swallow
+// the lines after it.
 bool IsHexLine(std::string_view line) {
   return std::all_of(line.begin(), line.end(),
                      [](char c) { return HexDigit(c) >= 0 || c == ',' || c == '\\' || IsBlank(c); });
@@ -156,13 +155,10 @@ bool HasControl(std::u16string_view text) {
   return std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x20 || unit == 0x7F; });
 }
 
-// Returns the text of a value that quotes can hold; else nothing, and its bytes are written.
+// Returns the text of a value if it can be written in quotes; nothing for a value to be written in bytes.
 std::optional<std::string> QuotableText(const StoredValue& value) {
   if (value.type != kRegSz || value.bytes.size() < 2 || value.bytes.size() % 2 != 0) return {};
-  std::u16string text;
-  for (std::size_t i = 0; i < value.bytes.size(); i += 2)
-    text += static_cast<char16_t>(static_cast<unsigned char>(value.bytes[i]) |
-                                  static_cast<unsigned char>(value.bytes[i + 1]) << 8);
+  std::u16string text = FromUtf16Le(value.bytes);
   if (text.back() != u'\0') return {};
   text.pop_back();
   std::string utf8 = ToUtf8(text);
@@ -246,7 +242,7 @@ StoredValues CRegistryText::Values() const {
     if (item.value)
       values.insert_or_assign(item.name, *item.value);
     else
-      values.erase(item.name);  // the later line counts, although it holds no value
+      values.erase(item.name);  // the later line counts, even if it holds no value
   }
   return values;
 }
@@ -265,7 +261,7 @@ bool CRegistryText::Set(std::string_view name, const StoredValue& value) {
   auto behind = std::find_if(m_items.rbegin(), m_items.rend(), [](const Item& item) {
                   return item.kind != Item::kOther;
                 }).base();
-  if (behind == m_items.begin()) {  // no line of our key yet
+  if (behind == m_items.begin()) {  // there is no line of our key yet
     if (m_items.empty()) m_items.push_back({std::string(kHeader), Item::kOther, "", {}});
     m_items.push_back({"", Item::kOther, "", {}});
     m_items.push_back({"[" + std::string(kOurKey) + "]", Item::kOurKey, "", {}});
@@ -281,7 +277,7 @@ void CRegistryText::Delete(std::string_view name) {
     if (item.kind != Item::kOurValue || !SameName(item.name, name))
       kept.push_back(std::move(item));
     else if (!kept.empty() && GoesOn(kept.back().text))
-      kept.push_back({";", Item::kOther, "", {}});  // else the next line would be taken into that value
+      kept.push_back({";", Item::kOther, "", {}});  // keeps the next line from continuing that value
   }
   m_items = std::move(kept);
 }

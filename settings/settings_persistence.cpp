@@ -11,14 +11,14 @@ namespace {
 constexpr char kMainLayout[] = "WindowLayout";
 constexpr char kPrintLayout[] = "PrintWindowLayout";
 
-constexpr Rect kPrintRect{50, 50, 800, 600};  // where no layout of the print window is stored
+constexpr Rect kPrintRect{50, 50, 800, 600};  // rectangle of the print window while none is stored
 
-// The numbers of the key, in the order in which they are written.
+// Numbers of the key, in the order in which they are written.
 struct NumberValue {
   const char* name;
   std::variant<bool DisplaySettings::*, int DisplaySettings::*> field;
   std::uint32_t ifAbsent;
-  std::uint32_t mask = 0xFFFFFFFF;  // the bits of the stored number that count
+  std::uint32_t mask = 0xFFFFFFFF;  // bits of the stored number that are used
 };
 constexpr NumberValue kNumbers[] = {
     {"CircleTheDay", &DisplaySettings::circleTheDay, 0},
@@ -100,7 +100,7 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
   SaveOutcome outcome;
   if (newName && !IsCalendarName(*newName)) return outcome;
 
-  // An empty name of the key reads as the default one, and so does that of a record never filled.
+  // An empty name, of the key or of a record that was never filled, stands for the default name.
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
   const SavedCalendar saved = calendars.Save(name, {display.Look(), rules, content, u""}, ifChanged);
   outcome.calendar = saved.result;

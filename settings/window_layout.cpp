@@ -8,7 +8,7 @@
 namespace orbisol {
 namespace {
 
-// The extent in one direction, left to right or top to bottom, in a type that holds the sums of any ints.
+// Extent in one direction, left to right or top to bottom, in 64 bits, which hold sums of any ints.
 struct Extent {
   std::int64_t low;
   std::int64_t high;
@@ -39,7 +39,7 @@ void VisitFields(Layout& layout, Visitor visit) {
   visit(layout.rightPaneWidth);
 }
 
-// The number of a field's bytes.
+// Number of bytes that a field takes.
 template <typename Field>
 constexpr std::size_t kBytesOf = std::is_same_v<Field, int> ? 4 : 1;
 
@@ -58,7 +58,7 @@ std::array<std::uint8_t, kWindowLayoutBytes> LayoutToBytes(const WindowLayout& l
 void LayoutFromBytes(std::span<const std::uint8_t> bytes, WindowLayout& layout) {
   VisitFields(layout, [&]<typename Field>(Field& field) {
     if (bytes.size() < kBytesOf<Field>) {
-      bytes = {};  // a field that is cut off ends the record
+      bytes = {};  // nothing is read after a field that is cut off
       return;
     }
     std::uint32_t bits = 0;

@@ -34,8 +34,7 @@ std::array<std::uint8_t, kWindowLayoutBytes> LayoutToBytes(const WindowLayout& l
 // Bytes past the 24th are ignored.
 void LayoutFromBytes(std::span<const std::uint8_t> bytes, WindowLayout& layout);
 
-// Returns whether a rectangle has any room: false for an empty one, and for one turned inside out, as a
-// damaged value may be.
+// Returns whether a rectangle has an area: false for one that is empty or, in a damaged value, inverted.
 constexpr bool HasRoom(const Rect& rect) { return rect.right > rect.left && rect.bottom > rect.top; }
 
 // Returns a rectangle no larger than the screen, moved into it by the shortest way:
@@ -47,11 +46,11 @@ Rect FitRectToScreen(Rect rect, const Rect& screen);
 
 // The state of a window that closes.
 struct ClosingFrame {
-  Rect rect;  // with its frame; of a maximized window where it would stand restored; empty when not known
+  Rect rect;  // rectangle with the frame, of a maximized window that of its normal size; empty if unknown
   bool maximized = false;
   bool minimized = false;
   bool paneShown = true;
-  int paneWidth = 0;  // of the right pane, in pixels
+  int paneWidth = 0;  // width of the right pane, in pixels
 };
 
 // Returns what a closing window stores: its rectangle with the right pane, also when that is hidden, moved
