@@ -8,7 +8,8 @@
 namespace orbisol {
 namespace {
 
-// The toolkit's frame follows its widget and is cut out to a line; styles draw it each in their own way.
+// Frame that follows its widget, as the toolkit's does, with a line of our own: each style draws the
+// toolkit's in its own way.
 class CFrame : public QFocusFrame {
  public:
   using QFocusFrame::QFocusFrame;

@@ -9,8 +9,8 @@
 
 namespace orbisol {
 
-// Two pixels wide, where its holder's parent has that much room beside it. A window without a parent has
-// none.
+// Line of two pixels, where the widget's parent has that much room beside it. A widget without a parent has
+// no line.
 class CFocusLine {
  public:
   ~CFocusLine() { delete m_frame; }

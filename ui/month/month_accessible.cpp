@@ -19,7 +19,7 @@ const DayCell& CellIn(const MonthModel& month, int cell) {
   return month.cells[static_cast<std::size_t>(cell)];
 }
 
-// Pieces of kTextWeekOf.
+// Indices of the pieces of kTextWeekOf.
 enum { kWeekTitle, kWeekNumber };
 
 void (*g_spy)(QAccessibleEvent*) = nullptr;
@@ -150,7 +150,7 @@ QList<QAccessibleInterface*> CMonthAccessible::selectedCells() const {
 
 void CMonthAccessible::Send(QAccessible::Event type, int index) const {
   QAccessibleEvent event(object(), type);
-  event.setChild(index);  // -1: the table
+  event.setChild(index);  // -1 is the table itself
   Emit(event);
 }
 
@@ -172,7 +172,7 @@ void CMonthAccessible::Tell(MonthNews news) {
     event.setFirstColumn(0);
     event.setLastColumn(kColumns - 1);
     Emit(event);
-    // Readers keep the names that they have asked for until they hear of others.
+    // Readers keep the names they have asked for until they are told of a change.
     for (int index = 0; index < childCount(); ++index)
       if (m_ids[static_cast<std::size_t>(index)] != 0) Send(QAccessible::NameChanged, index);
   }
@@ -190,14 +190,14 @@ void CMonthAccessible::Tell(MonthNews news) {
 
   const int cell = window.SelectedCell();
   const bool isOtherCell = cell != std::exchange(m_toldCell, cell);
-  // The day at the end of a range says how long it is.
+  // The day at the end of a range has a name that says how long the range is.
   const int end = window.HasRange() ? IndexOfCell(cell) : -1;
   const int endBefore = std::exchange(m_toldEnd, end);
   for (const int index : {endBefore, end})
     if (index >= 0 && m_ids[static_cast<std::size_t>(index)] != 0) Send(QAccessible::NameChanged, index);
   if (!window.hasFocus() || !(isOtherCell || isOtherMonth || news == MonthNews::kFocus)) return;
-  // A reader is silent about the place that it stands on already, though it shows another day now. Over the
-  // table, which says the new month, it comes to it anew.
+  // A reader is silent about the place that already has the focus, even if it shows another day now. Focus
+  // that goes to the table first, which says the new month, comes back to the place anew.
   if (isOtherMonth || cell == kNoCell) Send(QAccessible::Focus, kTable);
   if (cell != kNoCell) Send(QAccessible::Focus, IndexOfCell(cell));
 }
@@ -230,7 +230,7 @@ QRect CMonthItem::rect() const {
 
 QAccessible::Role CMonthItem::role() const {
   if (IsWeek()) return QAccessible::RowHeader;
-  // On purpose: a reader that comes to a cell reads the whole week, and never says which of its days it is.
+  // On purpose: in the role of a cell a day makes readers read the whole week and never say which day it is.
   return IsHeader() ? QAccessible::ColumnHeader : QAccessible::ListItem;
 }
 
@@ -262,7 +262,7 @@ QString CMonthItem::text(QAccessible::Text kind) const {
     if (!window.HasRange() || Cell() != window.SelectedCell()) return ToQString(day);
     return ToQString(day + u", " + window.RangeText());
   }
-  // A gray day leads to another month.
+  // Only a day of another month is described: its press leads to that month.
   if (kind != QAccessible::Description || IsHeader() || Day().day == 0) return {};
   if (Day().month == window.Month().month) return {};
   return TablePiece(kTextHeaderNames, window.Places().IsInFirstRow(Cell()) ? kNamePrevious : kNameNext);

@@ -5,8 +5,7 @@
 //   InstallMonthAccessible();                             // once; again does nothing
 //   NotifyScreenReader(window, MonthNews::kSelection);    // after each move of the selected date
 //
-// Texts, places and marks are asked of the window when somebody asks for them; nothing is kept but what was
-// last told.
+// Texts, places and marks are taken from the window when a reader asks for them; only the last news is kept.
 #pragma once
 
 #include <QAccessibleActionInterface>
@@ -29,7 +28,7 @@ enum class MonthNews {
 // Makes CMonthWindow known to the toolkit.
 void InstallMonthAccessible();
 
-// Tells readers what has changed. Costs nothing where none listens.
+// Tells readers what has changed. Costs nothing when none listens.
 void NotifyScreenReader(CMonthWindow& window, MonthNews news);
 
 // Sends all news to `spy` instead, until it is nullptr again. For tests: off-screen the toolkit has no
@@ -57,9 +56,9 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
   QAccessibleInterface* childAt(int x, int y) const override;
   QAccessibleInterface* focusChild() const override;
 
-  // Returns a day in rows 0..5 and columns 0..6, and the other children in further rows, seven a row. Never
-  // nullptr but the first day for any other place: the toolkit takes what readers send for a place, and uses
-  // the answer unseen.
+  // Returns a day in rows 0..5 and columns 0..6, and the other children in further rows, seven a row. Any
+  // other place gives the first day, never nullptr: the toolkit passes on whatever readers send and uses the
+  // answer unchecked.
   QAccessibleInterface* cellAt(int row, int column) const override;
   int rowCount() const override { return kWeekRows; }
   int columnCount() const override { return kColumns; }
@@ -87,7 +86,7 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
  private:
   friend class CMonthItem;
 
-  // Children by their index.
+  // Indices of the children.
   static constexpr int kFirstName = kDayPlaces;
   static constexpr int kWeekHeader = kFirstName + kColumns;
   static constexpr int kFirstWeek = kWeekHeader + 1;
@@ -101,16 +100,15 @@ class CMonthAccessible : public QAccessibleWidget, public QAccessibleTableInterf
   CMonthItem* ItemOfCell(int cell) const { return Item(IndexOfCell(cell)); }
   void Send(QAccessible::Event type, int index) const;
 
-  // Ids of the children, made when first asked for and kept: a place keeps its identity whatever month it
-  // shows.
+  // Ids of the children, made on first use and kept: a place keeps its identity whatever month it shows.
   mutable std::array<QAccessible::Id, kMostChildren> m_ids{};
 
   std::bitset<kDayPlaces> m_toldSelected;
   int m_toldCell = kNoCell;
-  int m_toldEnd = -1;  // child that was named as the end of a range
+  int m_toldEnd = -1;  // child last told as the end of a range
   QString m_toldName;
   int m_toldChildren = 0;
-  PackedDate m_toldMonth = 0;  // first day of the month that was told; 0: nothing told yet
+  PackedDate m_toldMonth = 0;  // first day of the month last told; 0 before any
 };
 
 // A day, the name of a weekday or a week number: one place of the table.
@@ -147,7 +145,7 @@ class CMonthItem : public QAccessibleInterface,
   int rowExtent() const override { return 1; }
   QAccessibleInterface* table() const override { return parent(); }
 
-  // A day is pressed as a click on it would; it takes the focus by being selected.
+  // Actions of a day: a press does the same as a click, and the focus comes with the selection.
   QStringList actionNames() const override;
   void doAction(const QString& name) override;
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
@@ -155,7 +153,7 @@ class CMonthItem : public QAccessibleInterface,
  private:
   bool IsHeader() const { return m_index >= CMonthAccessible::kFirstName; }
   bool IsWeek() const { return m_index >= CMonthAccessible::kFirstWeek; }
-  int Cell() const;  // index in the model; meant for days
+  int Cell() const;  // index in the model, for days only
   const DayCell& Day() const;
   Rect Place() const;  // rectangle in the window
 

@@ -23,7 +23,7 @@ bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
-// Tells which keys take a step; the others that move the date lead to a day that they name.
+// Returns whether a key moves the date by a step; other keys that move it lead to a certain day.
 bool IsStep(int key) { return IsArrow(key) || key == Qt::Key_PageUp || key == Qt::Key_PageDown; }
 
 }  // namespace
@@ -40,7 +40,7 @@ void CMonthWindow::keyPressEvent(QKeyEvent* event) {
     m_range.Release();
     return;
   }
-  // Alt belongs to the frame's own keys.
+  // Keys with Alt belong to the frame.
   if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) {
     event->ignore();
     return;
@@ -117,7 +117,7 @@ bool CMonthWindow::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
   }
 }
 
-// Accepts the event of the menu key, which has opened the day already; the mouse has no menu here.
+// Accepts the event of the menu key, which has already opened the day. There is no context menu here.
 void CMonthWindow::contextMenuEvent(QContextMenuEvent* event) {
   event->setAccepted(event->reason() == QContextMenuEvent::Keyboard);
 }
@@ -153,7 +153,7 @@ void CMonthWindow::SelectCell(int cell, bool byYear) {
   emit dateMoved(move);
 }
 
-// Selects a cell's day. `byYear` turns a day of a neighboring month into a step of a year.
+// Selects the day of a cell. With `byYear` a day of a neighboring month makes a step of a year instead.
 DateMove CMonthWindow::TakeCell(int cell, bool byYear) {
   Date& date = Selected();
   const DayCell& day = Month().cells[static_cast<std::size_t>(cell)];
@@ -217,7 +217,7 @@ void CMonthWindow::OpenRangeOrDay() {
   }
 }
 
-// Opens the range between the anchor and the selected date; a single day is none.
+// Opens the range between the anchor and the selected date; a single day is no range.
 void CMonthWindow::OpenRange(PackedDate anchor) {
   const Date selected = Selected();
   const Date other(anchor);
@@ -232,8 +232,8 @@ void CMonthWindow::CancelRange() {
   NotifyScreenReader(*this, MonthNews::kSelection);
 }
 
-// Moves the pointer to the middle of the selected cell, where the settings want it to stay on the day.
-// Wayland lets nobody move the pointer, and the toolkit would complain.
+// Moves the pointer to the middle of the selected cell if the settings ask for that. Under Wayland no program
+// can move the pointer, and the toolkit would log a warning.
 void CMonthWindow::PullPointer() {
   if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
   const int cell = SelectedCell();
@@ -242,8 +242,7 @@ void CMonthWindow::PullPointer() {
   QCursor::setPos(mapToGlobal(QPoint((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2)));
 }
 
-// Shows the tip of the day at a position. Returns false where there is nothing to say, and hides the tip that
-// may still be shown there.
+// Shows the tip of the day at a position. Where there is none it hides the last tip and returns false.
 bool CMonthWindow::ShowTip(const QPoint& position, const QPoint& onScreen) {
   const int cell = CellAt(position);
   const std::u16string text =
@@ -254,7 +253,7 @@ bool CMonthWindow::ShowTip(const QPoint& position, const QPoint& onScreen) {
     return false;
   }
   const Rect rect = Places().CellRect(cell);
-  // Names are no markup: "<b>" in one is shown as it is written.
+  // Names are plain text: "<b>" in a name is shown as it is written.
   QToolTip::showText(onScreen, TipMarkup(ToQString(text)), this,
                      {rect.left, rect.top, rect.Width(), rect.Height()});
   return true;

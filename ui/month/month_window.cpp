@@ -14,7 +14,7 @@
 namespace orbisol {
 namespace {
 
-// Returns 0 while the clock stands outside of the years shown.
+// Returns today; 0 while the clock stands outside the years shown.
 PackedDate TodayPacked() {
   const Date today = Date::Today();
   return IsWithinBounds(today) ? today.Packed() : 0;
@@ -25,7 +25,7 @@ PackedDate TodayPacked() {
 CMonthWindow::CMonthWindow(QWidget* parent) : QWidget(parent), m_shown(Selected()) {
   InstallMonthAccessible();
   setFocusPolicy(Qt::StrongFocus);
-  setAttribute(Qt::WA_OpaquePaintEvent);  // Nothing is erased before it is painted.
+  setAttribute(Qt::WA_OpaquePaintEvent);  // painting covers everything, so nothing need be erased first
   connect(&m_background, &CBackgroundPicture::arrived, this, [this] {
     m_painter.SetBackground(m_background.Picture());
     update();
@@ -88,8 +88,8 @@ bool CMonthWindow::IsSelected(int cell) {
 
 bool CMonthWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
-    // The timer is late after a sleep, and knows nothing of a journey to another time zone; whoever wakes the
-    // machine comes back to the window.
+    // The timer is late after the machine has slept, and does not notice a change of time zone. Both are
+    // checked when the user comes back to the window.
     m_midnight.Restart();
     CheckToday();
   }
@@ -101,9 +101,9 @@ bool CMonthWindow::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-// The toolkit keeps what was painted and shows it at once, so nothing flickers here.
+// Paints the month. The toolkit shows the result in one step, so nothing flickers.
 void CMonthWindow::paintEvent(QPaintEvent* event) {
-  m_builtFor = 0;  // Rules, periods or colors may have changed since.
+  m_builtFor = 0;  // rules, periods or colors may have changed since the model was built
   QPainter painter(this);
   m_painter.Paint(painter, Month(), Marks(), event->region());
   painter.end();
@@ -145,7 +145,7 @@ void CMonthWindow::changeEvent(QEvent* event) {
 void CMonthWindow::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   m_focusLine.Show(*this);
-  // The toolkit is going to name the whole window as what has the focus; the day must be named after it.
+  // The toolkit will announce the focus of the whole window; the day must be announced after that.
   QMetaObject::invokeMethod(
       this, [this] { NotifyScreenReader(*this, MonthNews::kFocus); }, Qt::QueuedConnection);
 }
@@ -164,7 +164,7 @@ void CMonthWindow::UpdateCell(int cell) {
   if (cell != kNoCell) update(ToQRect(Places().DirtyRect(cell)));
 }
 
-// Shows that a hand of this window moved the selected date, which was `before`.
+// Shows a move of the selected date that was made in this window. `before` is the date until then.
 void CMonthWindow::ShowMove(const Date& before) {
   const Date& selected = Selected();
   const bool isOtherMonth = before.year != selected.year || before.month != selected.month;
@@ -179,7 +179,7 @@ void CMonthWindow::ShowMove(const Date& before) {
   NotifyScreenReader(*this, MonthNews::kSelection);
 }
 
-// Marks another day when the date has changed.
+// Marks today anew if the clock has come to another day.
 void CMonthWindow::CheckToday() {
   const PackedDate today = TodayPacked();
   if (today != m_today) update();

@@ -1,4 +1,5 @@
-// The month view: the month of the selected date as a grid of days, and the hands that move that date.
+// The month view: the month of the selected date as a grid of days, with the keys, clicks and turns of the
+// wheel that move that date.
 //
 //   CMonthWindow month(parent);
 //   connect(&month, &CMonthWindow::dateMoved, …, Qt::QueuedConnection);
@@ -7,8 +8,8 @@
 //   Display() = …;            // content, colors, fonts, picture, switches or calendar rules changed:
 //   month.SettingsChanged();
 //
-// It shows Selected(), Content(), Display() and Rules() as they are when it paints. Only the selected date is
-// ever changed by it, always within the bounds, and each change made here is told by a signal.
+// It shows Selected(), Content(), Display() and Rules() as they are when it paints. It changes
+// only the selected date, always within the bounds, and emits a signal for each change it makes.
 #pragma once
 
 #include <QWidget>
@@ -33,13 +34,13 @@ class CMonthWindow : public QWidget {
  public:
   explicit CMonthWindow(QWidget* parent = nullptr);
 
-  // Shows the selected date and tells nobody. Where it was moved here nothing is left to do; where it was
-  // moved elsewhere a range that is being selected with keys ends.
+  // Shows the selected date without emitting a signal. A date that was moved elsewhere ends a range that is
+  // being selected with keys.
   void Refresh();
-  // Lays out, drops the background picture and loads it anew, and paints.
+  // Computes the layout, loads the background picture and paints, all anew.
   void SettingsChanged();
 
-  // Returns the model of the month shown, built when another one was selected.
+  // Returns the model of the month shown, built anew if another month is selected.
   const MonthModel& Month();
   const MonthLayout& Places() const { return m_painter.Layout(); }
   // Returns the cell of the selected date; kNoCell for a date that has none, as 29 February 2025.
@@ -47,27 +48,28 @@ class CMonthWindow : public QWidget {
   // Returns the cell with a day at a position in the window; kNoCell elsewhere.
   int CellAt(QPoint position);
   bool HasRange() const { return m_range.HasRange(); }
-  // Returns ends and length of the range that is being drawn; empty where there is none.
+  // Returns ends and length of the range that is being drawn; empty if there is none.
   std::u16string RangeText() const;
-  // Tells whether a cell's day is the selected one, or lies in the range where there is one.
+  // Returns whether a cell's day is the selected one or, while there is a range, lies in it.
   bool IsSelected(int cell);
-  PackedDate Today() const { return m_today; }  // 0 while the clock stands outside of the years shown
-  // Selects a cell's day like a click on it; `byYear` turns a day of a neighboring month into a step of a
-  // year.
+  PackedDate Today() const { return m_today; }  // 0 while the clock stands outside the years shown
+
+  // Selects a cell's day like a click on it; with `byYear` a day of a neighboring month makes a step of a
+  // year instead.
   void SelectCell(int cell, bool byYear = false);
 
   QSize sizeHint() const override { return {560, 392}; }
 
  signals:
-  // The selected date was moved by a key, a click or the wheel. Connect it queued: whoever listens may take
-  // longer than the keyboard repeats.
+  // Tells that a key, a click or the wheel moved the selected date. Connect it queued, because a slot may
+  // take longer than the keyboard needs to repeat a key.
   void dateMoved(DateMove move);
-  // The selected date was moved by a range that is being drawn. Connect it directly, so that all views follow
-  // the pointer.
+  // Tells that drawing a range moved the selected date. Connect it directly, so that all views follow the
+  // pointer.
   void dateDragged();
-  // A range of two days at least was drawn or selected with keys; `from` is the earlier.
+  // Tells that a range of at least two days was drawn or selected with keys; `from` is the earlier.
   void periodChosen(const Date& from, const Date& to);
-  // The selected day was opened: a double click or the menu key.
+  // Tells that a double click or the menu key opened the selected day.
   void dayOpened(const Date& date);
 
  protected:
@@ -107,7 +109,7 @@ class CMonthWindow : public QWidget {
   CMonthPainter m_painter;
   CBackgroundPicture m_background;
   MonthModel m_month;
-  PackedDate m_builtFor = 0;  // first day of the month that m_month was built for; 0: build it anew
+  PackedDate m_builtFor = 0;  // first day of the month that m_month holds; 0 if it must be built anew
   Date m_shown;               // selected date as this window last knew it
   PackedDate m_today = 0;
   CTodayTimer m_midnight{[this] { CheckToday(); }};

@@ -1,5 +1,5 @@
-// A range of days while it is drawn, with the mouse held down or with Shift and the arrow keys. It knows
-// where the range began; where it ends is the selected date.
+// A range of days while it is drawn, with the mouse held down or with Shift and the arrow keys. The range
+// begins at the anchor held here and ends at the selected date.
 //
 //   range.Press(cell);             // the left button went down
 //   if (range.Enters(cell)) …      // the pointer moved on to another cell: take its day
@@ -17,44 +17,46 @@ namespace orbisol {
 
 class CRangeDrag {
  public:
-  // Day where the range began; 0 while there is none.
+  // Returns the day where the range began; 0 while there is none.
   PackedDate Anchor() const { return m_anchor; }
   bool HasRange() const { return m_anchor != 0; }
 
-  // Begins a range at `date`; false when one is under way.
+  // Begins a range at `date`. Returns false if one is under way.
   bool Begin(const Date& date) {
     if (HasRange()) return false;
     m_anchor = date.Packed();
     return true;
   }
-  // Ends the range and returns where it began; 0 when there was none.
+  // Ends the range and returns the day where it began; 0 if there was none.
   PackedDate End() { return std::exchange(m_anchor, 0); }
 
-  // The left button was pressed on a cell; kNoCell beside the days, where no drag begins.
+  // Begins a drag at the press of the left button on a cell; kNoCell, beside the days, begins none.
   void Press(int cell) {
     m_isDragging = cell != kNoCell;
     m_pointedAt = cell;
     m_waitsIn = kNoCell;
   }
-  // Ends the drag; false when none was under way.
+  // Ends the drag. Returns false if none was under way.
   bool Release() { return std::exchange(m_isDragging, false); }
   bool IsDragging() const { return m_isDragging; }
 
-  // Notes where the pointer is now. False while it stays in a cell over which the month has changed.
+  // Notes the cell under the pointer. Returns false while the pointer stays where it was when the month
+  // changed.
   bool Enters(int cell) {
     m_pointedAt = cell;
     if (m_waitsIn != kNoCell && m_pointedAt == m_waitsIn) return false;
     m_waitsIn = kNoCell;
     return true;
   }
-  // Another month came under the pointer: a drag would run away through the months if it went on at once.
+  // Makes the drag wait until the pointer leaves its cell, because another month has come under it and the
+  // drag would run on through the months.
   void MonthChanged() {
     if (m_isDragging) m_waitsIn = m_pointedAt;
   }
 
  private:
   PackedDate m_anchor = 0;
-  bool m_isDragging = false;  // a press that hit a day has not been released
+  bool m_isDragging = false;  // whether a press that hit a day is still held
   int m_pointedAt = kNoCell;  // cell where the pointer was last seen in a drag
   int m_waitsIn = kNoCell;    // cell that the pointer must leave before the drag goes on
 };

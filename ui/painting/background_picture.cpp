@@ -15,19 +15,19 @@
 namespace orbisol {
 namespace {
 
-constexpr QSize kLargeScreen(3840, 2160);  // pictures are made no larger than that
+constexpr QSize kLargeScreen(3840, 2160);  // bound of the decoded picture
 
 constexpr std::chrono::milliseconds kBetweenLooks(20);
 constexpr int kMostLooks = 500;  // ten seconds
 constexpr std::chrono::seconds kFarewell(1);
 
-// Starts to read in a thread of its own. Without one to be had there will be no picture.
+// Begins to read in a thread of its own. If no thread can be made there will be no picture.
 std::thread ReadBeside(const QString& path, std::promise<QImage> promise) {
   try {
     return std::thread([path, result = std::move(promise)]() mutable {
       try {
         result.set_value(ReadPicture(path, kLargeScreen).image);
-      } catch (...) {  // no memory for it
+      } catch (...) {  // no memory for the picture
         result.set_exception(std::current_exception());
       }
     });
@@ -48,7 +48,7 @@ CBackgroundPicture::~CBackgroundPicture() {
   LeaveReader();
 }
 
-// Lets go of the thread. One that is stuck in the kernel is left behind and ends with the process.
+// Gives the thread up. A thread that is stuck in the kernel is detached and ends with the process.
 void CBackgroundPicture::LeaveReader() {
   if (!m_reader.joinable()) return;
   const bool isDone =

@@ -13,8 +13,8 @@
 namespace orbisol {
 namespace {
 
-constexpr int kLeastNamePixels = 11;  // below that a weekday name is abbreviated
-constexpr int kLeastWeekPixels = 8;   // below that two digits are a smudge
+constexpr int kLeastNamePixels = 11;  // font size below which weekday names are abbreviated
+constexpr int kLeastWeekPixels = 8;   // font size below which two digits cannot be read
 
 template <class Texts>
 int WidestOf(const Texts& texts, const QFontMetrics& metrics) {
@@ -32,7 +32,7 @@ QFont FontOfWidth(QFont font, const Texts& texts, int room) {
     font.setPixelSize(size);
     return WidestOf(texts, QFontMetrics(font)) <= room;
   };
-  // Widths grow with the size, nearly evenly.
+  // Widths grow nearly in proportion to the size, which gives a first guess.
   const int largest = font.pixelSize();
   int size = std::max(1, largest * std::max(room, 1) / widest);
   while (size > 1 && !fits(size)) --size;
@@ -59,7 +59,7 @@ QFont FontOfHeight(QFont font, int height) {
     font.setPixelSize(1);
     return font;
   }
-  // Each size that is tried is loaded: most faces are about a sixth higher than their size.
+  // Trying a size loads the font. Most faces are about a sixth higher than their size, so few are tried.
   const int guess = std::max(1, height * 6 / 7);
   font.setPixelSize(guess);
   int size = std::max(1, guess * height / std::max(QFontMetrics(font).height(), 1));
@@ -109,7 +109,7 @@ MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& sett
 QSize LeastMonthSize(const QFont& dialogFont) {
   const QFontMetrics metrics(dialogFont);
   const int name = WidestOf(NamesOfColumns(1, ColumnAbbrev), metrics);
-  // Four and two thirds of the font's size, at least as wide as a name with an eighth free.
+  // A column is 4 2/3 times as wide as the font's size, and wide enough for a name with an eighth left free.
   const int column = std::max(MulDiv(QFontInfo(dialogFont).pixelSize(), 14, 3), (name * 8 + 6) / 7);
   const int row = (metrics.height() * 9 + 3) / 4;
   return {column * kColumns, row * (kWeekRows + 1)};

@@ -24,11 +24,11 @@ QFont FontOfHeight(QFont font, int height);
 QFont CalendarFont(const DisplaySettings& settings, const QFont& dialogFont);
 
 struct MonthFonts {
-  QFont upright;    // of the days of the month
-  QFont italic;     // of the days of its neighbors
-  QFont names;      // of the weekday names; at most as large as `upright`
-  QFont small;      // of the week numbers; at least 8 pixels, however narrow their column
-  QFont weekTitle;  // of the title over them, likewise
+  QFont upright;    // font of the days of the month
+  QFont italic;     // font of the days of its neighbors
+  QFont names;      // font of the weekday names; at most as large as `upright`
+  QFont small;      // font of the week numbers; at least 8 pixels, however narrow their column
+  QFont weekTitle;  // font of the title over the week numbers; at least 8 pixels too
   // "Lundi", or "Lun." where the longest of the seven would have to be smaller than the text of the dialogs.
   std::array<QString, kColumns> nameTexts;
 };

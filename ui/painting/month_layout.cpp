@@ -7,14 +7,14 @@
 namespace orbisol {
 namespace {
 
-constexpr int kNameMargin = 3;  // around a weekday name
+constexpr int kNameMargin = 3;  // space around a weekday name, in pixels
 
 }  // namespace
 
 MonthLayout::MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale)
     : width(std::max(totalWidth, 0)),
       height(std::max(totalHeight, 0)),
-      // Seven columns take 280 of 290 parts beside the week numbers.
+      // With week numbers the seven columns take 280 of 290 parts of the width.
       columnWidth(weekNumbers ? MulDiv(40, width, 290) : width / kColumns),
       rowHeight(height / (kWeekRows + 1)),
       lineScale(std::max(scale, 1)),
@@ -53,9 +53,8 @@ Rect MonthLayout::WeekNumberRect(int row) const {
   return {WeekNumbersLeft(), row * rowHeight, width - 1, (row + 1) * rowHeight};
 }
 
-// On purpose: not always at 28/29 of the width. Where the columns of days are rounded up they reach up to
-// three pixels into that part, and the numbers, which fill it, would be crossed by the line behind the
-// columns.
+// Returns the left edge of the week numbers. On purpose: it is not always at 28/29 of the width. Columns of
+// days that are rounded up reach up to three pixels beyond it, and their last line would cross the numbers.
 int MonthLayout::WeekNumbersLeft() const {
   return std::max(MulDiv(28, width, 29), kColumns * columnWidth + lineScale);
 }
@@ -103,7 +102,7 @@ Rect MonthLayout::CircleRect(int cell) const {
 Rect MonthLayout::FrameRect(int cell, int penWidth) const {
   Rect frame = CellRect(cell);
   // The middle of each stroke lies on the edge of the cell shrunk by half the pen. A stroke of odd width ends
-  // a pixel behind the cell, but never outside of the canvas.
+  // one pixel outside the cell, but never outside the canvas.
   frame.right = std::min(frame.right + penWidth % 2, width);
   frame.bottom = std::min(frame.bottom + penWidth % 2, height);
   return frame;
@@ -119,7 +118,7 @@ std::vector<Rect> MonthLayout::FrameStrokes(const Rect& frame, int thickness) {
 }
 
 Rect MonthLayout::DirtyRect(int cell) const {
-  constexpr int kWidestStroke = 3;  // by which the mark may leave a small cell
+  constexpr int kWidestStroke = 3;  // pixels by which the mark may extend beyond a small cell
   return CellRect(cell).Shrunk(-std::max(columnWidth / 10, kWidestStroke),
                                -std::max(rowHeight / 8, kWidestStroke));
 }

@@ -1,5 +1,5 @@
-// Where everything stands in the month view: a header row, six rows of weeks, at the right a narrow column of
-// week numbers where it is asked for. Plain integers, the unit is that of the canvas (pixels on a screen).
+// The geometry of the month view: a header row, six rows of weeks and, where they are shown, a narrow column
+// of week numbers at the right. All are plain integers in the unit of the canvas (pixels on a screen).
 //
 //   const MonthLayout layout(900, 420, settings.showWeekNumber, Rules().iso8601);
 //   layout.CellRect(cell);  // cells are numbered as in MonthModel
@@ -32,7 +32,7 @@ struct MonthLayout {
   MonthLayout() = default;
   MonthLayout(int totalWidth, int totalHeight, bool weekNumbers, bool mondayFirst, int scale = 1);
 
-  // Column 0..6 and row 1..6 of a cell, which must be firstCell or a later one.
+  // Return the column, 0..6, and the row, 1..6, of a cell, which must be firstCell or a later one.
   int ColumnOf(int cell) const { return (cell - firstCell) % kColumns; }
   int RowOf(int cell) const { return (cell - firstCell) / kColumns + 1; }
   bool IsInFirstRow(int cell) const { return RowOf(cell) == 1; }
@@ -42,8 +42,8 @@ struct MonthLayout {
   int WeekOfRow(const MonthModel& month, int row) const;
 
   Rect CellRect(int cell) const;
-  // Returns kNoCell in the header row, in and right of the week numbers, in the rest that the divisions leave
-  // at the right and below, and outside.
+  // Returns the cell at a point; kNoCell in the header row, in and right of the week numbers, in the
+  // remainder of the divisions at the right and below, and outside.
   int CellAt(int x, int y) const;
 
   Rect HeaderBand() const { return {0, 0, width, rowHeight + 1}; }
@@ -56,8 +56,8 @@ struct MonthLayout {
   std::vector<int> VerticalLines(bool grid) const;
   std::vector<int> HorizontalLines(bool grid) const;
 
-  // Return where a day with a mark is filled: in a band across the top of its cell, or in a rectangle with
-  // rounded corners.
+  // Return the area that is filled in the cell of a day with a mark: a band across the top, or a rectangle
+  // with rounded corners.
   Rect BandRect(int cell) const;
   Rect RoundedRect(int cell) const { return CellRect(cell).Shrunk(4 * lineScale); }
   int RoundedDiameter() const;
@@ -66,13 +66,14 @@ struct MonthLayout {
   // wide and `textHeight` high.
   Rect GlyphRect(int cell, int textWidth, int textHeight) const;
 
-  Rect CircleRect(int cell) const;  // around the ellipse of the active day
+  Rect CircleRect(int cell) const;  // rectangle around the ellipse of the active day
   // Returns the outer edges of the frame of the active day.
   Rect FrameRect(int cell, int penWidth) const;
-  // Returns the strokes of a frame, in any unit: top, bottom, left, right; one where it is all stroke.
+  // Returns the strokes of a frame, in any unit: top, bottom, left, right; a frame without an inside is one
+  // stroke.
   static std::vector<Rect> FrameStrokes(const Rect& frame, int thickness);
 
-  // Returns what must be painted anew when the mark comes to a cell or leaves it.
+  // Returns the area to repaint when the mark comes to a cell or leaves it.
   Rect DirtyRect(int cell) const;
 
   // Return heights of fonts, ascent and descent together.

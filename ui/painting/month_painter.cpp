@@ -16,19 +16,19 @@
 namespace orbisol {
 namespace {
 
-// Opacity of the tint in today's cell: it is found at a glance and shouts beside no holiday.
+// Opacity of the tint in today's cell: strong enough to be found at a glance, weaker than a holiday's fill.
 constexpr float kTodayTint = 0.14F;
 
 // Returns a region that is one unit larger at every side. At a fractional ratio a unit ends inside a device
-// pixel, and the whole of that pixel is to be painted.
+// pixel, which must be painted whole.
 QRegion Grown(const QRegion& region) {
   QRegion grown;
   for (const QRect& rect : region) grown += rect.adjusted(-1, -1, 1, 1);
   return grown;
 }
 
-// Draws a text on one line in the middle of a rectangle; one that is too wide is cut at both sides. Returns
-// the rectangle of the text.
+// Draws a text on one line in the middle of a rectangle; a text that is too wide is cut at both sides.
+// Returns the rectangle of the text.
 QRect DrawCentered(QPainter& painter, const QRect& rect, const QString& text) {
   const QFontMetrics metrics = painter.fontMetrics();
   const int textWidth = metrics.horizontalAdvance(text);
@@ -72,7 +72,7 @@ void CMonthPainter::SetBackground(const QImage& picture) {
   m_stretched = QImage();
 }
 
-// Back to front: each step paints one layer and relies on none of the others.
+// Paints from back to front: each step paints one layer and relies on none of the others.
 void CMonthPainter::Paint(QPainter& painter, const MonthModel& month, const MonthMarks& marks,
                           const QRegion& region) const {
   if (m_layout.width == 0 || m_layout.height == 0) return;
@@ -120,14 +120,15 @@ void CMonthPainter::PaintBackground(QPainter& painter) const {
     painter.drawImage(rows, m_background);
     return;
   }
-  // Whole device pixels from under the header to the edges, so that none is left out at a fractional ratio.
+  // The area from the header to the edges is rounded to whole device pixels, so that a fractional ratio
+  // leaves none out.
   const double ratio = Ratio(painter);
   const int top = static_cast<int>(std::floor(rows.y() * ratio));
   const QSize size(static_cast<int>(std::ceil(m_layout.width * ratio)),
                    static_cast<int>(std::ceil(m_layout.height * ratio)) - top);
   if (m_stretched.size() != size || m_stretched.devicePixelRatio() != ratio) {
     m_stretched = QImage(size, QImage::Format_RGB32);
-    m_stretched.fill(plain);  // behind a picture that is not opaque
+    m_stretched.fill(plain);  // seen through a picture that is not opaque
     QPainter(&m_stretched)
         .drawImage(0, 0, m_background.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     m_stretched.setDevicePixelRatio(ratio);
@@ -159,7 +160,7 @@ double CMonthPainter::Ratio(const QPainter& painter) const {
 }
 
 // Moves the origin to a whole device pixel. At a fractional ratio a window may begin in the middle of one,
-// and then takes one more or less than its size alone would say.
+// and its size in device pixels then differs by one from that of its size alone.
 void CMonthPainter::AlignToPixels(QPainter& painter) const {
   const double ratio = Ratio(painter);
   if (m_medium == kPaper) {
@@ -172,14 +173,14 @@ void CMonthPainter::AlignToPixels(QPainter& painter) const {
   painter.translate((begin - exact.topLeft()) / ratio);
 }
 
-// Draws a thin line of the grid, from edge to edge. It is whole device pixels wide at every ratio, so that
-// none is thicker than its neighbor.
+// Draws a thin line of the grid, from edge to edge. At every ratio it is a whole number of device pixels
+// wide, so that all lines are equally thick.
 void CMonthPainter::FillLine(QPainter& painter, int position, Qt::Orientation orientation) const {
   const double ratio = Ratio(painter);
   const double width = m_pixels.width();
   const double height = m_pixels.height();
   const double thickness = std::max(1.0, std::floor(m_layout.lineScale * ratio));
-  // On purpose: the closing lines lie just outside of the canvas; drawn at its edge they are seen.
+  // On purpose: the last lines, which lie just outside the canvas, are drawn at its edge to be seen.
   const double end = orientation == Qt::Vertical ? width : height;
   const double first = std::min(std::round(position * ratio), end - thickness);
   const QRectF pixels =
@@ -198,7 +199,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
     tint.setAlphaF(kTodayTint);
     painter.fillRect(ToQRect(m_layout.CellRect(cell)), tint);
   }
-  // On purpose: compared with the window color of the palette, not with the background of the settings.
+  // On purpose: the color is compared with the palette's window color, not with the settings' background.
   if (day.marks != 0 && day.backColor != kWindowColor) PaintFill(painter, day, cell);
 
   const QColor ink = ToQColor(day.textColor);
@@ -256,7 +257,7 @@ void CMonthPainter::PaintWeekNumber(QPainter& painter, int row, int week) const 
 }
 
 void CMonthPainter::PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const {
-  // Printer engines know the mode by name and paint a white box.
+  // Printer engines accept this composition mode but paint a white box.
   if (m_medium == kPaper) return;
   painter.save();
   painter.setCompositionMode(QPainter::CompositionMode_Difference);
@@ -271,7 +272,7 @@ void CMonthPainter::PaintMark(QPainter& painter, int cell) const {
   const QColor color = ToQColor(m_settings.ColorAt(kCircleColor));
   const int pen = m_settings.CircleWidth();
   if (!m_settings.circleTheDay) {
-    // Whole device pixels, so that all four strokes have one thickness at every ratio.
+    // Edges are rounded to whole device pixels, so that all four strokes are equally thick at every ratio.
     const double ratio = Ratio(painter);
     const auto snapped = [&](int edge) { return static_cast<int>(std::lround(edge * ratio)); };
     const Rect frame = m_layout.FrameRect(cell, pen);

@@ -52,7 +52,7 @@ class CMonthPainter {
 
   const MonthLayout& Layout() const { return m_layout; }
 
-  // With a region only that is painted, and it looks there as if all had been painted anew.
+  // Paints a month. With a region only that part is painted, and looks as if all had been painted anew.
   void Paint(QPainter& painter, const MonthModel& month, const MonthMarks& marks,
              const QRegion& region = QRegion()) const;
 
@@ -78,7 +78,7 @@ class CMonthPainter {
   int m_lineHeight = 0;
   QImage m_background;
 
-  mutable QSize m_pixels;  // device pixels that the layout takes where it is being painted
+  mutable QSize m_pixels;  // size of the layout in device pixels, in the paint under way
 
   // Copies in device pixels, made when a size is first painted.
   mutable QImage m_stretched;

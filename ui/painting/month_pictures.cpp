@@ -23,7 +23,8 @@ void DrawMoonOnPaper(QPainter& painter, const QRectF& square, MoonPhase phase, d
   painter.setBrush(phase == kNewMoon ? Qt::black : Qt::white);
   painter.drawEllipse(disc);
   if (phase == kFirstQuarter || phase == kLastQuarter) {
-    constexpr int kQuarterTurn = 90 * 16;  // sixteenths of a degree, from the east against the clock
+    constexpr int kQuarterTurn =
+        90 * 16;  // in sixteenths of a degree; angles count counterclockwise from the east
     const bool darkAtLeft = phase == kFirstQuarter;
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);

@@ -1,11 +1,11 @@
-// Names that several views of the month write in the same way.
+// Names that several views of the month share.
 #pragma once
 
 #include <QString>
 
 namespace orbisol {
 
-// Pieces of kTextHeaderNames.
+// Indices of the pieces of kTextHeaderNames.
 enum { kNameHeader, kNamePrevious, kNameNext, kNameMonth, kNameYear, kNameYearEditor };
 
 // Return "Lundi" and "Lun.", by the column 0..6 of a month whose first cell is 1 (Monday) or 0 (Sunday).
