@@ -61,7 +61,7 @@ CConverterPane::CConverterPane(QWidget* parent)
   Refresh();
 }
 
-// Puts the scroll bars where the margins of the content are, so that they take no room from it.
+// Puts the scroll bars into the margins of the content, so that they take no room from it.
 void CConverterPane::FitMargins() {
   const auto isNeeded = [](const QScrollBar* bar) { return bar->maximum() > 0; };
   QMargins margins = kMargins;
@@ -77,7 +77,7 @@ QSize CConverterPane::sizeHint() const {
   return size;
 }
 
-// Shows the list of the month where its least number of lines is free below the groups.
+// Shows the list of the month if there is room for its least number of lines below the groups.
 void CConverterPane::FitList() {
   const int free = viewport()->height() - sizeHint().height() - widget()->layout()->spacing();
   m_month->setMaximumHeight(std::min(m_month->HeightWithin(free), m_month->sizeHint().height()));
@@ -93,11 +93,12 @@ void CConverterPane::resizeEvent(QResizeEvent* event) {
 }
 
 bool CConverterPane::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) FitList();  // a group became higher
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) FitList();  // a group may have grown
   return QScrollArea::eventFilter(watched, event);
 }
 
-// Leaves the keys of the calendar, among them those that turn the page, to whoever waits for them further up.
+// Leaves all keys, among them those of the scroll area, to the widgets above, which move the calendar by
+// them.
 void CConverterPane::keyPressEvent(QKeyEvent* event) { event->ignore(); }
 
 QString CConverterPane::JulianText() const { return m_julian->JulianText(); }

@@ -28,27 +28,27 @@ class CConverterPane : public QScrollArea {
 
   // Shows the selected date in all its forms. A date before the Republican era ends the entry of one.
   void Refresh();
-  // Lists what `month` brings, which was built for the selected date.
+  // Lists the days of `month`, which was built for the selected date.
   void ShowMonth(const MonthModel& month);
-  // Tells whether the window leaves room for that list.
+  // Returns whether the window has room for that list.
   bool ListsMonth() const;
-  // Takes over colors and calendar rules that were changed; the dates themselves wait for Refresh().
+  // Takes over colors and calendar rules that were changed; Refresh() then shows the dates by them.
   void SettingsChanged();
 
   // Return the dates as the pane shows them, also while it is hidden.
   QString JulianText() const;
   QString RepublicanText() const;  // two lines; empty before the era
 
-  // Returns the size at which all groups are seen whole, without the list of the month.
+  // Returns the size at which all groups fit, without the list of the month.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return {0, 0}; }
 
  signals:
-  // The selected date was changed by a control of the pane.
+  // Tells that a control of the pane changed the selected date.
   void dateChanged();
-  // A control has done its work or disappears, and the keyboard belongs to the month again.
+  // Tells that a control has done its work or disappears, so that the month should take the focus.
   void focusGivenUp();
-  // The list of the month appeared, or had to go.
+  // Tells that the list of the month appeared or disappeared.
   void listShown();
 
  protected:

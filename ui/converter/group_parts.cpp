@@ -30,7 +30,7 @@ int FieldWidth(const QLineEdit& field, const QString& text) {
   QStyleOptionFrame option;
   option.initFrom(&field);
   option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
-  constexpr int kTextMargin = 2;  // added by the toolkit at each side
+  constexpr int kTextMargin = 2;  // pixels that the toolkit adds at each side
   constexpr int kCursor = 1;
   const QSize inside(field.fontMetrics().horizontalAdvance(text) + 2 * kTextMargin + kCursor,
                      field.fontMetrics().height());
@@ -45,7 +45,7 @@ void NameField(QWidget* field, int piece) {
 
 QLabel* MakeDateLabel() {
   auto* const label = new CSelectableLabel;
-  QFont font;  // of the weight alone, so that all else follows the pane
+  QFont font;  // sets the weight alone, so that all else follows the pane
   font.setWeight(QFont::DemiBold);
   label->setFont(font);
   return label;

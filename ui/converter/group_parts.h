@@ -20,8 +20,8 @@ void KeepRoomWhenHidden(QWidget* widget);
 // Returns the width, in pixels, of a field in which `text` is seen whole.
 int FieldWidth(const QLineEdit& field, const QString& text);
 
-// Names a field for screen readers with piece `piece` of kTextConverterNames. A list takes it as its
-// description too, because readers replace the name of a list with the item chosen in it.
+// Names a field for screen readers with piece `piece` of kTextConverterNames. A combo box gets it as its
+// description too, because readers replace the name of such a box with the item chosen in it.
 void NameField(QWidget* field, int piece);
 
 // Returns a new label for a date, semi-bold to be told from titles and notes, which the mouse and Tab
@@ -31,7 +31,7 @@ QLabel* MakeDateLabel();
 // Returns a new button with the text `textId` that Enter presses as well as Space.
 QPushButton* MakeButton(int textId);
 
-// Pieces of kTextConverterNames.
+// Indices of the pieces of kTextConverterNames.
 enum { kNameDay, kNameMonth, kNameYear, kNameKept, kNameDifference };
 
 }  // namespace orbisol

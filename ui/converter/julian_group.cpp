@@ -36,7 +36,7 @@ CJulianGroup::CJulianGroup(QWidget* parent)
   auto* const column = new QVBoxLayout;
   for (QLabel* const line : {m_julian, m_dayNumber, m_proleptic}) column->addWidget(line);
   SetGroupLayout(this, column);
-  column->setSpacing(0);  // lines as far apart as those of one text
+  column->setSpacing(0);  // the lines are as close as those of one text
   FitToFont();
 }
 

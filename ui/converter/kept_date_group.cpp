@@ -65,10 +65,10 @@ void CKeptDateGroup::ColorsChanged() {
   m_keep->setIcon(ToolIcon(isKept ? "kept" : "keep", ToQColor(Display().ColorAt(kColorCalHeader))));
   m_keep->setToolTip(TipMarkup(action));
   m_keep->setAccessibleName(TablePiece(kTextKeepDate, 0));
-  m_keep->setAccessibleDescription(action);  // else readers are given the tip with its markup
+  m_keep->setAccessibleDescription(action);  // without one, readers would get the tip with its markup
 }
 
-// Writes the date anew each time, because the calendar rules may have changed how it is called.
+// Shows the date. It is written anew each time, because other calendar rules may write it differently.
 void CKeptDateGroup::Refresh() {
   if (m_keptDate == 0) {
     m_kept->clear();

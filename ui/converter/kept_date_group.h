@@ -26,8 +26,8 @@ class CKeptDateGroup : public CCalendarGroup {
   void ColorsChanged();
 
  signals:
-  void dateChosen(PackedDate date);  // the user went to the field of the remembered date
-  void focusGivenUp();               // the button has done its work
+  void dateChosen(PackedDate date);  // tells that the user went to the field of the remembered date
+  void focusGivenUp();               // tells that the button has done its work
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -13,7 +13,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kInset = 2;  // pixels above and below the text together, and at each side
-constexpr int kGap = 8;    // from the number of the day to the text
+constexpr int kGap = 8;    // pixels between the number of the day and the text
 
 HighlightKind KindOf(const QModelIndex& line) {
   return static_cast<HighlightKind>(line.data(CMonthLine::kKindRole).toInt());

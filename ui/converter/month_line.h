@@ -7,18 +7,18 @@
 
 namespace orbisol {
 
-// Returns how the line reads: "1 Fête du Travail" without the number, "Vacances d'hiver (8–23)" for several
+// Returns the text of a line: "1 Fête du Travail" without the number, "Vacances d'hiver (8–23)" for several
 // days.
 QString LineText(const Highlight& highlight);
 
-// Returns how a screen reader says it: "Vendredi 1 mai 2026 : Fête du Travail, jour férié".
+// Returns the line for screen readers: "Vendredi 1 mai 2026 : Fête du Travail, jour férié".
 QString SpokenLine(const Highlight& highlight);
 
 class CMonthLine : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  // What the model holds beside the text of a line.
+  // Data of a line beside its text.
   enum Role {
     kDayRole = Qt::UserRole,  // number of the day
     kKindRole,                // HighlightKind

@@ -21,7 +21,7 @@ CMonthList::CMonthList(QWidget* parent)
   m_lines->setFrameShape(QFrame::NoFrame);
   m_lines->setItemDelegate(new CMonthLine(m_lines));
   m_lines->setUniformItemSizes(true);
-  m_lines->setSelectionMode(QAbstractItemView::NoSelection);  // the selected day is the one in the month
+  m_lines->setSelectionMode(QAbstractItemView::NoSelection);  // only the month has a selection
   m_lines->setMouseTracking(true);
   m_lines->viewport()->setCursor(Qt::PointingHandCursor);
   m_lines->viewport()->setAutoFillBackground(false);

@@ -27,13 +27,12 @@ class CMonthList : public CCalendarGroup {
 
   explicit CMonthList(QWidget* parent = nullptr);
 
-  // Lists a month. Where that changes no line, the one that has the keyboard keeps it.
+  // Lists a month. If that changes no line, the current line keeps the keyboard.
   void Show(const MonthModel& month);
-  // Tints the first line of a date, and makes it the one where the keyboard begins; without such a line no
-  // line is tinted.
+  // Tints the first line of a date and makes it the current line; without such a line no line is tinted.
   void MarkDate(PackedDate date);
-  // Returns the largest height of the group within `height` at which only whole lines are seen; no less than
-  // that of kLeastLines lines.
+  // Returns the greatest height of the group, at most `height`, at which no line is cut; at least that of
+  // kLeastLines lines.
   int HeightWithin(int height) const;
   // Draws and names the lines under settings that were changed.
   void SettingsChanged();

@@ -62,7 +62,7 @@ void CRepublicanEntry::changeEvent(QEvent* event) {
 
 void CRepublicanEntry::FitToFont() {
   m_year->setFixedWidth(FieldWidth(*m_year, QStringLiteral("-00000")));
-  constexpr int kNarrowMargin = 10;  // styles make a button of one word far too wide for its row
+  constexpr int kNarrowMargin = 10;  // in pixels; by default a button of one word is too wide for its row
   m_go->setFixedWidth(m_go->fontMetrics().horizontalAdvance(m_go->text()) + 2 * kNarrowMargin);
 }
 
@@ -81,7 +81,8 @@ void CRepublicanEntry::Load(const RepublicanDate& date) {
   m_day->setCurrentIndex(date.dayIndex);
 }
 
-// Offers the days of the month and year that stand in the fields; a chosen day beyond them becomes the last.
+// Fills the list with the days of the month and year in the fields; a chosen day beyond them becomes the
+// last.
 void CRepublicanEntry::FillDays() {
   const int days = m_month->currentIndex() == kComplementaryMonth ? ComplementaryDays(Year()) : kMonthDays;
   const int chosen = std::max(m_day->currentIndex(), 0);

@@ -25,7 +25,7 @@ class CRepublicanEntry : public QWidget {
   void Load(const RepublicanDate& date);
 
  signals:
-  // "Ok" was pressed, or Enter in the year. The year field then shows the year limited to
+  // Tells that "Ok" was pressed, or Enter in the year. The year field then shows the year limited to
   // 1 … kLastRepublicanYear; `date` may still lie behind the last date shown.
   void dateEntered(PackedDate date);
 

@@ -48,7 +48,7 @@ void CRepublicanGroup::Refresh() {
   m_text = ToQString(orbisol::RepublicanText(Selected()));
   m_republican->setText(QString(m_text).replace(QLatin1String("\n "), QLatin1String("\n")));
   if (m_text.isEmpty()) {
-    // A control that is hidden with the focus would hand it on to the next one, which nobody chose.
+    // A control that is hidden while it has the focus would pass it on to the next control.
     QWidget* const focused = QApplication::focusWidget();
     if (focused == m_isEntry || m_entry->isAncestorOf(focused)) emit focusGivenUp();
     m_isEntry->setChecked(false);

@@ -31,7 +31,7 @@ class CRepublicanGroup : public CCalendarGroup {
 
  signals:
   void dateEntered(PackedDate date);  // as CRepublicanEntry::dateEntered
-  // The control that had the keyboard is about to be hidden.
+  // Tells that the control with the focus is about to be hidden.
   void focusGivenUp();
 
  protected:

@@ -44,7 +44,7 @@ void CHeaderWnd::wheelEvent(QWheelEvent* event) {
   Changed(DateMove::kStep);
 }
 
-// Accepts the press, so that the release comes here too.
+// Accepts the press, so that the release arrives here too.
 void CHeaderWnd::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void CHeaderWnd::mouseReleaseEvent(QMouseEvent* event) {
@@ -95,7 +95,7 @@ void CHeaderWnd::OpenMonthMenu() {
   menu->popup(mapToGlobal(QPoint(m_layout.month.left, m_layout.month.bottom - kOverlap)));
 }
 
-// On purpose: the day stays as it is, also where the month has no such day.
+// Sets the month. On purpose: the day stays, even if the month has no such day.
 void CHeaderWnd::SelectMonth(int month) {
   Selected().month = month;
   ClampToBounds(Selected());
@@ -125,15 +125,16 @@ void CHeaderWnd::CloseYearEditor() {
 void CHeaderWnd::YearEditorClosed(bool byEnter) {
   if (!IsEditingYear()) return;
   const QSignalBlocker closesOnce(m_year);  // losing the focus closes it too
-  // Asked of its window, which may have lost the focus as a whole.
+  // The window knows its focus widget even while another window has the keyboard.
   const bool hadFocus = window()->focusWidget() == m_year;
-  // Enter means "today" in the month below: until the key is up its repetitions end here.
+  // Enter means "today" in the month, so repetitions of this press must not reach it: the focus waits here
+  // until the key is up.
   m_isEnterDown = byEnter && hadFocus;
   if (m_isEnterDown) setFocus(Qt::OtherFocusReason);
-  // Before the editor is hidden: the toolkit would give the focus to the arrow beside it first.
+  // The focus moves before the editor is hidden, else the toolkit would give it to the arrow beside.
   if (hadFocus && !m_isEnterDown) GiveFocusBack();
   m_year->hide();
-  TakeDate();  // the title stood still under the editor
+  TakeDate();  // the title was not updated under the editor
   LayOut();
   update();
 }
@@ -148,7 +149,7 @@ void CHeaderWnd::GiveFocusBack() {
 
 void CHeaderWnd::keyPressEvent(QKeyEvent* event) {
   if (m_isEnterDown && !IsEnter(event->key())) {
-    // A key was typed before Enter was up: it is meant for what had the focus.
+    // A key pressed before Enter is up is meant for the widget that had the focus.
     m_isEnterDown = false;
     GiveFocusBack();
     if (QWidget* const receiver = QApplication::focusWidget(); receiver && receiver != this)

@@ -18,14 +18,14 @@ CHeaderPart::CHeaderPart(HeaderPart part, std::function<void(HeaderPart, Qt::Key
     : QAbstractButton(parent), m_part(part), m_press(std::move(press)) {
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  // Space, and whatever presses a button from outside; the keys held count for arrows alone.
+  // clicked() comes from Space and from a screen reader. Only the arrows look at the keys held.
   connect(this, &QAbstractButton::clicked, this,
           [this] { m_press(m_part, QGuiApplication::keyboardModifiers()); });
 }
 
 void CHeaderPart::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) {
-    // Held, it steps with the arrows; it would open and close the menu again and again.
+    // A held Enter repeats the arrows' steps; it must not open and close the menu again and again.
     const bool isArrow = m_part == HeaderPart::kPrevious || m_part == HeaderPart::kNext;
     if (isArrow || !event->isAutoRepeat()) m_press(m_part, event->modifiers());
   } else if (event->key() == Qt::Key_Left) {
@@ -37,7 +37,7 @@ void CHeaderPart::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// Moves the focus to the part beside this one; at either end it stays.
+// Moves the focus to the part beside this one, if there is one.
 void CHeaderPart::FocusNeighbor(int step) {
   const auto parts = parentWidget()->findChildren<CHeaderPart*>(QString(), Qt::FindDirectChildrenOnly);
   const qsizetype place = parts.indexOf(this) + step;

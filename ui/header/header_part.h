@@ -1,4 +1,4 @@
-// The arrows, the month and the year of the header as the keyboard and a screen reader know them.
+// The arrows, the month and the year of the header as controls for the keyboard and for screen readers.
 #pragma once
 
 #include <QAbstractButton>
@@ -9,8 +9,8 @@
 
 namespace orbisol {
 
-// One part of the header. It shows nothing but its focus; the mouse belongs to the header. The parts of a
-// header are made in their order from left to right.
+// One part of the header, which shows nothing but its focus; the header handles the mouse. Make the parts of
+// a header in their order from left to right.
 class CHeaderPart : public QAbstractButton {
   Q_OBJECT
 

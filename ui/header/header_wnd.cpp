@@ -37,7 +37,7 @@ CHeaderWnd::CHeaderWnd(QWidget* parent) : QWidget(parent) {
   setAccessibleName(TablePiece(kTextHeaderNames, kNameHeader));
 
   const auto press = [this](HeaderPart part, Qt::KeyboardModifiers modifiers) { Press(part, modifiers); };
-  // Made in the order of Tab: the editor comes behind the year.
+  // The parts are made in the order of Tab: the editor comes after the year.
   m_previousPart = new CHeaderPart(HeaderPart::kPrevious, press, this);
   m_monthPart = new CHeaderPart(HeaderPart::kMonth, press, this);
   m_yearPart = new CHeaderPart(HeaderPart::kYear, press, this);
@@ -85,7 +85,7 @@ QString CHeaderWnd::CivilYearText() const {
 void CHeaderWnd::Refresh() {
   m_year->SetPosition(CivilYearOf(Selected()));
   if (IsEditingYear() && MonthTitle(Selected().month) == m_monthName) {
-    // The title stands still under the editor.
+    // The title is not updated under the editor.
     UpdateNames();
     update(ToQRect(m_layout.topBand));
     update(ToQRect(m_layout.bottomBand));
@@ -103,7 +103,7 @@ void CHeaderWnd::TakeDate() {
   UpdateNames();
 }
 
-// Makes the font of the title, which depends on the size of the header and the face; a date changes neither.
+// Makes the font of the title anew if the size of the header or the face changed; a date changes neither.
 void CHeaderWnd::FitTitle() {
   QFont face = CalendarFont(Display(), font());
   face.setBold(true);
@@ -111,7 +111,7 @@ void CHeaderWnd::FitTitle() {
   m_fittedSize = size();
   m_fittedFace = face;
 
-  // Never smaller than the text of the dialogs, however large the user made that.
+  // The title is never smaller than the text of dialogs, however large that is.
   const int least = QFontMetrics(font()).height();
   m_titleFont = FontOfHeight(face, std::max(least, HeaderLayout::TitleHeight(height(), m_band)));
   const auto widest = [&] {
@@ -128,9 +128,9 @@ void CHeaderWnd::FitTitle() {
         std::clamp(m_titleFont.pixelSize() * room / needed, 1, m_titleFont.pixelSize() - 1));
 }
 
-// Makes the font of the year editor, which is as large as the title's where its frame leaves room for that.
+// Makes the font of the year editor: as large as the title's if its frame leaves room for that.
 void CHeaderWnd::FitEditor() {
-  constexpr int kFieldFrame = 4;  // above and below the text together
+  constexpr int kFieldFrame = 4;  // pixels of the frame above and below the text together
   const int room = std::min(QFontMetrics(m_titleFont).height(), height() - 2 * m_band - kFieldFrame);
   m_year->setFont(FontOfHeight(m_fittedFace, std::max(1, room)));
 }
@@ -172,7 +172,7 @@ QSize CHeaderWnd::minimumSizeHint() const {
           HeaderLayout::LeastHeight(band, metrics.height())};
 }
 
-// Names the parts for a screen reader: the arrows by the month that they lead to.
+// Names the parts for screen readers; the arrows by the month that they lead to.
 void CHeaderWnd::UpdateNames() {
   const auto leadsTo = [](int name, int step) {
     Date there = Selected();
@@ -193,7 +193,7 @@ void CHeaderWnd::UpdateNames() {
   m_yearPart->setAccessibleDescription(YearTip());
 }
 
-// Shows that a click on the part under the pointer does something.
+// Highlights the month or the year under the pointer, to show that it can be clicked.
 void CHeaderWnd::PaintPointedAt(QPainter& painter, const QColor& ink) const {
   const bool isYear = m_pointedAt == HeaderPart::kYear;
   if (m_pointedAt == HeaderPart::kNone || (isYear && IsEditingYear())) return;
@@ -202,7 +202,7 @@ void CHeaderWnd::PaintPointedAt(QPainter& painter, const QColor& ink) const {
                       : isYear                             ? m_layout.year
                                                            : m_layout.month;
   constexpr float kTint = 0.12F;
-  constexpr int kBeside = 4;  // pixels left and right of a text
+  constexpr int kBeside = 4;  // pixels of the highlight left and right of the text
   QColor tint = ink;
   tint.setAlphaF(kTint);
   painter.setPen(Qt::NoPen);
@@ -235,7 +235,7 @@ void CHeaderWnd::paintEvent(QPaintEvent*) {
   if (!IsEditingYear()) drawPart(m_layout.year, QString::number(m_shownYear));
 
   painter.setFont(font());
-  // The right text is never cut; the left one gives way to it.
+  // The right text is never cut; the left one is shortened for it.
   const auto drawBand = [&](const Rect& band, const QString& left, const QString& right, bool isLeftCut) {
     const QRect area = ToQRect(band);
     const int rightWidth = right.isEmpty() ? 0 : painter.fontMetrics().horizontalAdvance(right) + kBandGap;
@@ -269,7 +269,7 @@ QString CHeaderWnd::YearTip() const {
   return lines.join(QLatin1Char('\n'));
 }
 
-// Returns the tip of a point, and the area in which it is the same.
+// Returns the tip at a point, and sets the area in which the tip stays the same.
 QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
   const auto isIn = [&](const Rect& place) {
     if (!place.Contains(position.x(), position.y())) return false;

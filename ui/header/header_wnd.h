@@ -3,7 +3,7 @@
 //
 //   CHeaderWnd header(parent);
 //   connect(&header, &CHeaderWnd::dateChanged, …);
-//   Selected() = …;     // the date was moved elsewhere:
+//   Selected() = …;     // elsewhere the date was moved:
 //   header.Refresh();
 //
 // A click on an arrow steps by a month, with Ctrl by a year, with Shift by ten, with both by a hundred; the
@@ -31,8 +31,8 @@ class CHeaderWnd : public QWidget {
  public:
   explicit CHeaderWnd(QWidget* parent = nullptr);
 
-  // Shows the selected date, the colors, the font and the calendar rules. While the year is being typed its
-  // box is left alone.
+  // Shows the selected date, the colors, the font and the calendar rules. While the year is being typed, its
+  // field is not rewritten.
   void Refresh();
 
   bool IsEditingYear() const;
@@ -47,12 +47,12 @@ class CHeaderWnd : public QWidget {
   QString EraText() const;        // top right; empty from year 1 on
   QString CivilYearText() const;  // top left; empty where civil years begin on 1 January
 
-  // Returns the size below which texts of the bottom band are cut, or bands and title, which is never smaller
-  // than the text of the dialogs, cover one another.
+  // Returns the size below which texts of the bottom band are cut, or bands and title overlap. The title is
+  // never smaller than the text of dialogs.
   QSize minimumSizeHint() const override;
 
  signals:
-  // The selected date was changed here, by the user's hand.
+  // Tells that the user changed the selected date here.
   void dateChanged(DateMove move);
 
  protected:
@@ -89,9 +89,9 @@ class CHeaderWnd : public QWidget {
   void UpdateNames();
 
   HeaderLayout m_layout;
-  bool m_hasSize = false;  // whether a size was given to it; until then nothing is laid out
+  bool m_hasSize = false;  // whether a size was given; until then no layout is computed
   QFont m_titleFont;
-  QFont m_fittedFace;  // face and size of the header that the font of the title was made for
+  QFont m_fittedFace;  // face, and below it size of the header, for which m_titleFont was made
   QSize m_fittedSize;
   int m_band = 0;  // height of the bands
   QString m_monthName;

@@ -26,8 +26,8 @@ CMonthMenu::CMonthMenu(int month, QWidget* parent) : QMenu(parent) {
   }
 }
 
-// Returns the next month behind the active one that begins with a letter, or the active one itself; nullptr
-// for a letter that begins none.
+// Returns the next month after the active one that begins with a letter, or else the active one itself;
+// nullptr for a letter that begins none.
 QAction* CMonthMenu::NextWith(QChar letter) const {
   const QList<QAction*> months = actions();
   const qsizetype active = months.indexOf(activeAction());

@@ -14,7 +14,7 @@ class CMonthMenu : public QMenu {
   Q_OBJECT
 
  public:
-  // `month` is 1..12.
+  // Makes the menu with `month`, 1..12, checked.
   CMonthMenu(int month, QWidget* parent);
 
  signals:

@@ -47,7 +47,7 @@ void CYearEdit::stepBy(int steps) { Enter(m_position + std::clamp(steps, -kLastY
 
 void CYearEdit::Enter(int year) {
   emit YearEntered(std::clamp(year, -kLastYear, kLastYear));
-  // The host has set the position to the year that it shows now.
+  // The owner has set the position to the year that it shows now.
   lineEdit()->setText(QString::number(m_position));
   selectAll();
 }
@@ -72,14 +72,14 @@ int CYearEdit::ButtonsWidth() const {
   initStyleOption(&option);
   option.rect = QRect(0, 0, 200, option.fontMetrics.height() + 8);
   const QRect field = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
-  constexpr int kTextMargins = 6;  // pixels left and right of the text in the field, with the cursor
+  constexpr int kTextMargins = 6;  // pixels left and right of the text, with the cursor
   return option.rect.width() - field.width() + kTextMargins;
 }
 
 void CYearEdit::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key()) || event->key() == Qt::Key_Escape) {
     event->accept();
-    // An Enter that is held has opened the editor.
+    // Repetitions come from an Enter that is still held since it opened the editor.
     if (!event->isAutoRepeat()) emit Closed(IsEnter(event->key()));
     return;
   }
@@ -88,7 +88,7 @@ void CYearEdit::keyPressEvent(QKeyEvent* event) {
 
 void CYearEdit::focusOutEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusOutEvent(event);
-  // Its own menu takes the focus for a moment.
+  // The editor's own menu takes the focus only for a moment.
   if (event->reason() != Qt::PopupFocusReason) emit Closed(false);
 }
 

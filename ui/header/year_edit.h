@@ -8,11 +8,11 @@
 
 namespace orbisol {
 
-// Takes a sign and digits, and is never rewritten while the user types.
+// Edit field for a sign and digits, which is never rewritten while the user types.
 class CYearEdit : public QAbstractSpinBox {
   Q_OBJECT
 
-  // Screen readers ask a spin control for these names.
+  // Properties by which screen readers know a spin control.
   Q_PROPERTY(int value READ Position WRITE Enter)
   Q_PROPERTY(int minimum READ Minimum CONSTANT)
   Q_PROPERTY(int maximum READ Maximum CONSTANT)
@@ -27,7 +27,7 @@ class CYearEdit : public QAbstractSpinBox {
   void SetPosition(int year);
   int Minimum() const { return -kLastYear; }
   int Maximum() const { return kLastYear; }
-  // Does what typing the year, clamped, would do.
+  // Enters a year, clamped, as if it had been typed.
   void Enter(int year);
   QString Text() const { return text(); }
 
