@@ -11,7 +11,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kIconSide = 64;
-constexpr double kNameScale = 1.6;  // of the program's name, beside the font of the other texts
+constexpr double kNameScale = 1.6;  // font size of the program's name, by that of the other texts
 
 #if defined(Q_OS_WIN)
 constexpr std::u16string_view kSystem = u"Windows";

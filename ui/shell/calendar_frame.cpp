@@ -28,13 +28,13 @@ namespace orbisol {
 namespace {
 
 constexpr int kToolIconSize = 22;
-constexpr int kStatusIndent = 5;  // so that the description begins below the edge of the month
+constexpr int kStatusIndent = 5;  // pixels left of the status text, which aligns it with the month
 
-// The size of the first window with its frame, before anybody gave it one.
+// Greatest size of the window with its frame at the first start.
 constexpr QSize kMostFirstSize(1280, 800);
-constexpr int kWidthForPane = 900;  // from there on the first window shows the pane
+constexpr int kWidthForPane = 900;  // least width at which the first window shows the pane
 
-// Two thirds of the free area of the screen.
+// Returns the size of the first window: two thirds of the free area of the screen.
 QSize FirstSize() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return kMostFirstSize;
@@ -73,8 +73,9 @@ CCalendarFrame::CCalendarFrame(const FrameServices& services)
       m_description(new CElidedLabel),
       m_dialog(nullptr) {
   TakeSettings();
-  setContextMenuPolicy(Qt::NoContextMenu);  // the toolkit's own would hide bars behind the menu's back
-  setAttribute(Qt::WA_AlwaysShowToolTips);  // of inactive windows too
+  setContextMenuPolicy(
+      Qt::NoContextMenu);  // the toolkit's menu would hide bars without the check marks of ours
+  setAttribute(Qt::WA_AlwaysShowToolTips);  // tips appear in an inactive window too
 
   m_commands->FillMenuBar(*menuBar(), MainMenu());
   m_toolBar = addToolBar(TableText(kTextToolBarName));
@@ -102,7 +103,7 @@ CCalendarFrame::CCalendarFrame(const FrameServices& services)
   m_dialog->FocusMonth();
 }
 
-// What is stored goes into the live records here, and nowhere else at start-up.
+// Reads the settings and puts them in force. At start-up no other function does.
 void CCalendarFrame::TakeSettings() {
   StoredSettings stored = ReadSettings(m_services.store, m_services.calendars, m_services.publicCalendars,
                                        m_services.locale, VirtualScreen());
@@ -117,7 +118,7 @@ void CCalendarFrame::UpdateTitle() {
   const std::u16string_view name = Display().calendarName.View();
   QString title = name == kDefaultCalendarName || name.empty() ? TableText(kTextProgramName)
                                                                : TableText(kTextCalendarTitle, {name});
-  // The toolkit puts its mark of unsaved changes in the place of this, unless it stands twice.
+  // The toolkit replaces "[*]" in a title by its mark of unsaved changes, unless it stands twice.
   setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
@@ -211,13 +212,13 @@ void CCalendarFrame::OnToggleStatusBar() {
   statusBar()->setVisible(isShown);
 }
 
-// The frame takes or gives the room of the pane, so that the month stays as it is.
+// Shows or hides the pane. The window grows or shrinks by its width, so that the month keeps its size.
 void CCalendarFrame::OnTogglePane() {
   const bool isShown = !m_dialog->IsPaneShown();
   Display().mainLayout.rightPaneShown = isShown;
   if (isShown) m_placement->Widen(m_dialog->PaneWidth());
   m_dialog->ShowPane(isShown);
-  layout()->activate();  // the smallest size follows the pane
+  layout()->activate();  // updates the least size
   if (!isShown) m_placement->Widen(-m_dialog->PaneWidth());
 }
 

@@ -39,10 +39,10 @@ class CCalendarFrame : public QMainWindow {
   Q_OBJECT
 
  public:
-  // The parts of the machine outlive the frame.
+  // Reads the settings and builds the window. The objects in `services` outlive the frame.
   explicit CCalendarFrame(const FrameServices& services);
 
-  // Shows the window where it was closed, or in the middle of the screen where it never was.
+  // Shows the window where it was last closed, or in the middle of the screen at the first start.
   void Open();
 
   // Brings the window to the front, for a user who started the program again. `token` is what the desktop
@@ -71,7 +71,7 @@ class CCalendarFrame : public QMainWindow {
   static const Handler kHandlers[];
   static const Handler* HandlerOf(CommandId command);
   static bool IsReady(CommandId command);
-  void OpenWindow(CommandId command, const OpeningRequest& request);  // beeps where no window is made yet
+  void OpenWindow(CommandId command, const OpeningRequest& request);  // beeps if no window is made yet
 
   void OnDateShown(const QString& description);
 
@@ -96,7 +96,7 @@ class CCalendarFrame : public QMainWindow {
   QToolBar* m_toolBar;
   CElidedLabel* m_description;
   CMainDlg* m_dialog;
-  bool m_isFirst = false;  // true where no place of the window was ever stored
+  bool m_isFirst = false;  // whether no place of the window was ever stored
 };
 
 }  // namespace orbisol

@@ -10,12 +10,12 @@
 namespace orbisol {
 namespace {
 
-constexpr int kMisused = 2;  // exit code, as the tools of the system have it
+constexpr int kMisused = 2;  // exit code for bad usage, as that of the system's tools
 
-// The options that the toolkit takes off before a program sees them, without their one or two dashes.
+// Options that the toolkit takes off before a program sees them, without their one or two dashes.
 struct ToolkitOption {
   std::string_view name;
-  bool hasValue;  // in the next word, unless it stands behind "="
+  bool hasValue;  // whether a value follows, in the next word or after "="
 };
 constexpr ToolkitOption kToolkitOptions[] = {
     {"display", true},       {"dograb", false},      {"geometry", true},      {"icon", true},

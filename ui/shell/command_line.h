@@ -1,4 +1,4 @@
-// The words behind the program's name. Nothing is configured there:
+// The words after the program's name. Nothing is configured there:
 //
 //   AnswerCommandLine({"orbisol", "--version"}, std::cout, std::cerr);  // prints it; 0
 //   AnswerCommandLine({"orbisol", "--blue"}, std::cout, std::cerr);     // names "--blue" in one line; 2

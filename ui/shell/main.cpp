@@ -7,7 +7,7 @@
 
 int main(int argc, char** argv) {
   if (const auto code = orbisol::AnswerCommandLine({argv, argv + argc}, std::cout, std::cerr)) return *code;
-  // A desktop's own dialogs would come in the session's language.
+  // A desktop's own dialogs would be in the session's language.
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication::setApplicationName(QStringLiteral("orbisol"));
   QApplication::setOrganizationName(QStringLiteral("Corvalen"));

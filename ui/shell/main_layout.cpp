@@ -13,11 +13,11 @@ Rect Box(int left, int top, int width, int height) {
 
 MainLayout LayOutMain(const MainMeasures& m) {
   int width = m.width - 2 * kMargin;
-  // What seven equal columns cannot use. With week numbers the grid divides its width itself.
+  // The remainder that seven equal columns cannot use. With week numbers the grid divides its width itself.
   if (!m.weekNumbers) width -= std::max((width - 3 * kGap - kMargin) % kDayColumns, 0);
   if (m.paneShown) width -= m.paneWidth;
 
-  // Its share is enough in every window that is not held below its least size by a small screen.
+  // The share is enough unless a small screen keeps the window below its least size.
   const int headerHeight = std::max(m.height / kHeaderShare, m.leastHeader);
   const int gridTop = m.headerTop + headerHeight + kHeaderToGrid;
 
@@ -32,7 +32,7 @@ MainLayout LayOutMain(const MainMeasures& m) {
 }
 
 int EvenHeight(int height, int headerTop, int leastHeader) {
-  constexpr int kRows = 7;  // the names of the weekdays and six weeks
+  constexpr int kRows = 7;  // the row of weekday names and six weeks
   MainMeasures measures;
   measures.headerTop = headerTop;
   measures.leastHeader = leastHeader;

@@ -59,10 +59,10 @@ int Run(const StartUp& startUp) {
     QObject::connect(ending.get(), &QSocketNotifier::activated, &frame, [&] {
       ending->setEnabled(false);
       frame.close();
-      QApplication::quit();  // where a dialog is open too
+      QApplication::quit();  // ends the program even while a dialog is open
     });
   }
-  // A session that ends waits for this one answer and then cuts the display off.
+  // A session that ends waits for this slot only and then closes the display.
   QObject::connect(
       qApp, &QGuiApplication::commitDataRequest, &frame, [&] { frame.StoreLayout(); }, Qt::DirectConnection);
   frame.Open();

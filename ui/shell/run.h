@@ -23,8 +23,8 @@ struct StartUp {
 };
 
 // Runs until the main window closes and returns the exit code, which is 0. Without a settings key it reports
-// a broken installation and opens nothing. Where the program runs already it raises that window instead. A
-// signal to end and the end of the session store where the window stands.
+// a broken installation and opens nothing. If the program is running already it raises that window instead. A
+// signal to end and the end of the session store the place of the window.
 int Run(const StartUp& startUp);
 
 // Runs with the answers of the desktop.

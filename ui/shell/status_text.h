@@ -2,8 +2,8 @@
 //
 //   StatusText({.date = Selected(), .day = &cell, .namesNextHoliday = true}, Content().dayEvents);
 //
-// It says the first of these that there is: the range that is being drawn, that the date does not exist, all
-// that falls on the day, the next public holiday.
+// The line says the first of these that applies: the range that is being drawn, that the date does not exist,
+// all that falls on the day, the next public holiday.
 #pragma once
 
 #include <span>
@@ -16,14 +16,14 @@
 namespace orbisol {
 
 struct StatusFacts {
-  Date date;                     // the selected one
-  const DayCell* day = nullptr;  // its cell; null for a date that has none, as 29 February 2025
+  Date date;                     // selected date
+  const DayCell* day = nullptr;  // cell of the date; null for a date that has none, as 29 February 2025
   std::u16string range;     // ends and length of the range that is being drawn; empty where there is none
   bool withoutDate = true;  // leaves the date itself out, as in tips for events only
-  bool namesNextHoliday = false;  // true where no list of holidays is in sight
+  bool namesNextHoliday = false;  // true if no list of holidays is in sight
 };
 
-// Returns plain text without a line feed, with " | " between parts; empty where there is nothing to say.
+// Returns plain text without a line feed, with " | " between parts; empty if there is nothing to say.
 std::u16string StatusText(const StatusFacts& facts, std::span<const DayEvent> rules);
 
 }  // namespace orbisol

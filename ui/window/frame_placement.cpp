@@ -18,25 +18,27 @@
 namespace orbisol {
 namespace {
 
-// Milliseconds after which the margins are looked for once the window was shown. A slow window manager is met
-// later, when it moves, resizes or activates the window.
+// Delays after the window was shown at which its margins are read, in milliseconds. The margins of a slow
+// window manager are read later, when it moves, resizes or activates the window.
 constexpr int kMarginChecks[] = {0, 50, 200, 600};
 
-// Milliseconds after which the size is looked for to which a maximized window is put back. After the last of
-// them it is set, whatever the window system has made of it.
+// Delays at which the size of a window that leaves the maximized state is read, in milliseconds. After the
+// last one the size is set, whatever the window system made of it.
 constexpr int kReturnChecks[] = {50, 200, 600};
 
-// Pixels by which a side may miss what was asked for, where the screen's ratio is a fraction.
+// Difference between the asked and the actual size of a side, in pixels, that a fractional ratio of the
+// screen explains.
 constexpr int kRounding = 1;
 
-// Pixels of a title bar that are enough to take hold of it.
+// Part of a title bar, in pixels, that is enough to move the window by it.
 constexpr int kGripWidth = 80;
 constexpr int kGripHeight = 24;
 
 bool IsNear(int a, int b) { return std::abs(a - b) <= kRounding; }
 bool IsNear(const QPoint& a, const QPoint& b) { return IsNear(a.x(), b.x()) && IsNear(a.y(), b.y()); }
 
-// Whether a window there can be seen and moved. Around screens of different sizes there are places on none.
+// Returns whether a window there can be seen and moved. Beside screens of different sizes there are places
+// that lie on none of them.
 bool IsWithinReach(const QRect& frame) {
   const QRect grip(frame.x(), frame.y(), frame.width(), kGripHeight);
   const QList<QScreen*> screens = QGuiApplication::screens();
@@ -88,7 +90,7 @@ void CFramePlacement::Show(const QRect& frame, bool isMaximized) {
     m_window.showMaximized();
   } else {
     m_window.show();
-    m_asked.append(m_window.size());  // what the window itself made of it
+    m_asked.append(m_window.size());  // the window may have bounded the size itself
   }
 }
 
@@ -103,7 +105,7 @@ QMargins CFramePlacement::FrameMargins() const {
   return handle == nullptr ? QMargins() : handle->frameMargins();
 }
 
-// Returns where the window is to stand, with its frame.
+// Returns the rectangle, with the frame, where the window should be.
 QRect CFramePlacement::Target(const QMargins& margins) const {
   const QSize least = LeastSize(m_window).grownBy(margins);
   QRect frame(m_wanted.topLeft(), m_wanted.size().expandedTo(least));
@@ -143,7 +145,7 @@ bool CFramePlacement::eventFilter(QObject*, QEvent* event) {
 }
 
 bool CFramePlacement::IsAskedPlace(const QPoint& place, const QMargins& margins) const {
-  // Some window managers take the place that was asked for the frame for that of the inside.
+  // Some window managers put the inside at the place that was asked for the frame.
   return IsNear(place, m_askedPlace) || IsNear(place, m_askedPlace + QPoint(margins.left(), margins.top()));
 }
 
@@ -170,7 +172,7 @@ QRect CFramePlacement::FrameOf(const QRect& inside, const QMargins& margins, int
   return frame;
 }
 
-// Takes the margins off once they are known. What the user has changed meanwhile stays as it is.
+// Takes the margins off the size once they are known. Changes that the user made meanwhile stay.
 void CFramePlacement::Correct() {
   if (!m_window.isVisible() || !HasNormalSize()) return;
   const QMargins margins = FrameMargins();

@@ -1,5 +1,5 @@
-// The place of a top-level window on the screens: opens it where it was closed, corrects that once the window
-// manager has put its frame around it, and tells where it stands when it closes.
+// The place of a top-level window on the screens. A placement opens the window where it was closed, corrects
+// that once the window manager has put its frame around it, and tells its place when it closes.
 //
 //   CFramePlacement placement(window);                // lives as long as the window
 //   placement.Open(ToQRect(layout.rect), layout.maximized);
@@ -8,7 +8,7 @@
 //
 // Rectangles are in the pixels of the toolkit and hold the frame; an inside is what the frame surrounds. The
 // margins between the two are known only some time after the window was shown, and on some desktops never:
-// until then a window is as large inside as it is wanted with its frame.
+// until then the inside has the size that is meant for the frame.
 #pragma once
 
 #include <QList>
@@ -29,8 +29,9 @@ class CFramePlacement : public QObject {
  public:
   explicit CFramePlacement(QWidget& window);
 
-  // Shows the window at a stored rectangle. A rectangle that is smaller than the window can be, or that
-  // nobody could take hold of, is first made large enough and then moved into the free area of its screen.
+  // Shows the window at a stored rectangle. A rectangle below the window's least size, or at a place where
+  // its title bar is out of reach, is first made large enough and then moved into the free area of its
+  // screen.
   void Open(const QRect& frame, bool isMaximized);
 
   // Shows the window in the middle of the free area of the primary screen.
@@ -40,7 +41,7 @@ class CFramePlacement : public QObject {
   // screen it keeps its size, and its normal size changes instead.
   void Widen(int change);
 
-  // False while the window is maximized, minimized or on the full screen.
+  // Returns false while the window is maximized, minimized or on the full screen.
   bool HasNormalSize() const;
 
   // Returns the rectangle of the window, in its normal size, and its state. The fields of the pane keep their
@@ -65,14 +66,14 @@ class CFramePlacement : public QObject {
   void Resize(int change);
 
   QWidget& m_window;
-  QRect m_wanted;              // with the frame, as it is to stand
-  bool m_isCentred = false;    // m_wanted has a size alone
+  QRect m_wanted;              // rectangle, with the frame, where the window should be
+  bool m_isCentred = false;    // whether m_wanted has a size alone
   QPoint m_askedPlace;         // place that was asked for, of the frame
   QList<QSize> m_asked;        // sizes that were asked for, of the inside; any of them may still arrive
-  QMargins m_margins;          // as last seen at the normal size
-  bool m_isCorrected = false;  // the margins have been taken off
+  QMargins m_margins;          // margins last seen at the normal size
+  bool m_isCorrected = false;  // whether the margins have been taken off
   int m_owedWidth = 0;         // change of the normal width while the window has another
-  int m_normalWidth = 0;       // of the inside, without what is owed; 0 while it was never known
+  int m_normalWidth = 0;       // width of the inside without m_owedWidth; 0 until it is known
 };
 
 }  // namespace orbisol

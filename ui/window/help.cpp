@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kWidthInLetters = 130;
 constexpr int kHeightInLines = 34;
-constexpr int kListInLetters = 40;  // width of contents and index
+constexpr int kListInLetters = 40;  // width of contents and index, in letters
 constexpr int kLinkRole = Qt::UserRole;
 
 enum HelpPiece { kTitle, kContents, kIndex, kFilter, kPage, kBack, kForward };  // pieces of kTextHelp
@@ -33,8 +33,8 @@ QString Caption(HelpPiece piece) { return TablePiece(kTextHelp, piece); }
 
 QString FileOf(const QString& link) { return link.section(QLatin1Char('#'), 0, 0); }
 
-// Returns the help window, made where there is none. A window that a modal dialog would block is replaced by
-// one that belongs to the dialog.
+// Returns the help window, and makes it if there is none. A window that a modal dialog would block is
+// replaced by one that belongs to the dialog.
 CHelpWindow& HelpWindow() {
   QWidget* const dialog = QApplication::activeModalWidget();
   for (QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -83,7 +83,7 @@ void AddHelpKey(QWidget& window, int topic) {
 CHelpBrowser::CHelpBrowser(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   document()->setDocumentMargin(fontMetrics().lineSpacing());
-  // With the cursor shown a screen reader follows it line by line.
+  // The text cursor lets a screen reader follow the page line by line.
   setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) {
     const QString link = url.toString();
@@ -190,7 +190,7 @@ QWidget* CHelpWindow::MakeIndex() {
     for (int i = 0; i < m_index->count(); ++i)
       m_index->item(i)->setHidden(!m_index->item(i)->text().contains(text.trimmed(), Qt::CaseInsensitive));
   });
-  // Enter goes to the first word that is left.
+  // Enter goes to the first word that the filter leaves.
   connect(filter, &QLineEdit::returnPressed, this, [this] {
     for (int i = 0; i < m_index->count(); ++i) {
       if (m_index->item(i)->isHidden()) continue;
@@ -202,7 +202,7 @@ QWidget* CHelpWindow::MakeIndex() {
   return page;
 }
 
-// Marks in the contents what the page shows, also where a link or "back" led to it.
+// Marks the heading of the page shown in the contents, whichever way led to it.
 void CHelpWindow::MarkHeading(const QUrl& source) {
   const QString shown = source.toString();
   const QSignalBlocker quiet(m_contents);

@@ -1,5 +1,5 @@
-// What the contents and the index of the help are made from: the headings of its pages and the words written
-// below them.
+// The headings of the help's pages and the index words written below them, from which contents and index are
+// made.
 //
 // A page is plain HTML. It begins with <h1 id="…"> and has <h2 id="…"> below; the comment after a heading
 // names the words that lead to it:

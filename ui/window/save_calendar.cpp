@@ -11,14 +11,15 @@ namespace {
 
 enum class Answer { kNone, kKeepBoth, kReload, kReplace, kAgain };
 
-// The names that the questions speak of.
+// Names that stand in the questions.
 struct SaveNames {
   std::u16string name;
   std::u16string path;
   std::u16string freeName;
 };
 
-// Asks with the buttons of a list of texts, the first of which is the default. `answers` are theirs.
+// Asks a question. The buttons have the texts of the list `buttonTexts`, the first being the default, and
+// give `answers`.
 Answer Ask(QWidget* parent, const QString& question, int buttonTexts, const SaveNames& names,
            std::initializer_list<Answer> answers) {
   QStringList buttons;
@@ -54,7 +55,7 @@ SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places
                                        std::optional<std::u16string_view> newName) {
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
   SavedFromWindow saved;
-  // Each turn ends in the file, in the user's hands, or in another turn that the user asked for.
+  // Each turn ends with a saved file, with the user's decision not to save, or with another try.
   for (IfChanged ifChanged = IfChanged::kRefuse;;) {
     const SaveOutcome outcome =
         SaveSettings(places.store, places.calendars, display, rules, content, ifChanged, newName);

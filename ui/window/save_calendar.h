@@ -1,9 +1,10 @@
 // Saves the calendar in use from a window, and asks where its file cannot simply be replaced. No other part
 // of the windows saves a calendar.
 //
-//   const SavedFromWindow saved = SaveCalendarFromWindow(this, {store, calendars}, Display(), Rules(),
-//   Content()); if (saved.end == SaveEnd::kReloaded) TakeCalendar(*saved.reloaded);  // puts it in force if
-//   (saved.end == SaveEnd::kUnsaved) return;                          // the dialog stays, nothing is lost
+//   const SavedFromWindow saved =
+//       SaveCalendarFromWindow(this, {store, calendars}, Display(), Rules(), Content());
+//   if (saved.end == SaveEnd::kReloaded) TakeCalendar(*saved.reloaded);  // puts it in force
+//   if (saved.end == SaveEnd::kUnsaved) return;                          // the dialog stays, nothing is lost
 //
 // Each message says what the file holds now:
 //
@@ -34,8 +35,8 @@ struct SavePlaces {
 
 enum class SaveEnd {
   kSaved,     // the calendar is in its file; `display` names it, under another name after "Garder les deux"
-  kReloaded,  // nothing was written: the user wants the calendar that the file holds
-  kUnsaved,   // nothing was written, and what is edited stays edited
+  kReloaded,  // nothing was written: the user wants the calendar in the file
+  kUnsaved,   // nothing was written, and all changes stay unsaved
 };
 
 struct SavedFromWindow {

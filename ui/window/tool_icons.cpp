@@ -13,14 +13,14 @@
 namespace orbisol {
 namespace {
 
-// As they stand in the drawings.
+// Colors of the drawings, which are replaced by those of the theme.
 constexpr char kInk[] = "#000000";
 constexpr char kAccent[] = "#22496B";
-// The accent on a dark ground, the same blue as light as it must be to be read there.
+// Accent on a dark ground: the same blue, light enough to be seen there.
 constexpr char kLightAccent[] = "#86B9E2";
 
-// Drawings come on a grid of 22 units, and again on one of 16, whose lines fall on whole pixels at 16, 32
-// and 48.
+// Drawings have a grid of 22 units, and a second form a grid of 16, whose lines fall on whole pixels at 16,
+// 32 and 48.
 constexpr int kSmallGrid = 16;
 
 QByteArray Drawing(const QString& name) {
@@ -91,10 +91,10 @@ class CDrawnIcon : public QIconEngine {
   }
 
   QString m_name;
-  QColor m_ink;  // invalid: that of the palette
+  QColor m_ink;  // invalid for the color of the palette
 };
 
-// The icon of the program. It is drawn when somebody asks for a size of it, which at start-up may be nobody.
+// Icon of the program. A size is drawn when it is asked for, which may be never.
 class CProgramIcon : public QIconEngine {
  public:
   QIconEngine* clone() const override { return new CProgramIcon(*this); }
