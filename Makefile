@@ -11,7 +11,7 @@ STAGE := build/stage
 need = tools/install-packages.sh
 build = cmake --preset $(1) --log-level=WARNING && cmake --build --preset $(1)
 
-# Which packages a build needs besides the ordinary ones.
+# Groups of packages that a build needs besides the ordinary ones.
 groups_sanitize := clang
 groups_coverage := coverage
 

@@ -95,7 +95,7 @@ void CrowdedMonth(benchmark::State& state) {
 }
 BENCHMARK(CrowdedMonth)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
-// Imports a calendar of which half the rules are there already.
+// Imports a calendar half of whose rules are there already.
 void ImportRules(benchmark::State& state) {
   const auto number = [](int i) { return std::to_string(i); };
   CalendarContent mine;
@@ -118,7 +118,7 @@ void ImportRules(benchmark::State& state) {
 }
 BENCHMARK(ImportRules)->Arg(10000)->Arg(40000)->Unit(benchmark::kMillisecond);
 
-// Reads a calendar file of some ten and twenty million bytes.
+// Reads calendar files of about ten and twenty million bytes.
 void ReadLargeFile(benchmark::State& state) {
   CalendarFile calendar;
   calendar.content = CrowdedCalendar(static_cast<int>(state.range(0)), 0);

@@ -1,7 +1,7 @@
-// Calendar arithmetic beside the peers that do part of the same: std::chrono and QDate know no reform, a pair
-// of QDate and QCalendar can be switched at it by hand, ICU's GregorianCalendar has a change date.
+// Calendar arithmetic beside peers that do part of it: std::chrono and QDate have no reform, QDate with
+// QCalendar can be switched at it by hand, and ICU's GregorianCalendar has a change date.
 //
-// Days are drawn from the whole range shown and come shuffled, so that no order helps any of the programs.
+// Days are drawn from the whole range shown and shuffled, so that no order helps any of them.
 #include <QCalendar>
 #include <QDate>
 
@@ -59,7 +59,7 @@ const std::vector<Date>& Dates() {
   return dates;
 }
 
-// Runs `step` over all values in turn; a value counts as one item, so times are those of one day.
+// Runs `step` over all values in turn. A value is one item, so the times are those of one day.
 template <typename T, typename Step>
 void Each(benchmark::State& state, const std::vector<T>& values, Step step) {
   for ([[maybe_unused]] auto _ : state) {
@@ -173,7 +173,7 @@ void WeekNumber_Orbisol(benchmark::State& state) {
 BENCHMARK(WeekNumber_Orbisol);
 
 void WeekNumber_Chrono(benchmark::State& state) {
-  // The Thursday of the week says the year, and how many Thursdays it has seen the week.
+  // The year of the week is that of its Thursday, and its number counts the Thursdays of that year.
   const auto mornings = FromDays<std::chrono::sys_days>(
       [](int day) { return std::chrono::sys_days(std::chrono::days(day - kUnixEpoch)); });
   Each(state, mornings, [](std::chrono::sys_days day) {
@@ -213,7 +213,8 @@ void RomanEaster_Orbisol(benchmark::State& state) {
 }
 BENCHMARK(RomanEaster_Orbisol);
 
-// None of the peers knows Easter; the algorithm of Meeus, Jones and Butcher, for Gregorian years alone.
+// Returns Easter by the algorithm of Meeus, Jones and Butcher, for Gregorian years alone: no peer computes
+// it.
 void RomanEaster_Butcher(benchmark::State& state) {
   std::vector<int> years;
   for (const Date& date : Dates()) years.push_back(kFirstEasterYear + std::abs(date.year) % 3600);

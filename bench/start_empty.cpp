@@ -1,6 +1,5 @@
-// The least a program of this toolkit can be: a main window as large as the first one of ours on a screen of
-// 3840 x 2160, with a menu bar, a tool bar, a
-// status bar and French texts, and nothing in it.
+// The smallest program with this toolkit: an empty main window as large as the first one of ours on a screen
+// of 3840 x 2160, with a menu bar, a tool bar, a status bar and French texts.
 #include <QAction>
 #include <QApplication>
 #include <QLibraryInfo>

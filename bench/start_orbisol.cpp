@@ -1,4 +1,4 @@
-// The program as it is; it reports how far its start has come.
+// The program itself, which here reports how far its start has come.
 #include <QApplication>
 
 #include "bench/start_report.h"

@@ -36,7 +36,7 @@ class CStartReport : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (m_stage == kStarting && event->type() == QEvent::Paint && watched->isWidgetType()) {
       m_stage = kPainting;
-      // After the event in which all of the window is painted and handed over.
+      // The report waits for the end of the event that paints the whole window and hands it over.
       QMetaObject::invokeMethod(this, &CStartReport::Painted, Qt::QueuedConnection);
     }
     return false;

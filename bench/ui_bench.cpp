@@ -1,4 +1,4 @@
-// Benches of what is painted, all in one program: each file registers its own, and a row here calls it.
+// Benches of windows, all in one program. Each file registers its own; a row here calls it.
 #include "bench/ui_bench.h"
 
 #include <QApplication>

@@ -18,10 +18,9 @@ namespace orbisol {
 namespace {
 
 constexpr PackedDate kStart = 20240515;
-constexpr int kMonths = 240;  // that are walked through before the walk begins again
+constexpr int kMonths = 240;  // length of the walk through the months, which is then repeated
 
-// Our month view: May 2024 with the days of France, the picture and the week numbers, as the program first
-// shows it.
+// Our month view as at the first start: May 2024 with the days of France, the picture and the week numbers.
 struct OurCalendar {
   CMonthWindow window;
 
@@ -34,8 +33,8 @@ struct OurCalendar {
   }
 };
 
-// The toolkit's calendar: the same month with digits as large as ours, a grid and week numbers, and no bar
-// above them either.
+// The toolkit's calendar: the same month with digits as large as ours, a grid and week numbers, and without
+// its navigation bar.
 struct PeerCalendar {
   QCalendarWidget window;
 
@@ -48,7 +47,7 @@ struct PeerCalendar {
     window.setGridVisible(true);
     window.setFirstDayOfWeek(Qt::Monday);
     window.setSelectedDate(QDate(2024, 5, 15));
-    window.setMinimumSize(1, 1);  // else the large digits would make it wider than ours
+    window.setMinimumSize(1, 1);  // the large digits must not make it wider than ours
     window.resize(size);
   }
 };
@@ -64,7 +63,7 @@ template <class Calendar>
 void Repaint(benchmark::State& state, QSize size) {
   Calendar calendar(size);
   QImage canvas = Canvas(size);
-  calendar.window.render(&canvas);  // lays out, stretches the picture, loads the font
+  calendar.window.render(&canvas);  // computes the layout, stretches the picture and loads the font
   if (calendar.window.size() != size) {
     state.SkipWithError("not the size asked for");
     return;

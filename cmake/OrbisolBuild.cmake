@@ -17,8 +17,8 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release)
 endif()
 
-# Tried first: without a folder it may write to, as on an account without a home, ccache fails every
-# compilation.
+# ccache is tried first: without a folder that it may write to, as on an account without a home, it fails
+# every compilation.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   file(WRITE "${CMAKE_BINARY_DIR}/ccache_trial.cpp" "int main() {}\n")
@@ -30,8 +30,8 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   endif()
 endif()
 
-# The moon's days are decided by doubles: no fused multiply-add may round them
-# differently on another machine.
+# The days of the moon follow from doubles, which a fused multiply-add would round differently on some
+# machines.
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow -ffp-contract=off)
 if(ORBISOL_WERROR)
   add_compile_options(-Werror)
@@ -41,8 +41,8 @@ if(ORBISOL_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(ORBISOL_FUZZ)
-  # Tracing of comparisons is called for each character that is read: half the time goes there, and without it more is
-  # found in the other half.
+  # Tracing comparisons costs half the time, because it is called for each character read. Without it the fuzzers
+  # find more.
   add_compile_options(-fsanitize=fuzzer-no-link -fno-sanitize-coverage=trace-cmp)
 endif()
 if(ORBISOL_COVERAGE)
@@ -52,8 +52,8 @@ endif()
 
 # orbisol_layer(NAME SOURCES ... [PUBLIC lib ...] [PRIVATE lib ...])
 #
-# One static library a layer. Includes go by path from the root, so the root is its only include
-# folder; the layers without Qt never see a Qt header because no Qt target is linked to them.
+# Adds the static library of a layer. Includes go by path from the root, which is its only include folder. A
+# layer without Qt never sees a Qt header, because no Qt target is linked to it.
 function(orbisol_layer name)
   cmake_parse_arguments(LAYER "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${name} STATIC ${LAYER_SOURCES})
@@ -66,7 +66,7 @@ endfunction()
 
 # orbisol_forms(NAME FORM ...)
 #
-# Dialogs drawn in Qt Designer, which stand in resources/dialogs: "about.ui" is included as "ui_about.h".
+# Adds dialogs of Qt Designer from resources/dialogs to a target: "about.ui" is included as "ui_about.h".
 function(orbisol_forms name)
   list(TRANSFORM ARGN PREPEND "${PROJECT_SOURCE_DIR}/resources/dialogs/" OUTPUT_VARIABLE forms)
   qt_wrap_ui(headers ${forms})
@@ -74,7 +74,7 @@ function(orbisol_forms name)
   target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
 endfunction()
 
-# The Qt headers that nearly every window includes, compiled once for all layers of windows.
+# Compiles the Qt headers that nearly every window includes once for all layers of windows.
 function(orbisol_precompiled_qt name)
   if(NOT TARGET orbisol_qt_headers)
     set(source "${PROJECT_BINARY_DIR}/qt_headers.cpp")
@@ -88,7 +88,7 @@ function(orbisol_precompiled_qt name)
   orbisol_quiet_precompiled(${name})
 endfunction()
 
-# Through a precompiled header g++ 12 warns of faults inside std::string that it does not see without one.
+# Silences warnings about the inside of std::string that g++ 12 gives only with a precompiled header.
 function(orbisol_quiet_precompiled name)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)

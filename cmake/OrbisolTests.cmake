@@ -41,10 +41,10 @@ function(orbisol_test name)
     orbisol_quiet_precompiled(${name})
   endif()
 
-  # The tests of a program are asked for when ctest begins: a broken one fails the run, not the build.
+  # A program lists its tests when ctest begins, so that a broken program fails the run, not the build.
   gtest_discover_tests(${name}
     TEST_PREFIX "${name}/"
-    NO_PRETTY_VALUES  # a parameter shown as bytes would name the test anew in every run
+    NO_PRETTY_VALUES  # a parameter printed as bytes would change the test's name from run to run
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 600
     PROPERTIES ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1")

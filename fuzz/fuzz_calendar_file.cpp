@@ -1,5 +1,5 @@
-// Any bytes are a calendar file. What was read and written once stays as it is from then on, holds nothing
-// more, and every record of it is accepted.
+// Reads any bytes as a calendar file. A calendar that was read and written once must stay the same from then
+// on, lose nothing, and hold only records that are accepted.
 
 #include <cstdint>
 #include <cstdlib>
@@ -12,7 +12,7 @@ void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-// Returns what comes back.
+// Returns the calendar that is read back from the bytes written.
 orbisol::CalendarFile CheckForm(const orbisol::CalendarFile& read, orbisol::CalendarForm form) {
   const std::string once = WriteCalendar(read, form);
   orbisol::CalendarFile again = orbisol::ReadCalendar(once);
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check(again.content.vacations.size() == read.content.vacations.size());
   Check(again.rules == read.rules);
   if (size % 4 == 0) {
-    // A public calendar follows the rules of whoever reads it: what other rules alone accepted is gone.
+    // A public calendar is read under the rules in force, which may refuse records that its own rules accept.
     const std::string holidays = WriteCalendar(read, orbisol::CalendarForm::kPublic);
     CheckForm(orbisol::ReadCalendar(holidays), orbisol::CalendarForm::kPublic);
   }

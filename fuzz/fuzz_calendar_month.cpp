@@ -1,5 +1,5 @@
-// Any calendar file in any month: the month is built, its texts, tips, steps, weeks and phases of the moon
-// are asked for, and what holds for every month holds for this one too.
+// Builds any month of any calendar file, asks for its texts, tips, steps, weeks and phases of the moon, and
+// checks the laws that hold for every month.
 
 #include <cstdint>
 #include <cstdlib>
@@ -19,12 +19,13 @@ namespace {
 
 using namespace orbisol;
 
-constexpr std::size_t kMaxJoinedUnits = 260;  // of the names of one day
+constexpr std::size_t kMaxJoinedUnits = 260;  // greatest length of the names of one day
 
 void Check(bool holds) {
   if (!holds) std::abort();
 }
 
+// Checks one filled cell of a month.
 void CheckCell(const MonthModel& month, int index) {
   const DayCell& cell = month.cells[static_cast<std::size_t>(index)];
   const YearMonthDay date = Unpack(cell.ymd);
@@ -35,12 +36,12 @@ void CheckCell(const MonthModel& month, int index) {
     Check(text.size() <= kMaxJoinedUnits);
   if (cell.marks == 0 && cell.moonPhase == kNoPhase) Check(TipText(cell, true).empty());
   Check(!TipText(cell, false).empty());
-  // Of a month that begins in the middle of a week the neighbor may bear the same number.
+  // An earlier cell, of the month before, may have the same month and day.
   const int found = month.CellOf(cell.month, cell.day);
   Check(found != kNoCell && found <= index);
 }
 
-// Asks for all that the views say about a date.
+// Calls everything that the views call for a date.
 void CheckTexts(const Date& date) {
   Check(!LongDate(date, false).empty() && !JulianLongDate(date, true).empty());
   const int week = IsoWeekNumber(date);
@@ -78,7 +79,7 @@ void CheckMonth(const CalendarFile& calendar, const YearMonthDay& first) {
 
 }  // namespace
 
-// The first three bytes choose the month, the others are a calendar file.
+// Takes the month from the first three bytes; the others are a calendar file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 3) return 0;
   constexpr int kMonths = 7999 * 12;

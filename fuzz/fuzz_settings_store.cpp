@@ -1,5 +1,5 @@
-// Any bytes are a settings key. What was read and written once stays as it is from then on, what is set is
-// read again and disturbs nothing else, and the program starts with whatever the key says.
+// Reads any bytes as a settings key. A key that was read and written once must stay the same from then on, a
+// value that is set must be read back and change no other, and the program must start with any key.
 
 #include <algorithm>
 #include <cstdint>
@@ -17,7 +17,7 @@ void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-// The same names, upper and lower case aside, with the same values.
+// Returns whether two keys have the same names, upper and lower case aside, with the same values.
 bool Same(const StoredValues& a, const StoredValues& b) {
   const NameLess less;
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](const auto& x, const auto& y) {
@@ -25,7 +25,7 @@ bool Same(const StoredValues& a, const StoredValues& b) {
   });
 }
 
-// The same values, written and read again.
+// Checks that a key written and read back is the same.
 void CheckFixedPoint(const CRegistryText& text) {
   const CRegistryText again(text.Bytes());
   Check(again.Bytes() == text.Bytes());
@@ -33,7 +33,7 @@ void CheckFixedPoint(const CRegistryText& text) {
   Check(again.IsLossless());
 }
 
-// The first bytes of the input choose the type, the others are the value.
+// Sets a value made of the input, then deletes another one, and checks that nothing else changes.
 void CheckChanges(CRegistryText text, std::string_view bytes) {
   StoredValues expected = text.Values();
   StoredValue value{kRegBinary, std::string(bytes.substr(0, 300))};
@@ -50,7 +50,7 @@ void CheckChanges(CRegistryText text, std::string_view bytes) {
   CheckFixedPoint(text);
 }
 
-// A start, which may migrate, and another, which must find what the first one left.
+// Starts twice: the first start may migrate, and the second must find what it left.
 void CheckStarts(const std::string& bytes) {
   CMemoryStore store;
   store.text = bytes;

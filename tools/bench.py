@@ -28,15 +28,15 @@ from bench_budgets import print_budgets
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 REPETITIONS = 5
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
-STARTS = 15  # of each program, after one that warms the caches
-SETTLING_SECONDS = 3  # the last timer of the start has run by then
-IDLE_SECONDS = 5  # as the budgets say
+STARTS = 15  # starts of each program, after one that warms the caches
+SETTLING_SECONDS = 3  # time after which the last timer of the start has run
+IDLE_SECONDS = 5  # time over which an idle program is measured
 SCREEN = """{"screens": [{"name": "one", "x": 0, "y": 0, "width": 3840, "height": 2160,
   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}"""
 
 
 def make_home(folder):
-    """A fresh machine in France: a home with the settings key and the public holidays, a screen; as an environment."""
+    """Returns the environment of a fresh machine in France: a home with the settings key and the holidays, a screen."""
     def copy(source, *path):
         target = os.path.join(folder, *path)
         os.makedirs(os.path.dirname(target))
@@ -54,7 +54,7 @@ def make_home(folder):
 
 
 def start(path, environment):
-    """The running program, seconds until its first paint, until it had nothing left to do, and its peak memory in kB."""
+    """Returns the running program, seconds until its first paint and until it was idle, and its peak memory in kB."""
     begin = time.perf_counter()
     program = subprocess.Popen([path], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, env=environment, text=True)
     report = {}
@@ -73,7 +73,7 @@ def stop(program):
 
 
 def measure_starts(folder, environment):
-    """{name: nanoseconds or bytes}, the medians of both programs, started in turns."""
+    """Returns {name: nanoseconds or bytes}, the medians of both programs, started in turns."""
     programs = {"Orbisol": "start_orbisol", "EmptyWindow": "start_empty"}
     rows = {who: [] for who in programs}
     for turn in range(STARTS + 1):
@@ -90,7 +90,7 @@ def measure_starts(folder, environment):
 
 
 def activity(pid):
-    """Nanoseconds of processor time and the number of times it was woken, over all threads of a process."""
+    """Returns the nanoseconds of processor time and the number of wake-ups, over all threads of a process."""
     nanoseconds = wakes = 0
     for task in os.listdir(f"/proc/{pid}/task"):
         with open(f"/proc/{pid}/task/{task}/schedstat", encoding="ascii") as file:
@@ -111,7 +111,7 @@ def measure_idle(folder, environment):
 
 
 def run_program(path, pattern, environment):
-    """{name: nanoseconds an item}, the medians of one bench program."""
+    """Returns {name: nanoseconds an item}, the medians of one bench program."""
     command = [path, "--benchmark_format=json", f"--benchmark_repetitions={REPETITIONS}",
                "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.1"]
     if pattern:
@@ -132,7 +132,7 @@ def run_program(path, pattern, environment):
 
 
 def run_command(command, items):
-    """Nanoseconds an item, the median of a program that handles `items` of them."""
+    """Returns the nanoseconds an item, the median of a program that handles `items` of them."""
     seconds = []
     for _ in range(REPETITIONS):
         begin = time.perf_counter()
@@ -141,7 +141,7 @@ def run_command(command, items):
     return statistics.median(seconds) * 1e9 / items
 
 
-# Peers that are programs: what they print, and how many months that is.
+# Peers that are programs: their command, and how many months it prints.
 PEERS = {
     "AllMonths_Remind": (["remind", "-c600", "bench/peers/france.rem", "2000-01-01"], 600),
     "YearsOfTheEra_Gcal": (["gcal", "-n", "-q", "FR", "1+3999"], 12 * 3999),

@@ -6,7 +6,7 @@ holds on a slow machine too.
 
 
 def ratio(times, ours, peers):
-    """The sum of ours over the sum of the peers', or None where one was not measured."""
+    """Returns the sum of ours over the sum of the peers', or None if one was not measured."""
     if any(name not in times for name in ours + peers):
         return None
     return sum(times[name] for name in ours) / sum(times[name] for name in peers)
@@ -16,7 +16,7 @@ def scaled(times, name, factor):
     return times[name] * factor if name in times else None
 
 
-# One row a figure: identifier ("-": none, a limit beside the numbered budgets), what is measured, the figure made of the measurements, limit, unit.
+# One row a figure: identifier ("-" for a limit beside the numbered budgets), text, the figure made of the measurements, limit, unit.
 BUDGETS = [
     ("B1", "date to day number, beside std::chrono",
      lambda t: ratio(t, ["DateToNumber_Orbisol"], ["DateToNumber_Chrono"]), 1.55, ""),

@@ -35,7 +35,7 @@ WITHOUT_QT = [
 # Inside core the headers have an order too; a source may look upward.
 CORE_HEADERS = ["core/packed_date.h", "core/calendar_config.h", "core/date.h", "core/civil_year.h"]
 
-# Read whole by the compiler for seconds in each source: the single headers are meant.
+# Headers of whole modules, which cost seconds in each source; single headers are included instead.
 UMBRELLAS = {"QtCore", "QtGui", "QtWidgets", "QtPrintSupport", "QtSvg", "QtTest"}
 
 # These may include any layer, and nothing else may include them.
@@ -51,7 +51,7 @@ def begins(path, prefixes):
 
 
 def layer_of(path):
-    """(height, name, Qt allowed), or None for a path of no layer."""
+    """Returns (height, name, Qt allowed), or None for a path of no layer."""
     for height, side_by_side in enumerate(LAYERS):
         for name, qt, prefixes in side_by_side:
             if begins(path, prefixes):
@@ -60,7 +60,7 @@ def layer_of(path):
 
 
 def home_of(path):
-    """The layer whose rules hold in `path`: a test of a layer sees what the layer sees, and its fakes."""
+    """Returns the layer whose rules hold in `path`: a test may include what its layer may, and the test doubles."""
     if path.startswith("tests/"):
         inner = path[len("tests/"):]
         return None if inner.startswith("support/") else layer_of(inner)
@@ -68,7 +68,7 @@ def home_of(path):
 
 
 def fault(path, bracket, target, exists):
-    """What is wrong with one include of `path`, or None."""
+    """Returns the fault of one include of `path`, or None."""
     home = home_of(path)
     is_test = begins(path, OUTSIDE)
     if bracket == "<":

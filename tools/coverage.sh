@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.." || exit 1
 build=build/coverage
 cmake --preset coverage --log-level=WARNING && cmake --build --preset coverage || exit 1
 
-# Counts of an earlier run would hide what this one does not reach.
+# Counts of an earlier run would hide the lines that this one does not reach.
 find "$build" -name '*.gcda' -delete
 ctest --preset coverage || exit 1
 

@@ -36,7 +36,7 @@ class Count:
 
 
 def ranges(numbers):
-    """[3, 4, 5, 9] as '3-5, 9'."""
+    """Returns '3-5, 9' for [3, 4, 5, 9]."""
     pieces = []
     for number in numbers:
         if pieces and pieces[-1][1] == number - 1:

@@ -30,13 +30,13 @@ import time
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
 START_SECONDS = 60
 CLOSE_SECONDS = 60
-# How long a rectangle must stay the same before it is taken for the last one, and how long to wait for that.
+# Time for which a rectangle must stay the same to count as the last one, and time to wait for that.
 SETTLED_SECONDS = {"quiet": 1.0, "loaded": 3.0}
 SETTLE_LIMIT = 30
 
 
 class Fault(Exception):
-    """A reason why a trial is wrong."""
+    """The fault of a trial."""
 
 
 def output_of(*words):
@@ -45,7 +45,7 @@ def output_of(*words):
 
 
 def wait_for(seconds, look):
-    """Calls look() until its answer is true, and returns that; None after so many seconds."""
+    """Calls look() until its answer is true, and returns that; None after `seconds`."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         found = look()
@@ -134,13 +134,13 @@ def frame_of(window):
 
 
 def numbers(window, name):
-    """The numbers of a property; empty when the window has none of this name."""
+    """Returns the numbers of a property; empty if the window has none of this name."""
     found = re.search(r"=\s*(.*)", output_of("xprop", *window, name))
     return [int(word) for word in re.findall(r"-?\d+", found[1])] if found else []
 
 
 def least_size(window):
-    """With the frame; (0, 0) when the window states none."""
+    """Returns the least size with the frame; (0, 0) if the window states none."""
     text = output_of("xprop", "-id", window, "WM_NORMAL_HINTS")
     found = re.search(r"minimum size: (\d+) by (\d+)", text)
     left, right, top, bottom = (numbers(["-id", window], "_NET_FRAME_EXTENTS") or [0, 0, 0, 0])[:4]
@@ -155,7 +155,7 @@ def wanted_rectangle(window):
 
 
 def stored_layout(home):
-    """(rectangle, whether the pane is shown, its width) as Calendar.reg has them."""
+    """Returns (rectangle, whether the pane is shown, its width) from Calendar.reg."""
     path = os.path.join(home, ".config", "Corvalen", "Calendar.reg")
     try:
         with open(path, encoding="utf-8") as file:
@@ -197,7 +197,7 @@ class Start:
         return hex(int(words[0])) if words else None
 
     def settle(self, seconds):
-        """The rectangle of the frame, once there is one and it stays the same."""
+        """Returns the rectangle of the frame, once there is one and it stays the same."""
         last, since = None, time.monotonic()
         end = since + SETTLE_LIMIT
         while time.monotonic() < end:
@@ -211,7 +211,7 @@ class Start:
         raise Fault(f"the window never settles; last seen at {last}")
 
     def close(self):
-        """As a user closes it. A slow window manager may miss a key: it is pressed again."""
+        """Closes the window as a user does. A slow window manager may miss a key, so it is pressed again."""
         end = time.monotonic() + CLOSE_SECONDS
         while self.process.poll() is None and time.monotonic() < end:
             output_of("xdotool", "windowactivate", self.window)

@@ -29,7 +29,7 @@ packages_of() {
   esac
 }
 
-# The sanitizers and libFuzzer stand in a package of the compiler's own version.
+# The sanitizers and libFuzzer are in a package of the compiler's own version.
 clang_runtime() {
   if dpkg-query -S "$(command -v clang++)" >/dev/null 2>&1; then
     version=$(clang++ -dumpversion)
@@ -39,7 +39,7 @@ clang_runtime() {
   fi
 }
 
-is_there() {  # how to tell
+is_there() {  # program, pc:module or -
   case $1 in
     -) true ;;
     pc:*) ! command -v pkg-config >/dev/null || pkg-config --exists "${1#pc:}" ;;  # else CMake will tell
@@ -85,7 +85,7 @@ if [ "$(id -u)" != 0 ]; then
     exit 1
   fi
   as_root=sudo
-  [ -t 0 ] || as_root='sudo -n'  # nobody is there to give a password
+  [ -t 0 ] || as_root='sudo -n'  # there is nobody to type a password
 fi
 
 apt() {

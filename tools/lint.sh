@@ -10,17 +10,17 @@ cd "$(dirname "$0")/.." || exit 1
 export LC_ALL=C
 status=0
 
-# A clone may belong to another account than the one that checks it.
+# git must accept a clone that belongs to another account.
 export GIT_CONFIG_COUNT=1 GIT_CONFIG_KEY_0=safe.directory GIT_CONFIG_VALUE_0='*'
 mkdir -p build
 git ls-files -co --exclude-standard -- '*.cpp' '*.h' >build/lint-listed || exit 1
 while read -r file; do
-  if [ -f "$file" ]; then echo "$file"; fi  # one deleted and not yet committed is still listed
+  if [ -f "$file" ]; then echo "$file"; fi  # git still lists a deleted file until the next commit
 done <build/lint-listed >build/lint-formatted
 echo "clang-format: $(wc -l <build/lint-formatted) files"
 xargs -r clang-format --dry-run -Werror --ferror-limit=1 <build/lint-formatted || status=1
 
-# The build tells how each source is compiled, and makes the headers that sources include.
+# The build records how each source is compiled, and makes the generated headers.
 preset=dev
 case ${CI:-} in true | 1) preset=ci ;; esac
 build=build/$preset

@@ -22,7 +22,7 @@ MONTHS = ["January", "February", "March", "April", "May", "June", "July", "Augus
 LONGEST = [31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
 ORDINALS = ["first", "second", "third", "fourth", "last"]
 
-# How a file numbers each kind, and the keys that it asks for.
+# The number of each kind in calendar files, and the keys that it needs.
 KINDS = {
     "fixed date": (0, ["date"]),
     "Roman Easter": (1, ["days"]),
@@ -39,11 +39,11 @@ LOCALE = re.compile(r"(?:[a-z]{2,3}_)?[A-Z]{2}")
 
 
 class Fault(Exception):
-    """A fault in a source; its text is the whole line to print."""
+    """A fault in a source. Its text is the whole line to print."""
 
 
 class Source:
-    """One file, and where in it things stand."""
+    """One file, and the lines of its keys."""
 
     def __init__(self, path):
         self.path = path
@@ -63,7 +63,7 @@ class Source:
         raise Fault(f"{self.path}:{line}: {reason}")
 
     def line_of(self, key=None, rule=None):
-        """The line of a key, of the calendar or of its rule of that number; else the line where those begin."""
+        """Returns the line of a key, of the calendar or of one of its rules; else the line where that begins."""
         heads = [n for n, line in enumerate(self.lines, 1) if line.strip() == "[[rule]]"]
         begin, end = 1, heads[0] if heads else len(self.lines) + 1
         if rule is not None:
@@ -122,7 +122,7 @@ class RuleReader:
         return packed(value)
 
     def numbers(self):
-        """The fields that the kind asks for."""
+        """Returns the fields that the kind needs."""
         kind = self.text("kind")
         if kind not in KINDS:
             self.fault("kind", f"'kind' is one of: {', '.join(KINDS)}")
@@ -175,7 +175,7 @@ class RuleReader:
         return records
 
     def moved(self, first, last):
-        """The years in which the day stands elsewhere, with the date of each."""
+        """Returns the years in which the day is moved, with the date of each."""
         dates = self.rule.get("moved", [])
         if not isinstance(dates, list) or any(type(date) is not datetime.date for date in dates):
             self.fault("moved", "'moved' is a list of dates such as 2020-06-07")
@@ -188,7 +188,7 @@ class RuleReader:
 
 
 class Calendar:
-    """One source, judged; its records are those of the calendar it extends and its own."""
+    """Checks one source and returns its calendar: the records of the calendar that it extends and its own."""
 
     def __init__(self, source, calendars):
         data = source.data
@@ -236,7 +236,7 @@ def element(tag, value):
 
 
 def calendar_bytes(calendar):
-    """A calendar file, exactly as the program would write it."""
+    """Returns a calendar file, exactly as the program would write it."""
     lines = ['<?xml version="1.0" encoding="UTF-8"?>', element("info", calendar.info)]
     lines += ["<CalendarParams>", "</CalendarParams>", "<CalendarEvents>", "<dayEvents>"]
     for record in calendar.records:
@@ -248,7 +248,7 @@ def calendar_bytes(calendar):
 
 
 def literal(text):
-    """A UTF-16 literal of C++."""
+    """Returns a UTF-16 literal of C++."""
     return 'u"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
@@ -268,7 +268,7 @@ def table_bytes(calendars):
 
 
 def read_all(paths):
-    """The calendars of the sources, in their order. Those that extend another one are read last."""
+    """Returns the calendars of the sources, in their order. Those that extend another one are read last."""
     sources = [Source(path) for path in paths]
     found = {}
     for source in sorted(sources, key=lambda source: "extends" in source.data):

@@ -15,10 +15,10 @@ import unicodedata
 RECORDS_A_LINE = 5
 PATH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "core", "letters.inc")
 
-# Latin, Greek and Cyrillic with their combining accents, and the apostrophes of printed texts.
+# Ranges of Latin, Greek and Cyrillic with their combining accents, and of the apostrophes of printed texts.
 RANGES = [(0x0041, 0x052F), (0x1E00, 0x1FFF), (0x2018, 0x2019)]
 
-# Letters that no decomposition of Unicode takes apart.
+# Letters that Unicode does not decompose.
 BASES = {"œ": "oe", "æ": "ae", "ø": "o", "đ": "d", "ð": "d", "ħ": "h", "ı": "i", "ĸ": "k", "ł": "l", "ŋ": "n", "ŧ": "t", "þ": "th",
          "ʼ": "'", "‘": "'", "’": "'"}
 
@@ -45,7 +45,7 @@ def table():
     for first, last in RANGES:
         for code in range(first, last + 1):
             letter = chr(code)
-            # A space, as of an accent that stands alone, would cut a word in two.
+            # A decomposition with a space, as that of a lone accent, would split a word.
             if unicodedata.category(letter) == "Cn" or " " in fold(letter):
                 continue
             if fold(letter) != letter or capital(letter) != letter:

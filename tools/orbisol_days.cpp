@@ -3,8 +3,8 @@
 //   orbisol-days France.xml 1789 2040         the public holidays, one "yyyymmdd name" a line
 //   orbisol-days --all Famille.xml 2024 2024  personal events and vacation periods too
 //
-// Days are counted under the file's own calendar rules. Ends with 1 when the file cannot be read, with 2 when
-// it was called otherwise.
+// Days are counted under the file's own calendar rules. The exit code is 1 if the file cannot be read, and 2
+// for other arguments.
 
 #include <charconv>
 #include <cstdio>
@@ -34,13 +34,13 @@ std::optional<int> Year(std::string_view text) {
 
 std::optional<std::string> FileBytes(const char* path) {
   std::ifstream file(path, std::ios::binary);
-  file.peek();  // a folder opens like a file and says only here that it is none
+  file.peek();  // a folder opens like a file and fails only here
   if (!file.is_open() || file.bad()) return std::nullopt;
   std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   return bytes;
 }
 
-// One line, whatever stands in the name.
+// Prints one line, whatever characters the name has.
 void PrintDay(PackedDate ymd, std::u16string_view name) {
   std::string line = ToUtf8(name);
   for (char& c : line)

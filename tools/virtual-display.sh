@@ -3,11 +3,11 @@
 #   start_display WIDTHxHEIGHT      an X server with a window manager; sets DISPLAY
 #   start_program PROGRAM           in the background
 #   wait_for_window PICTURE         until its first window is painted, which PICTURE then shows
-#   close_program                   as a user closes it; fails when it ended badly
+#   close_program                   closes it as a user does; fails when it ended badly
 #
 # Every function prints what went wrong and returns 1. All that was started ends with the shell.
 
-windowSeconds=60   # a first start, on a slow machine
+windowSeconds=60   # enough for a first start on a slow machine
 closeSeconds=20
 
 scratch=$(mktemp -d)
@@ -57,7 +57,7 @@ start_display() {
     mkdir -m 0700 "$XDG_RUNTIME_DIR"
     export XDG_RUNTIME_DIR
   fi
-  # Its own cache folder, for the log it would leave in the user's.
+  # openbox gets its own cache folder, because it would leave a log in the user's.
   XDG_CACHE_HOME=$scratch/cache openbox >"$scratch/manager.log" 2>&1 &
   managerPid=$!
   wait_until 30 has_manager || { cat "$scratch/manager.log" >&2; complain "no window manager"; return 1; }
@@ -74,14 +74,14 @@ start_program() {
   programPid=$!
 }
 
-# Ends the waiting, too, when the program is gone: wait_for_window then looks why.
+# Succeeds when the window is there, or when the program is gone: wait_for_window then reports why.
 find_window() {
   is_running "$programPid" || return 0
   window=$(timeout 10 xdotool search --onlyvisible --class "^$programName\$" 2>/dev/null | head -n 1)
   [ -n "$window" ]
 }
 
-# Painted: something is drawn in the window, and two pictures of it are the same.
+# Succeeds when something is drawn in the window and two pictures of it are the same.
 is_painted() {
   is_running "$programPid" || return 0
   now=$(import -silent -window "$window" "$scratch/window.png" 2>/dev/null &&

@@ -15,8 +15,8 @@ namespace {
 
 struct FieldPicture {
   const char* name;
-  int points;       // of the font; 0 for the desktop's
-  PackedDate date;  // whose month is dropped down
+  int points;       // size of the font; 0 for the desktop's
+  PackedDate date;  // date whose month is dropped down
 };
 
 constexpr FieldPicture kFieldPictures[] = {

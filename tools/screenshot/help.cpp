@@ -11,7 +11,7 @@ namespace {
 
 struct HelpPicture {
   const char* name;
-  const char* link;  // what the page shows
+  const char* link;  // page and place shown
 };
 
 constexpr HelpPicture kHelpPictures[] = {

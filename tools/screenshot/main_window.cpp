@@ -17,7 +17,7 @@
 namespace orbisol {
 namespace {
 
-// Colors as a dark desktop sets them for all programs.
+// Sets the colors that a dark desktop sets for all programs.
 QPalette DarkTheme() {
   QPalette dark(QColor(0x3A, 0x3A, 0x3A), QColor(0x2B, 0x2B, 0x2B));
   dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
@@ -51,8 +51,8 @@ constexpr PackedDate kToday = 20260513;
 struct WindowPicture {
   const char* name;
   PackedDate date = kToday;
-  void (*before)() = nullptr;                        // done before the window is made
-  void (*prepare)(CCalendarFrame& frame) = nullptr;  // and to the open window
+  void (*before)() = nullptr;                        // called before the window is made
+  void (*prepare)(CCalendarFrame& frame) = nullptr;  // called with the open window
 };
 
 const WindowPicture kWindowPictures[] = {
@@ -74,7 +74,7 @@ const WindowPicture kWindowPictures[] = {
     {"window_large", kToday, nullptr, [](CCalendarFrame& frame) { frame.resize(1600, 900); }},
 };
 
-// The program as it opens in France; `isFresh`: on a machine where it has never run, else where it was left
+// Opens the program in France: with `isFresh` on a machine where it has never run, else where it was closed
 // with its pane shown.
 void SaveWindow(CPictureFolder& folder, const WindowPicture& picture, const QString& name, bool isFresh) {
   const QPalette theme = QApplication::palette();

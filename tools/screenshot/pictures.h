@@ -1,5 +1,5 @@
-// Where pictures of the program go, and which sets of them there are. Each set is a file of its own; a new
-// set needs its function here and a row in screenshots.cpp.
+// The folder for pictures of the program, and the sets of pictures. Each set is a file of its own; a new set
+// needs its function here and a row in screenshots.cpp.
 #pragma once
 
 #include <QString>
@@ -26,10 +26,10 @@ class CPictureFolder {
   int m_failures = 0;
 };
 
-// The bytes of the shipped calendar of France.
+// Returns the bytes of the shipped calendar of France.
 std::string FileOfFrance();
 
-void TakeFirstWindow(CPictureFolder& folder);  // as a newcomer sees it on the screen of this run
+void TakeFirstWindow(CPictureFolder& folder);  // the window of a first start, on the screen of this run
 void TakeMainWindow(CPictureFolder& folder);
 void TakeMonths(CPictureFolder& folder);  // the month alone, in what the settings can make of it
 void TakeHelp(CPictureFolder& folder);    // the help and the about box
