@@ -71,7 +71,8 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
   return {};
 }
 
-// Moves a file to a name that is not in use.
+// Moves a file to a name that is not in use. rename() cannot leave a file system: there the file is copied,
+// and removed only when the copy is on the disk.
 bool Move(const std::string& from, const std::string& to) {
   if (Repeat([&] { return rename(from.c_str(), to.c_str()); }) == 0) return true;
   if (errno != EXDEV) return false;
