@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The check of the layers finds what it is there for."""
+"""The check of the layers finds every kind of fault."""
 
 import os
 import sys
@@ -35,7 +35,7 @@ TREE = {
     "bench/bench.cpp": '#include "ui/shell/main.cpp"\n',
 }
 
-# What is added to one file, and the words by which it must be refused.
+# Includes that are added to one file, and the words by which each must be refused.
 WRONG = [
     ("core/date.h", '#include "content/month_model.h"', "core does not see content"),
     ("core/date.h", '#include "core/civil_year.h"', "upward among the headers"),

@@ -14,7 +14,7 @@ TEST(DateHistoryTest, LeapsAreTakenBackAndForthAgain) {
   leap(20240510);
   leap(-39990101);
   EXPECT_EQ(history.Back(), 20240510);
-  leap(20240510);  // the view shows what it was told to
+  leap(20240510);  // the view reports the date that it was told to show
   EXPECT_EQ(history.Back(), 20240501);
   EXPECT_EQ(history.Forward(), 20240510);
   leap(10101);
@@ -35,7 +35,7 @@ TEST(DateHistoryTest, AWalkCountsOnceWithItsBeginningAndItsEnd) {
   for (const PackedDate date : {19140603, 15820603, 20250603, 20240501, 0}) EXPECT_EQ(history.Back(), date);
 
   history.Visit(20240502, DateMove::kStep);
-  history.Visit(20240501, DateMove::kStep);  // there and back leaves nothing behind
+  history.Visit(20240501, DateMove::kStep);  // a walk that ends where it began leaves no trace
   EXPECT_FALSE(history.CanGoBack());
   EXPECT_FALSE(history.CanGoForward());
 }

@@ -1,4 +1,4 @@
-// Which rules and periods a calendar takes, and on which days rules fall.
+// The rules and periods that a calendar accepts, and the days on which rules fall.
 
 #include "content/day_rules.h"
 
@@ -122,8 +122,8 @@ TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {
   EXPECT_EQ(names, u"");
 }
 
-// The reference implementation: one rule on one day, each kind as it is defined, nothing left out or computed
-// once.
+// Reference implementation of the matcher: one rule on one day, each kind by its definition, without
+// shortcuts.
 bool PlainlyFallsOn(const DayEvent& e, PackedDate ymd) {
   if (e.ymdFrom > ymd || ymd > e.ymdTo) return false;
   const Date date(ymd);
@@ -141,7 +141,7 @@ bool PlainlyFallsOn(const DayEvent& e, PackedDate ymd) {
     case kOrthodoxEaster:
       return date.year >= kFirstEasterYear && OrthodoxEaster(date.year, e.day) == ymd;
     case kNthWeekday: {
-      // Where the reform skipped dates inside one month, the days that were are counted.
+      // If the reform removed dates inside one month, only the days that existed are counted.
       const Date start(Rules().startGregorian), dropped(Rules().julianEquivalentOfStart);
       const bool inside =
           dropped.year == start.year && dropped.month == start.month && dropped.day <= date.day;
@@ -163,7 +163,7 @@ bool PlainlyFallsOn(const DayEvent& e, PackedDate ymd) {
   return false;
 }
 
-// Finds a rule that the view of a whole month passes by, and sums that leave the range of an int.
+// Finds rules that matching a whole month would miss, and sums that overflow an int.
 TEST(DayRulesTest, AnyRuleFallsOnTheDaysOfItsDefinition) {
   std::mt19937 random(20240501);
   const auto from = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };

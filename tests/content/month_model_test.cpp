@@ -37,7 +37,7 @@ MonthModel Built(const YearMonthDay& date, const CalendarContent& content) {
   return model;
 }
 
-// Text and background of a day by its marks. On purpose: they have different precedences.
+// Colors of text and background by the marks of a day. On purpose: their orders of precedence differ.
 constexpr Color kColorsOf[][2] = {
     {kStandardTextColor, kStandardBgColor},
     {kHolidayText, kHolidayBack},
@@ -70,7 +70,7 @@ DayCell ExpectedCell(PackedDate ymd, bool own, int week, const CalendarContent& 
           .eventText = ofRules == kEventMark ? match.eventNames : u""};
 }
 
-// Returns the days that the reform left of a month, whose length is asked from the first day left.
+// Returns the days of a month that the reform left. The month's length is that of its first day left.
 std::vector<PackedDate> DaysOfMonth(int year, int month) {
   std::vector<PackedDate> days;
   Date date(year, month, 1);
@@ -80,8 +80,8 @@ std::vector<PackedDate> DaysOfMonth(int year, int month) {
   return days;
 }
 
-// Compares a page with the days that it must show, from week to week. Pages repeat at their ends what the
-// pages before and after show.
+// Compares a page, week by week, with the days that it must show. Its ends repeat days of the pages before
+// and after.
 void ExpectPage(const MonthModel& model, const std::vector<PackedDate>& days, std::size_t begin,
                 std::size_t end, const CalendarContent& content) {
   const int first = Rules().iso8601 ? 1 : 0;
@@ -98,7 +98,7 @@ void ExpectPage(const MonthModel& model, const std::vector<PackedDate>& days, st
     ASSERT_TRUE(cell == ExpectedCell(days[at], at >= begin && at < end, week, content)) << days[at];
     ASSERT_EQ(model.CellOf(cell.month, cell.day), i);
   }
-  const int firstDay = Unpack(days[begin]).day;  // becomes the model's when the 1st was dropped
+  const int firstDay = Unpack(days[begin]).day;  // the model's day if the 1st was dropped
   ASSERT_EQ(model.day, firstDay == 1 ? 15 : firstDay);
   ASSERT_EQ(model.FirstCell(), first);
   ASSERT_NE(model.CellOf(model.month, Unpack(days[end - 1]).day), kNoCell);

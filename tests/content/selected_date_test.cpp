@@ -47,8 +47,8 @@ TEST(SelectedDateTest, StepsOfDaysMonthsAndYears) {
   }
 }
 
-// From the last day shown to the first, then back: a key that is held down always gets on. After the earliest
-// reforms some dates come twice.
+// Walks from the last day shown to the first and back: a key that is held down always moves on. After the
+// earliest reforms some dates come twice.
 TEST(SelectedDateTest, OneDayBackIsAlwaysEarlierAndOneDayOnLater) {
   for (const PackedDate reform : {15821015, 10101, -39990101, -39000101}) {
     const ScopedRules inForce(RulesWith(reform));

@@ -1,4 +1,4 @@
-// Numbers that no calendar has: nothing may crash, loop without end or compute what C++ leaves undefined.
+// Arithmetic on arbitrary numbers, which must not crash, loop without end or have undefined behavior.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 namespace orbisol {
 namespace {
 
-// One in four from the ends of a type or of a range of ours, the others of any size.
+// Returns a number, one in four near the end of a type or of a range of ours, the others of any size.
 int Any() {
   constexpr int kEdges[] = {INT_MIN, INT_MAX, 0,      101,     -47120101, -80229, 40228,   15821015,
                             1718198, 2299161, 214748, -214748, -32045,    -4801,  1000000, 365000000};

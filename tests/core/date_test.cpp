@@ -15,7 +15,7 @@ constexpr PackedDate kFirst = -39990101;
 constexpr PackedDate kLast = 39991231;
 constexpr int kUnixEpoch = 2440588;  // day number of 1 January 1970
 
-// J. Meeus, Astronomical Algorithms, chapter 7; then where leap years begin, end or begin again.
+// Days of J. Meeus, Astronomical Algorithms, chapter 7; then days where leap years begin, end or begin again.
 TEST(DateTest, KnownDaysConvertBothWays) {
   constexpr std::pair<PackedDate, int> kDays[] = {
       {-47120101, 0},     {-10000229, 1355867}, {-1231231, 1676497}, {3330127, 1842713},
@@ -38,8 +38,8 @@ TEST(DateTest, GregorianDaysAreThoseOfTheStandardLibrary) {
   }
 }
 
-// Months have the days they say, without those that the reform dropped; but early reforms go back to dates
-// that the Julian calendar has used.
+// Every month has DaysInMonth() days less those that the reform dropped. Early reforms are left out, because
+// they go back to dates that the Julian calendar has used.
 TEST(DateTest, EveryDayIsThatOfTheReferenceAndNoneIsLost) {
   std::vector<plain::Reform> reforms = {
       {kRomanReform, true}, {kNeverGregorian, false}, {40227, false}, {-440315, false}, {-20000701, true}};
@@ -52,7 +52,7 @@ TEST(DateTest, EveryDayIsThatOfTheReferenceAndNoneIsLost) {
     SCOPED_TRACE(reform.startGregorian);
     const ScopedRules inForce(RulesWith(reform.startGregorian, {.proleptic = reform.proleptic}));
     const int last = Date(kLast).DayNumber();
-    int days = 0;  // of the month so far
+    int days = 0;  // days of the month so far
     for (int n = Date(reform.startGregorian > kRomanReform ? 15000101 : kFirst).DayNumber(); n <= last; ++n) {
       const Date date = DateOfDayNumber(n);
       const plain::CivilDate reference = plain::DateOfDayNumber(n, reform);

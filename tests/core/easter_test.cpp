@@ -11,7 +11,7 @@
 namespace orbisol {
 namespace {
 
-// Month * 100 + day by year, from a table of twenty years a line.
+// Easter by year, as month * 100 + day, from a table of twenty years a line.
 std::map<int, int> EasterTable(const char* fileName) {
   std::map<int, int> table;
   for (const std::vector<std::string>& row : DataRows(fileName))

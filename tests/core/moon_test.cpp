@@ -16,7 +16,7 @@ TEST(MoonTest, EveryDayHasThePhaseOfTheReference) {
   int n = kFirstDay;
   for (const MoonPhase phase : phases) {
     ASSERT_TRUE(phase == plain::MoonPhaseOfDayNumber(n)) << n;
-    if (n % 20 == 0) {  // now and then what a day asked alone has
+    if (n % 20 == 0) {  // every 20th day is also asked alone
       const double noon = MoonTimeOfNoon(n);
       const int angle = plain::MoonElongation(noon);
       const int near = (angle + 45) / 90 * 90;  // the angle of the nearest phase
@@ -29,7 +29,7 @@ TEST(MoonTest, EveryDayHasThePhaseOfTheReference) {
   }
 }
 
-// Greatest eclipses in universal time, the early ones in the proleptic Julian calendar: F. Espenak, J. Meeus,
+// Times of greatest eclipse in universal time, the early ones in the Julian calendar: F. Espenak, J. Meeus,
 // Five Millennium Canon of Solar Eclipses and Five Millennium Canon of Lunar Eclipses.
 TEST(MoonTest, EclipsesAreNewAndFullMoons) {
   const ScopedRules inForce(RulesWith(kRomanReform, {.proleptic = true}));

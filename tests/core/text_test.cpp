@@ -92,7 +92,7 @@ TEST(TextTest, PatternsAreFilledInOrder) {
   EXPECT_EQ(FormatText(u"[%2d] [%2d] [%4s]", {1, 123, u"a"sv}), u"[ 1] [123] [   a]");
   EXPECT_EQ(FormatText(u"%d|%s|", {}), u"||");
   EXPECT_EQ(FormatText(u"a%12", {1}), u"a");
-  EXPECT_EQ(FormatText(u"%99999999999999999999d", {1}).size(), 99U);  // no number of blanks is endless
+  EXPECT_EQ(FormatText(u"%99999999999999999999d", {1}).size(), 99U);  // the number of blanks is bounded
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ TEST(CalendarFileTest, OddFilesAreReadAsFarAsTheyGoAndTheirFaultsAreNoticed) {
 }
 
 TEST(CalendarFileTest, OnlyWhatWouldBeGoneIsALoss) {
-  const ScopedRules others(RulesWith(17520914));  // each file is judged by its own
+  const ScopedRules others(RulesWith(17520914));  // each file follows its own rules
   for (const std::vector<std::string>& row : DataRows("files/fragments.txt")) {
     std::string fragment;
     for (std::size_t word = 1; word < row.size(); ++word) fragment += row[word] + " ";
@@ -89,7 +89,7 @@ TEST(CalendarFileTest, WhateverIsCutOffAFileIsNoticed) {
   }
 }
 
-// What is written where a parameter was read.
+// Parameters as they are read and as they are then written.
 std::string Rewritten(const std::string& parameter, const std::string& value) {
   const std::string opening = "<" + parameter + ">";
   const std::string closing = "</" + parameter + ">";
@@ -132,7 +132,7 @@ TEST(CalendarFileTest, ParametersAreReadWithPatience) {
     EXPECT_EQ(Rewritten(row.parameter, row.read), row.written) << row.parameter << " " << row.read;
 }
 
-// An empty piece is none; a malformed one counts.
+// Empty pieces of the color table are skipped; malformed ones count as a place.
 TEST(CalendarFileTest, ColorsTakeTheirPlaceByCounting) {
   const std::string fresh = Rewritten("colorTable", "");
   EXPECT_EQ(Rewritten("colorTable", "#0000ff;;#ABCdef;"), "#0000ff;#abcdef;" + fresh.substr(16));
@@ -160,7 +160,7 @@ TEST(CalendarFileTest, YearsOfOlderReleasesBecomeDates) {
   }
 }
 
-TEST(CalendarFileTest, EveryCalendarComesBackEqualInEveryField) {
+TEST(CalendarFileTest, AWrittenCalendarIsReadBackEqualInEveryField) {
   std::mt19937 random(20240501);
   const auto between = [&](int low, int high) {
     return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A fault in the sources of the public calendars is told with its line, and every kind of rule becomes its record."""
+"""Checks that every kind of rule becomes its record, and that a fault in a source is reported with its line."""
 
 import contextlib
 import io
@@ -14,7 +14,7 @@ import make_holidays  # noqa: E402
 HEAD = 'name = "Here"\ninfo = "Laws & <days>"\nfirst_start = ["XX"]\n'
 RULE = '[[rule]]\nname = "Day"\nsource = "law"\n'
 
-# The kind, the record in the order of the file: type, month, day, weekday, weeknum.
+# Kinds, each with its record in the order of the file: type, month, day, weekday, weeknum.
 KINDS = [
     ('"fixed date"\ndate = "29 February"', [0, 2, 29, 0, 0]),
     ('"Roman Easter"\ndays = -2', [1, 0, -2, 0, 0]),
@@ -26,7 +26,7 @@ KINDS = [
     ('"except Sunday"\ndate = "1 July"', [7, 7, 1, 0, 0]),
 ]
 
-# A whole source, and where and why it is refused.
+# Whole sources, each with the line and the reason of its refusal.
 FAULTS = [
     (HEAD + "rule = [\n", ":4: Invalid value"),
     (HEAD + "colour = 1\n" + RULE, ":4: a calendar has no key"),
@@ -46,7 +46,7 @@ FAULTS = [
 
 
 def made_of(sources):
-    """(exit code, what was complained of, the files made) for sources by name."""
+    """Returns (exit code, error text, files made) for sources by name."""
     with tempfile.TemporaryDirectory() as folder:
         paths = []
         for name, text in sources.items():

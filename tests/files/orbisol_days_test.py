@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""orbisol-days prints the marked days, and says what it cannot do.
+"""Checks that orbisol-days prints the marked days, and reports what it cannot do.
 
     orbisol_days_test.py PATH_OF_FRANCE_XML PATH_OF_ORBISOL_DAYS
 """

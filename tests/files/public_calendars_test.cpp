@@ -1,4 +1,4 @@
-// The public calendars that are shipped.
+// The public calendars that come with the program.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 namespace orbisol {
 namespace {
 
-// The names of the days that bear such a mark.
+// Returns the names of the days with a mark.
 std::map<PackedDate, std::string> MarkedDays(const std::string& file, unsigned mark, int firstYear,
                                              int lastYear) {
   const CalendarContent content = ReadCalendar(BytesOf(ORBISOL_LEGALS "/" + file)).content;

@@ -131,7 +131,8 @@ TEST_F(DesktopFilesTest, ClearsAwayWhatKilledRunsLeft) {
   EXPECT_EQ(FileCount(folders.calendars), 3u) << "the others stay";
 }
 
-// An access list in the form of the system: the owner, one more user and the group may write, at most `mask`.
+// Returns an access list in the system's form: the owner, one more user and the group may write, within
+// `mask`.
 std::string AccessList(char group, char mask) {
   std::string list("\2\0\0\0", 4);
   const auto add = [&](char tag, char rights, std::string_view id) {

@@ -1,5 +1,5 @@
-// Every step that changes files, with a fault at each of its system calls: no name of a file ever holds
-// anything but its old or its new bytes, and who is told "written" has the new ones.
+// Every step that changes files, with a fault at each of its system calls: a file always has its old or its
+// new bytes, and the new ones if the step reports success.
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -26,15 +26,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Step = std::function<bool()>;  // of the program, on real files; true when it says that it is done
+using Step = std::function<bool()>;  // a step on real files, which returns true to report success
 
 struct Outcome : FaultReport {
-  bool isDone = false;       // says the step
-  bool isKilled = false;     // and can say nothing
-  bool isWriteLost = false;  // and ought to say that it is not done
+  bool isDone = false;       // whether the step reported success
+  bool isKilled = false;     // whether it was killed and reported nothing
+  bool isWriteLost = false;  // whether a write was lost, so that it must not report success
 };
 
-// Takes the step with a fault at one call; in a process of its own where that is killed.
+// Takes the step with a fault at one call, in a process of its own if the fault kills it.
 Outcome Taken(const Step& step, int call = 0, int fault = 0, void (*meddle)() = nullptr) {
   Outcome outcome;
   outcome.isKilled = fault == kKillFault;
@@ -57,9 +57,8 @@ Outcome Taken(const Step& step, int call = 0, int fault = 0, void (*meddle)() = 
 const std::string kOld(5000, 'o');
 const std::string kNew(9000, 'n');
 
-// Takes a step again and again, each time with the next of its calls failing, until there is no further one.
-// `prepare` makes the state before, `check` judges the state after. A sound step syncs at least so many files
-// and folders.
+// Repeats a step, each time with the next of its calls failing, until it has no further call. `prepare` makes
+// the state before, `check` checks the state after. A step without a fault makes at least `syncs` syncs.
 void ForEachFault(const std::vector<int>& faults, int syncs, const Step& step,
                   const std::function<void()>& prepare, const std::function<void(const Outcome&)>& check) {
   prepare();
@@ -119,7 +118,7 @@ TEST(FaultTest, ASavedFileIsTheOldOneOrTheNewOne) {
                check);
 }
 
-// The file that another program writes while a save goes on, in place or as a new file.
+// Another program that writes the file while a save goes on, in place or as a new file.
 std::string meddled;
 
 TEST(FaultTest, NothingThatAnotherProgramWritesIsOverwrittenUnseen) {
@@ -140,7 +139,7 @@ TEST(FaultTest, NothingThatAnotherProgramWritesIsOverwrittenUnseen) {
       if (wasThere) PutFile(meddled, kOld);
     };
     prepare();
-    // The first calls read the file: what is written before their end is known.
+    // The first calls read the file, so a write during them is known to the save.
     const int known = Taken([&] { return ReadWholeFile(meddled).has_value() || !wasThere; }).calls;
     prepare();
     const int calls = Taken(save).calls;
@@ -170,7 +169,7 @@ TEST(FaultTest, TheStoreIsTheOldOneOrTheNewOne) {
     chmod(file.c_str(), 0600);
   };
   const auto check = [&](const Outcome& outcome) {
-    // Some file systems have rights of their own for all files and refuse every change.
+    // Some file systems have one mode for all files and refuse every change.
     EXPECT_STRNE(outcome.failed, "fchmod") << "rights that are right are not set again";
     const std::string bytes = BytesOf(file);
     EXPECT_TRUE(bytes == after || (bytes == before && !outcome.isDone));
@@ -278,7 +277,7 @@ TEST(FaultTest, ProcessesThatWriteAtOnceLoseNothingOfEachOther) {
   const std::string file = folder / "file.xml";
   CDesktopFiles files({});
   PutFile(key, "");
-  PutFile(file, std::string(50000, '-'));  // long enough to be looked at while another replaces it
+  PutFile(file, std::string(50000, '-'));  // long enough to be read while it is replaced
   const auto write = [&](char letter) {
     CDesktopStore store(files, {key}, std::chrono::hours(1));
     for (int count = 0; count < 100;) {

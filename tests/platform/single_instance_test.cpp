@@ -1,5 +1,5 @@
-// One program for each user and display: who is first, who is heard, and what becomes of a start whose first
-// hangs or dies.
+// One program for each user and display: which start is the first, which calls are answered, and what a start
+// does when the first hangs or dies.
 
 #include "platform/single_instance.h"
 
@@ -22,7 +22,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Starts a second program while the first one's loop runs; `heard` is what the first is told.
+// Starts a second program while the first one's loop runs. `heard` takes the tokens that the first receives.
 InstanceRole RoleOfSecond(CSingleInstance& first, const InstancePlace& place,
                           std::optional<std::string>& heard) {
   std::atomic<bool> isOver = false;

@@ -14,8 +14,8 @@
 
 namespace orbisol {
 
-// In memory where the machine has a place for that: files are replaced in it thousands of times, and a busy
-// disk would be waited for. Removed with all it holds at the end.
+// A folder in memory, where the machine has a place for that: files are replaced in it thousands of times,
+// and a busy disk would be slow. It is removed with its content at the end.
 class CTestFolder {
  public:
   CTestFolder() : m_path(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : std::getenv("TMPDIR")) {
@@ -49,7 +49,7 @@ inline std::size_t FileCount(const std::string& folder) {
   return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
 }
 
-// The text of a settings key.
+// Returns the text of a settings key.
 inline std::string KeyText(const std::string& lines) {
   return "[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n" + lines;
 }

@@ -10,7 +10,7 @@ namespace {
 
 TEST(TodayTimerTest, CallsOnceForEachDayThatHasBegunAlsoForOneThatARestartFinds) {
   int calls = 0;
-  // The midnights found: past, as after a sleep; far away; past, as in another time zone; far away.
+  // Next midnights in turn: past, as after a sleep; far away; past, as in another time zone; far away.
   std::vector<int> hours = {1, -1, 1, -1};
   const auto next = [&] {
     const int hour = hours.back();

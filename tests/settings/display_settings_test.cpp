@@ -24,7 +24,7 @@ TEST(WindowLayoutTest, IsStoredLittleEndianAndFewerBytesFillTheFieldsTheyHold) {
       0xFE, 0xFF, 0xFF, 0xFF, 2, 1, 0, 0, 0, 0, 1, 0, 0xFF, 0xFF, 0xFF, 0x7F, 1, 0, 7, 1, 3, 0, 0, 0x80};
   const WindowLayout layout{{-2, 258, 65536, 2147483647}, true, false, 7, true, -2147483645};
   EXPECT_EQ(LayoutToBytes(layout), kBytes);
-  constexpr std::size_t kEnds[] = {0, 4, 8, 12, 16, 17, 18, 19, 20, 24};  // of the fields
+  constexpr std::size_t kEnds[] = {0, 4, 8, 12, 16, 17, 18, 19, 20, 24};  // ends of the fields, in bytes
   for (std::size_t size = 0; size <= 30; ++size) {
     std::vector<std::uint8_t> bytes(kBytes.begin(), kBytes.end());
     bytes.resize(size, 0x55);

@@ -11,7 +11,7 @@ namespace {
 using namespace std::string_literals;
 
 const std::string kKey = "[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n";
-// As a registry editor exports it, the values of our key between those of two others.
+// Returns a key as a registry editor exports it, its values between those of two others.
 const std::string kExport = BytesOf(ORBISOL_TEST_DATA "/settings/export.reg");
 
 std::string Utf16(std::string_view utf8) {
@@ -76,7 +76,7 @@ TEST(RegistryTextTest, WhatAPersonMayWriteIsReadWithPatience) {
   EXPECT_TRUE(twice.Set("A", DwordValue(3)));
   EXPECT_EQ(DwordOf(twice.Values(), "a"), 3u) << "the line that is read is the one that is set";
 
-  // A value whose end is lost takes no other line along.
+  // A value whose end is lost does not swallow the lines after it.
   const StoredValues values = ValuesOf("\"A\"=hex:01,02,\\\n\"B\"=dword:00000003\n\"C\"=hex:04,\\");
   EXPECT_EQ(BinaryOf(values, "A"), (std::vector<std::uint8_t>{1, 2}));
   EXPECT_EQ(DwordOf(values, "B"), 3u);
@@ -111,7 +111,7 @@ TEST(RegistryTextTest, AValueFindsItsKeyOrMakesIt) {
   }
 }
 
-TEST(SettingsStoreTest, TextsAreJudgedByTheirBytes) {
+TEST(SettingsStoreTest, OnlyWellFormedBytesAreATextOfAtMostTheAllowedLength) {
   const struct {
     ValueType type;
     std::string bytes;

@@ -36,7 +36,7 @@ class SettingsTest : public testing::Test {
   }
   static std::string Known(const std::string& file) { return BytesOf(ORBISOL_TEST_DATA "/settings/" + file); }
   StoredSettings Read() { return ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, kScreen); }
-  // What of the settings a calendar's file holds.
+  // Returns the part of the settings that a calendar's file holds.
   static CalendarFile Session(const StoredSettings& stored) {
     return {stored.display.Look(), stored.rules, stored.content, u""};
   }
@@ -214,7 +214,7 @@ TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   EXPECT_TRUE(store.written.empty());
 }
 
-// On purpose: the file may hold what the user chose since, while the key may have lost no more than its name.
+// On purpose: the file may hold later choices of the user, while the key may have lost only its name.
 TEST_F(SettingsTest, AMigrationKeepsWhatAnExistingFileHolds) {
   CalendarFile own = CalendarWith(u"Anniversaire");
   own.look.colors[kHolidayText] = 0x123456;

@@ -1,4 +1,4 @@
-// Calendars as tests need them.
+// Builders of calendars for tests.
 #pragma once
 
 #include <string>

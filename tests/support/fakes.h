@@ -1,4 +1,4 @@
-// The machine as a test wants it.
+// Test doubles of the machine's interfaces.
 //
 //   FakeLocale american;
 //   american.dateOrder = 0;
@@ -12,7 +12,7 @@
 
 namespace orbisol {
 
-// French where nothing else is asked for.
+// Locale that is French except where its fields are set.
 struct FakeLocale : FrenchLocale {
   int dateOrder = 1;
   int firstDay = 0;                                                            // 0 Monday .. 6 Sunday
@@ -51,7 +51,7 @@ struct FakeClock : Clock {
   YearMonthDay Today() const override { return today; }
 };
 
-// Holds a locale and a clock in force, and puts back what was.
+// Puts a locale and a clock in force for one scope, and the former ones at its end.
 class ScopedPlatform {
  public:
   explicit ScopedPlatform(const FakeLocale& locale, const FakeClock& clock = FakeClock())

@@ -16,12 +16,12 @@
 
 namespace {
 
-orbisol::FaultReport* current = nullptr;  // nothing where no call is counted
+orbisol::FaultReport* current = nullptr;  // null while no call is counted
 int chosen = 0;
 int chosenFault = 0;
 void (*chosenMeddle)() = nullptr;
 
-// The fault of this call, which it counts; 0 for none.
+// Counts this call and returns its fault; 0 for none.
 int Next(const char* name) {
   if (current == nullptr || ++current->calls != chosen) return 0;
   current->failed = name;
@@ -34,7 +34,7 @@ int Next(const char* name) {
   return chosenFault;
 }
 
-// Whether a call that knows no half measures fails here; sets errno.
+// Returns whether a call that either succeeds or fails is to fail, and sets errno.
 bool Fails(const char* name) {
   const int fault = Next(name);
   if (fault > 0) errno = fault;
@@ -72,7 +72,7 @@ void orbisol::FaultShimEnd() { current = nullptr; }
   static const auto real = Real<type>(#name); \
   return Fails(#name) ? -1 : real(__VA_ARGS__)
 
-// The system's headers name the parameters of these calls otherwise.
+// The system's headers give the parameters of these calls other names.
 // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
@@ -84,7 +84,7 @@ int open(const char* path, int flags, ...) {
   FORWARD(open, int(const char*, int, ...), path, flags, mode);
 }
 
-// A close that fails has closed, as on Linux.
+// Closes a descriptor. As on Linux, a close that fails has closed it.
 int close(int descriptor) {
   static const auto real = Real<int(int)>("close");
   const bool fails = Fails("close");
@@ -104,8 +104,8 @@ ssize_t write(int descriptor, const void* buffer, size_t size) {
   return Transfer("write", real, descriptor, buffer, size);
 }
 
-// Between the two marks nothing is really synced: no test cuts the power, and the disk would be waited for
-// thousands of times.
+// Between FaultShimBegin and FaultShimEnd nothing is really synced: no test cuts the power, and thousands of
+// syncs would be slow.
 int fsync(int descriptor) {
   if (current != nullptr) {
     ++current->syncs;

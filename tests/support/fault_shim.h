@@ -1,5 +1,5 @@
 // Counts the calls that a program makes on files, and lets one of them fail. The program is linked with
-// fault_shim.cpp, whose calls take the place of the system's own.
+// fault_shim.cpp, whose calls replace those of the system.
 //
 //   FaultReport report;
 //   FaultShimBegin(7, ENOSPC, report);  // the seventh call fails so
@@ -9,19 +9,19 @@
 
 namespace orbisol {
 
-// In the place of an error.
+// Faults that are given instead of an error.
 constexpr int kShortFault = -1;   // the call writes or reads less than it was asked to
-constexpr int kKillFault = -2;    // it ends the process
-constexpr int kMeddleFault = -3;  // just before it another program does something
+constexpr int kKillFault = -2;    // the call ends the process
+constexpr int kMeddleFault = -3;  // another program does something just before the call
 
 struct FaultReport {
-  int calls = 0;             // since the beginning
-  int syncs = 0;             // of them those that bring files and folders to the disk
-  const char* failed = "-";  // the name of the call that failed
+  int calls = 0;             // number of calls since FaultShimBegin
+  int syncs = 0;             // number of those that sync a file or folder
+  const char* failed = "-";  // name of the call that failed
 };
 
-// `call` counts from 1; 0 lets none fail. The report is written to up to the end. `meddle` is what the other
-// program does at a kMeddleFault.
+// Lets call number `call` fail, counted from 1; 0 lets none fail. The report is updated until FaultShimEnd. A
+// kMeddleFault calls `meddle`, which acts as the other program.
 void FaultShimBegin(int call, int fault, FaultReport& report, void (*meddle)() = nullptr);
 void FaultShimEnd();
 

@@ -1,4 +1,4 @@
-// Files of the disk, as a test compares them.
+// Bytes of files on the disk, for comparisons.
 #pragma once
 
 #include <fstream>
@@ -7,7 +7,7 @@
 
 namespace orbisol {
 
-// "(none)" where there is no file.
+// Returns the bytes of a file; "(none)" if there is no file.
 inline std::string BytesOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return "(none)";

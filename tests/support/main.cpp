@@ -1,6 +1,6 @@
 // The main() of every test program. It gives the process a home, settings, data and temporary folder
-// of its own, so that tests run in any order, side by side, on any account, and never meet the
-// calendars of whoever runs them. A test that crashes leaves its folder behind, to be looked into.
+// of its own, so that tests run in any order, side by side, on any account, and never touch the
+// calendars of the user who runs them. A test that crashes leaves its folder behind for inspection.
 // Compiled once without Qt and once with a QApplication.
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ constexpr char kScreens[] = R"({"screens": [{"name": "one", "x": 0, "y": 0, "wid
 
 class CPrivateFolders {
  public:
-  // Makes the folders and points the environment to them. Made() is false when that failed.
+  // Makes the folders and points the environment to them. If that fails, Made() is false.
   CPrivateFolders() {
     std::error_code error;
     const fs::path common = fs::temp_directory_path(error);
@@ -86,7 +86,7 @@ class CPrivateFolders {
   bool m_made = false;
 };
 
-// What a desktop session adds to the environment and a test must not depend on.
+// Variables of a desktop session, which a test must not depend on.
 void ForgetTheDesktop() {
   for (const char* name :
        {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "LANG", "LANGUAGE", "LC_CTYPE", "LC_TIME",
@@ -106,7 +106,7 @@ extern "C" const char* __asan_default_options() { return "intercept_tls_get_addr
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
-  if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();  // Nothing runs: nothing is prepared.
+  if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();  // no test runs, so nothing is prepared
 
   ForgetTheDesktop();
   const CPrivateFolders folders;

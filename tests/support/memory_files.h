@@ -1,7 +1,7 @@
 // A folder of calendars in memory, with faults on demand.
 //
 //   CMemoryFiles files;
-//   files.Put(u"/user/A.xml", "…");     // as somebody else writes
+//   files.Put(u"/user/A.xml", "…");     // writes like another program
 //   files.failingWrites.insert(u"/user/A.xml.bak");
 #pragma once
 
@@ -25,14 +25,14 @@ class CMemoryFiles : public FileSystem {
     std::string bytes;
     FileStamp stamp;
   };
-  std::map<std::u16string, File> files;  // by path
+  std::map<std::u16string, File> files;  // files by path
   std::map<std::u16string, File> trash;
-  std::set<std::u16string> unreadable;     // they exist, and no more can be said of them
-  std::set<std::u16string> failingWrites;  // they stay as they are
-  std::function<void()> beforeLock;        // another copy of the program, which had the lock; called once
-  std::function<void()> beforeReplace;     // another program, at the last moment; called once
+  std::set<std::u16string> unreadable;     // paths that exist and cannot be read
+  std::set<std::u16string> failingWrites;  // paths that cannot be written
+  std::function<void()> beforeLock;        // act of another copy of the program, before the lock; called once
+  std::function<void()> beforeReplace;     // act of another program, at the last moment; called once
   bool trashFails = false;
-  bool syncFails = false;  // the new bytes are in place when the failure is seen
+  bool syncFails = false;  // whether the sync fails once the new bytes are in place
 
   void Put(const std::u16string& path, std::string_view bytes) {
     File& file = files[path];

@@ -15,9 +15,9 @@
 namespace orbisol {
 
 struct CMemoryStore : SettingsStore {
-  std::optional<std::string> text;  // nothing: there is no key
+  std::optional<std::string> text;  // nothing if there is no key
   bool readOnly = false;
-  std::vector<StoreChange> written;  // all that was ever asked for, in its order
+  std::vector<StoreChange> written;  // all changes ever asked for, in order
 
   CMemoryStore() = default;
   explicit CMemoryStore(std::string_view lines)

@@ -5,8 +5,8 @@
 namespace orbisol::plain {
 namespace {
 
-// A count of days cut into cycles of `Years` years and `Days` days, `Shorter` being the days of a year less
-// the leap day that the last year of a cycle has.
+// Returns the date of a day in a count with cycles of `Years` years and `Days` days. The last year of a cycle
+// has `Shorter` + 1 days.
 template <std::int64_t Days, std::int64_t Years, std::int64_t Shorter>
 CivilDate DateInCycles(std::int64_t z, std::int64_t yearOffset) {
   const std::int64_t b = (z + Shorter) * Years / Days - 1;

@@ -1,6 +1,6 @@
-// The reference implementation of core/date.h: the same two conversions, written out one branch after the
-// other as their definition has them, in 64-bit integers, without any thought of speed. The tests compare
-// both on every day; the benches measure them side by side. It knows nothing of `core` and may not.
+// The reference implementation of core/date.h: the same two conversions, branch by branch as they are
+// defined, in 64-bit integers and without regard to speed. The tests compare both on every day; the benches
+// measure both. It must not use `core`.
 //
 // Valid from 1 March -4800 on, where every quantity that is divided is positive.
 #pragma once

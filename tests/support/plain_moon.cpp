@@ -16,7 +16,7 @@ double Reduce(double degrees) { return degrees - 360 * std::floor(degrees / 360)
 
 constexpr int kPhaseOfCode[] = {-1, 0, 270, 180, 90};
 
-// The only phase that a day with this elongation can have.
+// Returns the only phase that a day with this elongation can have.
 int CodeNear(int angle) {
   if (angle < 10 || angle > 350) return 1;
   if (angle >= 261 && angle <= 279) return 2;
@@ -29,7 +29,7 @@ int CodeNear(int angle) {
 // its neighbors.
 bool IsPhaseDay(int before, int angle, int after, int phase) {
   int center = phase;
-  if (phase == 0) {  // away from the jump from 359 to 0
+  if (phase == 0) {  // turned to the opposite side, where angles do not jump from 359 to 0
     before = (before + 180) % 360;
     angle = (angle + 180) % 360;
     after = (after + 180) % 360;

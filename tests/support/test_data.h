@@ -1,4 +1,4 @@
-// Tables of tests/data/: words separated by blanks; a line that begins with '#' is a remark.
+// Tables of tests/data/: words separated by blanks; a line that begins with '#' is a comment.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 
 namespace orbisol {
 
-// The words of each line. A test whose file is missing fails.
+// Returns the words of each line. A missing file fails the test.
 inline std::vector<std::vector<std::string>> DataRows(const std::string& fileName) {
   std::vector<std::vector<std::string>> rows;
   std::ifstream file(std::string(ORBISOL_TEST_DATA) + "/" + fileName);

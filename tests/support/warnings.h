@@ -1,4 +1,4 @@
-// Warnings of the toolkit while one of these lives.
+// Collects the warnings of the toolkit during its life.
 //
 //   const CWarnings warnings;
 //   …
@@ -29,7 +29,7 @@ class CWarnings {
 
   static void Take(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtDebugMsg || type == QtInfoMsg) return;
-    // What the platform without a display says of itself.
+    // Warnings of the off-screen platform about itself do not count.
     for (const char* const known : {"propagateSizeHints", "raise()", "does not support grabbing"})
       if (text.contains(QLatin1String(known))) return;
     Taken().push_back(text.toStdString());

@@ -30,8 +30,8 @@ QByteArray Encoded(const QSize& size, const char* format) {
   return bytes;
 }
 
-// A decoder that opens other files, a pipe without a writer and a picture of a terabyte would each stop the
-// program that meets them.
+// A decoder that opens other files, a pipe without a writer or a picture of a terabyte would stop the
+// program.
 TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
   const QTemporaryDir folder;
   const QString base = folder.path() + QLatin1Char('/');
@@ -72,8 +72,8 @@ TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
   EXPECT_EQ(ReadPicture(QString(), {9, 9}).fault, PictureFault::kNotFound);
 }
 
-// The file dialog itself is asked which files it offers: a filter that the toolkit does not understand offers
-// none or all.
+// Asks the file dialog itself which files it offers: with a filter that the toolkit does not understand it
+// offers none or all.
 TEST(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown) {
   const QTemporaryDir folder;
   const QByteArray png = Encoded({400, 100}, "png");

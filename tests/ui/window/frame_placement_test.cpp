@@ -1,4 +1,4 @@
-// Where windows open, and what is stored of them, under a window manager whose frame comes late.
+// The place where windows open, and the place that is stored, under a window manager whose frame comes late.
 
 #include "ui/window/frame_placement.h"
 
@@ -37,7 +37,7 @@ struct FramedWindow {
     placement.Open(frame, false);
     TakeFrameOff();
   }
-  // The display of the tests has a frame of its own, which it has put on at once.
+  // The display of the tests puts a frame of its own around windows at once.
   void TakeFrameOff() {
     const QMargins own = window.windowHandle()->frameMargins();
     window.setGeometry(window.geometry().translated(-own.left(), -own.top()));
@@ -90,7 +90,7 @@ TEST(FramePlacementTest, TheFirstWindowStandsInTheMiddleWithItsFrame) {
   }
 }
 
-// Before the frame is there somebody already works with the window.
+// The user works with the window before its frame is there.
 TEST(FramePlacementTest, ALateFrameUndoesNothingThatWasDoneMeanwhile) {
   const QRect stored(100, 80, 900, 520);
   const struct {
@@ -128,7 +128,7 @@ TEST(FramePlacementTest, ALateFrameUndoesNothingThatWasDoneMeanwhile) {
   }
 }
 
-// A frame never seen is not there: what was wanted is stored again, not the window without it.
+// If the frame was never seen, the wanted rectangle is stored again, not that of the window without a frame.
 TEST(FramePlacementTest, AWindowThatClosesBeforeItsFrameIsThereStoresWhatWasWanted) {
   FramedWindow framed;
   framed.Open({100, 80, 900, 520});

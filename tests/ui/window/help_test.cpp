@@ -25,7 +25,7 @@ CHelpWindow* OpenHelp() {
   return nullptr;
 }
 
-// Every page of the list can be shown, and no link of one leads to nothing.
+// Every page of the list can be shown, and all its links lead somewhere.
 TEST(HelpTextTest, PagesHaveTitlesAndTheirLinksResolve) {
   std::set<QString> targets;
   for (const HelpHeading& heading : HelpHeadings()) {

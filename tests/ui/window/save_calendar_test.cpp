@@ -14,10 +14,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Gives the answers of a user, one after the other, and keeps what was asked.
+// Gives the answers of a user, one after the other, and keeps the questions.
 struct ScriptedMessages : UserMessages {
   std::vector<int> answers;
-  std::function<void()> whileAsking;  // somebody else
+  std::function<void()> whileAsking;  // act of another program during a question
   QStringList shown, buttons;
 
   void ShowError(QWidget* /*parent*/, const QString& text) override { shown.append(text); }
@@ -48,7 +48,7 @@ class SaveCalendarTest : public testing::Test {
     return SaveCalendarFromWindow(nullptr, {store, calendars}, display, {}, CalendarWith(u"mine").content,
                                   newName);
   }
-  // The rule of each file, in the order of their names: "Calendar=mine Calendar (2)=theirs ".
+  // Returns the rule of each file, in the order of their names: "Calendar=mine Calendar (2)=theirs ".
   std::string OnDisk() {
     std::u16string all;
     for (const auto& [path, file] : files.files) {
@@ -138,7 +138,7 @@ TEST_F(SaveCalendarTest, WhatIsWrittenAndNotConfirmedIsSaidSo) {
   ExpectShown(u"Le fichier /user/Calendar.xml contient vos modifications"_s);
 }
 
-// Each answer is tried on what is on the disk by then.
+// Each answer applies to the file as it is on the disk by then.
 TEST_F(SaveCalendarTest, WhatChangesWhileTheUserThinksIsNotOverwritten) {
   Put(u"Calendar", u"theirs");
   int asked = 0;

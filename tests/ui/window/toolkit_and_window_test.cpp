@@ -101,7 +101,7 @@ TEST(ToolIconsTest, TheyAreDrawnInTheTextColorOfTheThemeAndFollowIt) {
   EXPECT_TRUE(ToolIcon("nothing").isNull());
 }
 
-// A line of one pixel at 16 is there in full, not as two grey ones.
+// A line of one pixel at 16 is painted in full, not as two grey ones.
 TEST(ToolIconsTest, StraightLinesAreSharpAtSmallSizesAndDoubledScale) {
   for (const auto& [side, scale] :
        {std::pair(16, 1.0), std::pair(32, 1.0), std::pair(16, 2.0), std::pair(22, 2.0)}) {
@@ -154,7 +154,7 @@ TEST(SpaceKeyTest, FieldsThatUseSpaceKeepIt) {
   EXPECT_EQ(triggered, 1);
 }
 
-// Once spoken it stays so for the process: the last test here.
+// The French texts stay installed for the process, so this test is the last.
 TEST(ZFrenchToolkitTest, AllTextsOfTheToolkitAreFrench) {
   SpeakFrench(*QCoreApplication::instance());
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
