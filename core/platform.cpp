@@ -46,6 +46,4 @@ LocalMoment LocalNow() {
           local->tm_sec};
 }
 
-YearMonthDay LocalClock::Today() const { return LocalNow().day; }
-
 }  // namespace orbisol

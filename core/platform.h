@@ -23,9 +23,19 @@ struct Locale {
   virtual std::u16string WeekdayAbbrev(int weekday) const = 0;  // 1 Monday .. 7
 };
 
+// A moment of the system's clock in the local time zone; its day is Gregorian.
+struct LocalMoment {
+  YearMonthDay day;
+  int hour, minute, second;
+
+  bool operator==(const LocalMoment&) const = default;
+};
+
 struct Clock {
   virtual ~Clock() = default;
-  virtual YearMonthDay Today() const = 0;  // Gregorian, in the local time zone
+  virtual LocalMoment Now() const = 0;
+
+  YearMonthDay Today() const { return Now().day; }
 };
 
 struct Platform {
@@ -53,16 +63,11 @@ struct FrenchLocale : Locale {
   std::u16string WeekdayAbbrev(int weekday) const override;
 };
 
-// A moment of the system's clock in the local time zone; the beginning of 1970 for one beyond what can be
-// written.
-struct LocalMoment {
-  YearMonthDay day;
-  int hour, minute, second;
-};
+// Returns what the system's clock says; the beginning of 1970 for a moment beyond what can be written.
 LocalMoment LocalNow();
 
 struct LocalClock : Clock {
-  YearMonthDay Today() const override;
+  LocalMoment Now() const override { return LocalNow(); }
 };
 
 }  // namespace orbisol

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/platform.h"
 #include "files/backup.h"
 
 namespace orbisol {
@@ -43,54 +44,111 @@ LoadResult CCalendarStore::Load(std::u16string_view name, CalendarFile& calendar
   return m_files.Exists(path) ? LoadResult::kUnreadable : LoadResult::kMissing;
 }
 
+namespace {
+
+std::string BytesWithInfo(const CalendarFile& calendar, std::string_view disk) {
+  if (!calendar.info.empty() || disk.empty()) return WriteCalendar(calendar, CalendarForm::kUser);
+  CalendarFile withInfo = calendar;
+  withInfo.info = ReadCalendar(disk).info;
+  return WriteCalendar(withInfo, CalendarForm::kUser);
+}
+
+}  // namespace
+
 SavedCalendar CCalendarStore::Save(std::u16string_view name, const CalendarFile& calendar,
                                    IfChanged ifChanged) {
+  return Write(
+      name, [&](std::string_view disk) { return BytesWithInfo(calendar, disk); }, ifChanged);
+}
+
+SavedCalendar CCalendarStore::Restore(std::u16string_view name, std::string_view bytes, IfChanged ifChanged) {
+  return Write(
+      name, [&](std::string_view) { return std::string(bytes); }, ifChanged);
+}
+
+bool CCalendarStore::KeepVersion(std::u16string_view name, const CalendarFile& calendar) {
+  const std::string disk = BytesOf(name).value_or("");
+  return m_versions.Keep(name, BytesWithInfo(calendar, disk), CurrentPlatform().clock->Now());
+}
+
+SavedCalendar CCalendarStore::Write(std::u16string_view name, const BytesMaker& make, IfChanged ifChanged) {
   SavedCalendar saved{WriteResult::kFailed, std::u16string(name)};
   if (!IsCalendarName(name)) return saved;
   const auto lock = m_files.LockFolderOf(PathOf(name));
-  saved.result = Replace(name, calendar, ifChanged == IfChanged::kOverwrite);
+  saved.result = Replace(name, make, ifChanged == IfChanged::kOverwrite);
   if (!IsInPlace(saved.result) && ifChanged == IfChanged::kKeepBoth) {
-    CalendarFile copy = calendar;
-    if (copy.info.empty()) copy.info = ReadCalendar(BytesOf(name).value_or("")).info;
     saved.name = FreeName(name);
     m_stamps.erase(PathOf(saved.name));
-    saved.result = Replace(saved.name, copy, false, PathOf(name));
+    saved.result = Create(saved.name, make(BytesOf(name).value_or("")), PathOf(name));
   }
   return saved;
 }
 
-WriteResult CCalendarStore::Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites,
-                                    std::u16string_view model) {
+// Nothing is backed up or kept before it is known that the file is the expected one and may be written.
+WriteResult CCalendarStore::Replace(std::u16string_view name, const BytesMaker& make, bool overwrites) {
   const std::u16string path = PathOf(name);
   const std::optional<FileBytes> disk = m_files.Read(path);
   if (!disk && m_files.Exists(path)) return WriteResult::kFailed;  // its bytes cannot be backed up
-  const bool isOthers = disk && disk->stamp != m_stamps[path];
+  if (!disk) return Create(name, make({}), {});
+
+  const auto known = m_stamps.find(path);
+  const bool isOthers = known == m_stamps.end() || disk->stamp != known->second;
   if (isOthers && !overwrites) return WriteResult::kChanged;
-
-  if (disk && (isOthers || WouldLoseData(disk->bytes, CalendarForm::kUser)) &&
-      !BackUp(m_files, path, disk->bytes))
-    return WriteResult::kFailed;
-  std::string bytes;
-  if (disk && calendar.info.empty()) {
-    CalendarFile withInfo = calendar;
-    withInfo.info = ReadCalendar(disk->bytes).info;
-    bytes = WriteCalendar(withInfo, CalendarForm::kUser);
-  } else {
-    bytes = WriteCalendar(calendar, CalendarForm::kUser);
+  if (!m_files.MayReplace(path)) return WriteResult::kFailed;
+  const std::string bytes = make(disk->bytes);
+  if (bytes != disk->bytes) {
+    const bool needsBackup = isOthers || WouldLoseData(disk->bytes, CalendarForm::kUser);
+    if (needsBackup && !BackUp(m_files, path, disk->bytes)) return WriteResult::kFailed;
+    m_versions.Keep(name, disk->bytes, CurrentPlatform().clock->Now());
   }
-
   // Replace() compares again, because other programs do not take the lock.
-  const FileStamp expected = disk ? disk->stamp : FileStamp();
   FileStamp written;
-  const WriteResult result = m_files.Replace(path, bytes, &expected, &written, model);
+  const WriteResult result = m_files.Replace(path, bytes, &disk->stamp, &written);
   if (IsInPlace(result)) m_stamps[path] = written;
   return result;
+}
+
+// A file that was known here and is missing was deleted by somebody else: its versions are still its own.
+WriteResult CCalendarStore::Create(std::u16string_view name, std::string_view bytes,
+                                   std::u16string_view model) {
+  const std::u16string path = PathOf(name);
+  const FileStamp missing;
+  FileStamp written;
+  const WriteResult result = m_files.Replace(path, bytes, &missing, &written, model);
+  if (!IsInPlace(result)) return result;
+  if (m_stamps.count(path) == 0) m_versions.MoveToTrash(name);
+  m_stamps[path] = written;
+  return result;
+}
+
+bool CCalendarStore::AddName(std::u16string_view name, std::u16string_view newName) {
+  const std::u16string path = PathOf(name);
+  const std::u16string newPath = PathOf(newName);
+  if (path.empty() || newPath.empty() || !m_files.AddName(path, newPath)) return false;
+  m_stamps.erase(newPath);
+  if (const auto known = m_stamps.find(path); known != m_stamps.end()) m_stamps[newPath] = known->second;
+  return true;
+}
+
+bool CCalendarStore::DropName(std::u16string_view name, std::u16string_view newName) {
+  const auto lock = m_files.LockFolderOf(PathOf(name));
+  const std::optional<FileBytes> file = m_files.Read(PathOf(name));
+  const std::optional<FileBytes> renamed = m_files.Read(PathOf(newName));
+  if (!renamed || (file && file->stamp != renamed->stamp) || !m_files.Remove(PathOf(name))) return false;
+  m_stamps.erase(PathOf(name));
+  m_versions.Rename(name, newName);
+  return true;
+}
+
+bool CCalendarStore::Export(std::u16string_view path, std::string_view bytes) {
+  return IsInPlace(m_files.Replace(path, bytes, nullptr, nullptr));
 }
 
 bool CCalendarStore::Delete(std::u16string_view name) {
   const std::u16string path = PathOf(name);
   if (path.empty() || !m_files.Exists(path) || !m_files.MoveToTrash(path)) return false;
   m_stamps.erase(path);
+  m_versions.MoveToTrash(name);
   return true;
 }
 

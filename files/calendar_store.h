@@ -7,10 +7,12 @@
 //   SavedCalendar saved = store.Save(u"Famille", calendar, IfChanged::kRefuse);
 //   if (saved.result == WriteResult::kChanged) …  // ask, then save again with kOverwrite or kKeepBoth
 //
-// Nothing outside the calendars' folder is written, and nothing that a file holds is lost: what the program
-// would not write again is first backed up to "<name>.xml.bak".
+// Nothing that a file holds is lost: before other bytes take their place, its own are kept as an earlier
+// version (versions.h), and what the program would not write again is first backed up to "<name>.xml.bak".
+// The two have nothing to do with each other: a backup that fails stops the save, a version never does.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -20,6 +22,7 @@
 #include "files/calendar_file.h"
 #include "files/calendar_name.h"
 #include "files/file_system.h"
+#include "files/versions.h"
 
 namespace orbisol {
 
@@ -45,7 +48,7 @@ class CCalendarStore {
  public:
   // `files` outlives the store.
   CCalendarStore(FileSystem& files, const CalendarFolders& folders)
-      : m_files(files), m_folder(folders.calendars) {}
+      : m_files(files), m_folder(folders.calendars), m_versions(files, folders.versions) {}
 
   // Returns the user's calendars, by the alphabet.
   std::vector<std::u16string> Names() const;
@@ -73,19 +76,53 @@ class CCalendarStore {
   // somebody else wrote, or that hold more than the reader took, are first backed up. An `info` text of the
   // file replaced is kept when the calendar has none.
   //
+  // A calendar that is new here has no earlier versions: those of an older one of its name go to the trash.
+  //
   // kKeepBoth also helps where the file cannot be written, or cannot be read and is therefore not replaced:
   // without it such a calendar could be neither saved nor left for another one.
   SavedCalendar Save(std::u16string_view name, const CalendarFile& calendar, IfChanged ifChanged);
 
-  // Moves the file to the trash. Returns false when it is still there, or when there is none.
+  // Writes bytes to the file as they are, of an earlier version; else like Save().
+  SavedCalendar Restore(std::u16string_view name, std::string_view bytes, IfChanged ifChanged);
+
+  // Keeps a calendar that is not saved as an earlier version of itself. Returns true when that is safe.
+  bool KeepVersion(std::u16string_view name, const CalendarFile& calendar);
+
+  const CVersions& Versions() const { return m_versions; }
+
+  // Rename a calendar in two steps; whoever remembers its name takes the new one between them. Wherever that
+  // ends, the calendar has a file under the name that is remembered:
+  //
+  //   if (store.AddName(u"Famille", u"Maison")) {
+  //     …  // the settings say "Maison" from now on
+  //     store.DropName(u"Famille", u"Maison");
+  //   }
+  //
+  // AddName() gives the file a second name. Returns false when there is no such file, or one of the new name.
+  // DropName() removes the first name and moves the versions. Returns false when the two names no longer have
+  // the same bytes: somebody saves under the old one, and both stay.
+  bool AddName(std::u16string_view name, std::u16string_view newName);
+  bool DropName(std::u16string_view name, std::u16string_view newName);
+
+  // Writes bytes to a file outside the calendars' folder, in the place of one that may stand there. Returns
+  // false when that is as it was.
+  bool Export(std::u16string_view path, std::string_view bytes);
+
+  // Moves the file to the trash, and its versions after it. Returns false when the file is still there, or
+  // when there is none.
   bool Delete(std::u16string_view name);
 
  private:
-  WriteResult Replace(std::u16string_view name, const CalendarFile& calendar, bool overwrites,
-                      std::u16string_view model = {});
+  // Makes the bytes to write, from those of the file that they replace or stand beside.
+  using BytesMaker = std::function<std::string(std::string_view disk)>;
+
+  SavedCalendar Write(std::u16string_view name, const BytesMaker& make, IfChanged ifChanged);
+  WriteResult Replace(std::u16string_view name, const BytesMaker& make, bool overwrites);
+  WriteResult Create(std::u16string_view name, std::string_view bytes, std::u16string_view model);
 
   FileSystem& m_files;
   std::u16string m_folder;
+  CVersions m_versions;
   std::map<std::u16string, FileStamp> m_stamps;  // by path: the files as they were last loaded or saved
 };
 

@@ -29,7 +29,7 @@ struct CalendarFolders {
 struct FileStamp {
   bool exists = false;
   std::uint64_t size = 0;
-  std::uint64_t hash = 0;  // of the bytes, FNV-1a or another of 64 bits
+  std::uint64_t hash = 0;  // ByteHash of the bytes
 
   bool operator==(const FileStamp&) const = default;
 };
@@ -69,6 +69,13 @@ struct FileSystem {
   // Returns nothing when the file is missing or cannot be read whole.
   virtual std::optional<FileBytes> Read(std::u16string_view path) const = 0;
 
+  // Returns the number of bytes of a file; nothing when it is missing.
+  virtual std::optional<std::uint64_t> SizeOf(std::u16string_view path) const = 0;
+
+  // Returns whether Replace() would be allowed to put other bytes at `path`. Only a full disk and the like
+  // show later.
+  virtual bool MayReplace(std::u16string_view path) const = 0;
+
   // Keeps other copies of the program from saving in the folder of `path`, which is made if it is missing.
   // Waits for one that does; after two seconds, or where there are no locks, it goes on without one. Other
   // programs are not kept from anything.
@@ -82,7 +89,23 @@ struct FileSystem {
   virtual WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
                               FileStamp* stamp, std::u16string_view model = {}) = 0;
 
-  // Returns false when the file is still where it was.
+  // Makes a file in one step, together with its folder, for the user alone whatever else is set up for new
+  // files. A folder that others could look into is closed to them. Returns true when the bytes are on the
+  // disk.
+  virtual bool MakePrivate(std::u16string_view path, std::string_view bytes) = 0;
+
+  // Gives a file a second name in its folder; as a copy where files have one name only. Returns false when
+  // something stands there already.
+  virtual bool AddName(std::u16string_view path, std::u16string_view newPath) = 0;
+
+  // Removes a file for good. Returns true when there is none afterwards.
+  virtual bool Remove(std::u16string_view path) = 0;
+
+  // Moves a folder with all it holds to a name beside it. Returns false when it stays, as where something
+  // stands there already.
+  virtual bool MoveFolder(std::u16string_view folder, std::u16string_view newFolder) = 0;
+
+  // Moves a file, or a folder with all it holds. Returns false when it is still where it was.
   virtual bool MoveToTrash(std::u16string_view path) = 0;
 };
 

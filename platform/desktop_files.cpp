@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/file_names.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "platform/trash.h"
@@ -27,6 +28,12 @@ std::optional<FileBytes> CDesktopFiles::Read(std::u16string_view path) const {
   return ReadWholeFile(PathBytes(path));
 }
 
+std::optional<std::uint64_t> CDesktopFiles::SizeOf(std::u16string_view path) const {
+  return FileSize(PathBytes(path));
+}
+
+bool CDesktopFiles::MayReplace(std::u16string_view path) const { return MayReplaceFile(PathBytes(path)); }
+
 std::unique_ptr<FileLock> CDesktopFiles::LockFolderOf(std::u16string_view path) {
   constexpr std::chrono::seconds kPatience{2};
   return LockFolder(FolderOf(PathBytes(path)), kPatience);
@@ -35,6 +42,20 @@ std::unique_ptr<FileLock> CDesktopFiles::LockFolderOf(std::u16string_view path) 
 WriteResult CDesktopFiles::Replace(std::u16string_view path, std::string_view bytes,
                                    const FileStamp* expected, FileStamp* stamp, std::u16string_view model) {
   return ReplaceFile(PathBytes(path), bytes, expected, stamp, PathBytes(model));
+}
+
+bool CDesktopFiles::MakePrivate(std::u16string_view path, std::string_view bytes) {
+  return MakePrivateFile(PathBytes(path), bytes);
+}
+
+bool CDesktopFiles::AddName(std::u16string_view path, std::u16string_view newPath) {
+  return AddFileName(PathBytes(path), PathBytes(newPath));
+}
+
+bool CDesktopFiles::Remove(std::u16string_view path) { return RemoveFile(PathBytes(path)); }
+
+bool CDesktopFiles::MoveFolder(std::u16string_view folder, std::u16string_view newFolder) {
+  return MoveWholeFolder(PathBytes(folder), PathBytes(newFolder));
 }
 
 bool CDesktopFiles::MoveToTrash(std::u16string_view path) {

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "files/byte_hash.h"
 #include "platform/file_rights.h"
 #include "platform/path_text.h"
 
@@ -19,21 +20,16 @@ using std::chrono::milliseconds;
 
 constexpr char kTemporaryPrefix[] = ".orbisol-";
 constexpr char kTemporarySuffix[] = ".tmp";
+constexpr mode_t kPrivateFolder = 0700;
+constexpr mode_t kPrivateFile = 0600;
 constexpr std::chrono::hours kStaleAge{24};  // far longer than a save, even if the clock is changed
 constexpr int kMaxLinks = 40;                // limit of the system for links in a path
-
-// Returns the 64-bit FNV-1a hash.
-std::uint64_t Hash(std::string_view bytes) {
-  std::uint64_t hash = 0xCBF29CE484222325;
-  for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
-  return hash;
-}
 
 FileStamp StampOf(std::string_view bytes) {
   FileStamp stamp;
   stamp.exists = true;
   stamp.size = bytes.size();
-  stamp.hash = Hash(bytes);
+  stamp.hash = ByteHash(bytes);
   return stamp;
 }
 
@@ -249,13 +245,52 @@ bool SyncFolder(const std::string& folder) {
   return descriptor.IsOpen() && SyncFolder(descriptor.Get());
 }
 
+bool MayReplaceFile(const std::string& path) {
+  const std::string target = FollowLinks(path);
+  struct stat status;
+  if (target.empty()) return false;
+  if (Repeat([&] { return lstat(target.c_str(), &status); }) == 0) {
+    if (!S_ISREG(status.st_mode) || Repeat([&] { return access(target.c_str(), W_OK); }) != 0) return false;
+  } else if (errno != ENOENT) {
+    return false;
+  }
+  std::string folder = FolderOf(target);
+  const auto isMissing = [&] {
+    return Repeat([&] { return stat(folder.c_str(), &status); }) != 0 && errno == ENOENT;
+  };
+  while (isMissing() && folder != FolderOf(folder)) folder = FolderOf(folder);
+  return Repeat([&] { return access(folder.c_str(), W_OK | X_OK); }) == 0;
+}
+
+bool MakePrivateFile(const std::string& path, std::string_view bytes) {
+  const std::string folder = FolderOf(path);
+  if (!MakeFolders(folder)) return false;
+  // Some file systems have rights of their own for all files and refuse every change.
+  struct stat status;
+  if (Repeat([&] { return stat(folder.c_str(), &status); }) != 0) return false;
+  if ((status.st_mode & 07777) != kPrivateFolder)
+    Repeat([&] { return chmod(folder.c_str(), kPrivateFolder); });
+  CTemporary temporary(folder, kPrivateFile);
+  if (!temporary.IsOpen() || Repeat([&] { return fstat(temporary.Get(), &status); }) != 0) return false;
+  if ((status.st_mode & 07777) != kPrivateFile) Repeat([&] { return fchmod(temporary.Get(), kPrivateFile); });
+  if (!WriteAll(temporary.Get(), bytes) || Repeat([&] { return fsync(temporary.Get()); }) != 0) return false;
+  if (!temporary.Close() || !temporary.MoveTo(path, 0)) return false;
+  RemoveStaleTemporaries(folder);
+  return SyncFolder(folder);
+}
+
 bool MakeFolders(const std::string& folder) {
   struct stat status;
   if (Repeat([&] { return stat(folder.c_str(), &status); }) == 0) return S_ISDIR(status.st_mode);
   const std::string parent = FolderOf(folder);
   if (errno != ENOENT || parent == folder || !MakeFolders(parent)) return false;
-  // Another process may have made the folder meanwhile.
-  if (Repeat([&] { return mkdir(folder.c_str(), 0700); }) != 0 && errno != EEXIST) return false;
+  if (Repeat([&] { return mkdir(folder.c_str(), kPrivateFolder); }) == 0) {
+    // The mask for new files may keep even the user out.
+    if (Repeat([&] { return stat(folder.c_str(), &status); }) != 0 || (status.st_mode & 0700) != 0700)
+      Repeat([&] { return chmod(folder.c_str(), kPrivateFolder); });
+  } else if (errno != EEXIST) {  // another process may have made it meanwhile
+    return false;
+  }
   return SyncFolder(parent);
 }
 

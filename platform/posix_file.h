@@ -46,6 +46,15 @@ bool FileExists(const std::string& path);
 WriteResult ReplaceFile(const std::string& path, std::string_view bytes, const FileStamp* expected,
                         FileStamp* stamp, const std::string& model = {});
 
+// Returns whether ReplaceFile() would be allowed to put other bytes at `path`: the file is an ordinary one
+// that the user may write, or missing, and its folder takes new files.
+bool MayReplaceFile(const std::string& path);
+
+// Makes a file with its folder, in one step as ReplaceFile() does. The file is for the user alone (0600), its
+// folder too (0700), whatever the mask for new files is; a folder that stands there already is closed to all
+// others. Returns true when the bytes and the name are on the disk.
+bool MakePrivateFile(const std::string& path, std::string_view bytes);
+
 // Locks a folder, which is made if it is missing, against all who lock it. When another process holds the
 // lock for longer than the patience, or there are no locks, the caller goes on without one.
 std::unique_ptr<FileLock> LockFolder(const std::string& folder, std::chrono::milliseconds patience);

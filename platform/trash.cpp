@@ -6,8 +6,10 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <string_view>
+#include <system_error>
 
 #include "platform/posix_file.h"
 
@@ -71,15 +73,34 @@ std::string TakeName(const std::string& trash, const std::string& name, std::str
   return {};
 }
 
-// Moves a file to a name that is not in use. rename() cannot leave a file system: there the file is copied,
-// and removed only when the copy is on the disk.
-bool Move(const std::string& from, const std::string& to) {
+bool CopyFile(const std::string& from, const std::string& to) {
+  const std::optional<FileBytes> file = ReadWholeFile(from);
+  return file && ReplaceFile(to, file->bytes, nullptr, nullptr, from) == WriteResult::kWritten;
+}
+
+bool CopyFolder(const std::string& from, const std::string& to) {
+  std::error_code error;
+  if (!MakeFolders(to)) return false;
+  for (const auto& entry : std::filesystem::directory_iterator(from, error))
+    if (!CopyFile(entry.path().native(), to + "/" + entry.path().filename().native())) return false;
+  return !error;
+}
+
+// Moves a file or a folder to a name that is not in use. rename() cannot leave a file system: there all is
+// copied, and removed only when the copies are on the disk.
+bool Move(const std::string& from, const std::string& to, bool isFolder) {
   if (Repeat([&] { return rename(from.c_str(), to.c_str()); }) == 0) return true;
   if (errno != EXDEV) return false;
-  const std::optional<FileBytes> file = ReadWholeFile(from);
-  if (file && ReplaceFile(to, file->bytes, nullptr, nullptr, from) == WriteResult::kWritten &&
-      unlink(from.c_str()) == 0)
-    return true;
+  std::error_code error;
+  if (isFolder) {
+    if (CopyFolder(from, to)) {
+      std::filesystem::remove_all(from, error);
+      return !error;
+    }
+    std::filesystem::remove_all(to, error);
+    return false;
+  }
+  if (CopyFile(from, to) && unlink(from.c_str()) == 0) return true;
   unlink(to.c_str());
   return false;
 }
@@ -89,15 +110,14 @@ bool Move(const std::string& from, const std::string& to) {
 bool MoveToTrashFolder(const std::string& path, const std::string& trash, const LocalMoment& when) {
   struct stat status;
   const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos || Repeat([&] { return lstat(path.c_str(), &status); }) != 0 ||
-      S_ISDIR(status.st_mode))
-    return false;
+  if (slash == std::string::npos || Repeat([&] { return lstat(path.c_str(), &status); }) != 0) return false;
   if (!MakeFolders(trash + "/info") || !MakeFolders(trash + "/files")) return false;
 
   const std::string name = TakeName(trash, path.substr(slash + 1), Note(path, when));
   if (name.empty()) return false;
   // The note must be on the disk before the file is moved.
-  if (SyncFolder(trash + "/info") && Move(path, trash + "/files/" + name)) return true;
+  if (SyncFolder(trash + "/info") && Move(path, trash + "/files/" + name, S_ISDIR(status.st_mode)))
+    return true;
   unlink((trash + "/info/" + name + ".trashinfo").c_str());
   return false;
 }

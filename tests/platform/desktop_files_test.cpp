@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 
+#include "files/versions.h"
 #include "platform/desktop_store.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"
@@ -185,6 +186,61 @@ TEST_F(DesktopFilesTest, TheTrashSaysWhereAFileWas) {
   EXPECT_EQ(BytesOf(folders.trash + "/info/Été 100% 2.xml.trashinfo"),
             "[Trash Info]\nPath=" + folders.calendars +
                 "/%C3%89t%C3%A9%20100%25.xml\nDeletionDate=2024-05-01T07:08:09\n");
+}
+
+TEST_F(DesktopFilesTest, VersionsAreForTheUserAloneWhateverTheMask) {
+  const auto mode = [](const std::string& path) {
+    return static_cast<unsigned>(fs::status(path).permissions());
+  };
+  const std::u16string name = u"Été";
+  const std::string folder = folders.versions + "/Été";
+  for (const mode_t mask : {0000, 0022, 0777}) {
+    fs::remove_all(folders.versions);
+    const mode_t before = umask(mask);
+    const bool isKept = CVersions(files, PathText(folders.versions)).Keep(name, "old", LocalNow());
+    umask(before);
+    ASSERT_TRUE(isKept);
+    EXPECT_EQ(mode(folders.versions), 0700u);
+    EXPECT_EQ(mode(folder), 0700u);
+    EXPECT_EQ(mode(fs::directory_iterator(folder)->path().string()), 0600u);
+  }
+  fs::permissions(folder, fs::perms::all);
+  EXPECT_TRUE(CVersions(files, PathText(folders.versions)).Keep(name, "new", LocalNow()));
+  EXPECT_EQ(mode(folder), 0700u) << "an open folder is closed";
+}
+
+TEST_F(DesktopFilesTest, AFileThatCannotBeReplacedIsToldBeforehand) {
+  const auto may = [&](const std::string& path) { return files.MayReplace(PathText(path)); };
+  PutFile(Own("A.xml"), "");
+  fs::create_directories(Own("folder.xml"));
+  fs::create_symlink("loop.xml", Own("loop.xml"));
+  EXPECT_TRUE(may(Own("A.xml")) && may(Own("new.xml")) && may(root / "new folder/below/new.xml"));
+  for (const char* name : {"folder.xml", "loop.xml", "A.xml/below"}) EXPECT_FALSE(may(Own(name))) << name;
+  if (geteuid() == 0) return;  // who may write everywhere
+  fs::permissions(Own("A.xml"), fs::perms::owner_read);
+  EXPECT_FALSE(may(Own("A.xml")));
+}
+
+TEST_F(DesktopFilesTest, AFileHasTwoNamesWhileItIsRenamed) {
+  PutFile(Own("A.xml"), "bytes");
+  fs::create_symlink("A.xml", Own("link.xml"));
+  EXPECT_TRUE(files.AddName(PathText(Own("link.xml")), PathText(Own("other.xml"))));
+  EXPECT_TRUE(fs::is_symlink(Own("other.xml"))) << "a link stays a link";
+  EXPECT_TRUE(files.AddName(PathText(Own("A.xml")), PathText(Own("a.xml"))));
+  EXPECT_FALSE(files.AddName(PathText(Own("A.xml")), PathText(Own("link.xml")))) << "that is somebody else's";
+  EXPECT_FALSE(files.AddName(PathText(Own("none.xml")), PathText(Own("new.xml"))));
+  EXPECT_TRUE(files.Remove(PathText(Own("A.xml"))) && files.Remove(PathText(Own("A.xml"))));
+  EXPECT_EQ(BytesOf(Own("a.xml")), "bytes");
+
+  PutFile(folders.versions + "/A/1.xml", "one");
+  PutFile(folders.versions + "/B/2.xml", "two");
+  const auto folder = [&](const char* name) { return PathText(folders.versions + "/" + name); };
+  EXPECT_FALSE(files.MoveFolder(folder("A"), folder("B")) || files.MoveFolder(folder("C"), folder("D")));
+  EXPECT_TRUE(files.MoveFolder(folder("A"), folder("C")));
+  EXPECT_EQ(BytesOf(folders.versions + "/C/1.xml"), "one");
+  EXPECT_TRUE(files.MoveToTrash(folder("C")));
+  EXPECT_EQ(BytesOf(folders.trash + "/files/C/1.xml"), "one") << "a folder goes with what it holds";
+  EXPECT_FALSE(files.Exists(folder("C")));
 }
 
 TEST_F(DesktopFilesTest, TheFirstStoreThatExistsIsTheWholeKey) {

@@ -45,10 +45,11 @@ struct FakeLocale : FrenchLocale {
 
 struct FakeClock : Clock {
   YearMonthDay today = {2000, 1, 1};
+  int hour = 12, minute = 0, second = 0;
 
   FakeClock() = default;
   explicit FakeClock(YearMonthDay day) : today(day) {}
-  YearMonthDay Today() const override { return today; }
+  LocalMoment Now() const override { return {today, hour, minute, second}; }
 };
 
 // Puts a locale and a clock in force for one scope, and the former ones at its end.

@@ -127,9 +127,13 @@ ssize_t getxattr(const char* path, const char* name, void* value, size_t size) {
 ssize_t listxattr(const char* path, char* list, size_t size) {
   FORWARD(listxattr, ssize_t(const char*, char*, size_t), path, list, size);
 }
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) {
+  FORWARD(linkat, int(int, const char*, int, const char*, int), fromFolder, from, toFolder, to, flags);
+}
 int unlink(const char* path) { FORWARD(unlink, int(const char*), path); }
 int mkdir(const char* path, mode_t mode) { FORWARD(mkdir, int(const char*, mode_t), path, mode); }
 int access(const char* path, int mode) { FORWARD(access, int(const char*, int), path, mode); }
+int chmod(const char* path, mode_t mode) { FORWARD(chmod, int(const char*, mode_t), path, mode); }
 int fchmod(int descriptor, mode_t mode) { FORWARD(fchmod, int(int, mode_t), descriptor, mode); }
 int fchown(int descriptor, uid_t user, gid_t group) {
   FORWARD(fchown, int(int, uid_t, gid_t), descriptor, user, group);

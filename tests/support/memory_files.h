@@ -5,6 +5,7 @@
 //   files.failingWrites.insert(u"/user/A.xml.bak");
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <optional>
@@ -13,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "files/byte_hash.h"
 #include "files/file_system.h"
 
 namespace orbisol {
@@ -28,7 +30,7 @@ class CMemoryFiles : public FileSystem {
   std::map<std::u16string, File> files;  // files by path
   std::map<std::u16string, File> trash;
   std::set<std::u16string> unreadable;     // paths that exist and cannot be read
-  std::set<std::u16string> failingWrites;  // paths that cannot be written
+  std::set<std::u16string> failingWrites;  // paths that cannot be written; also folders
   std::function<void()> beforeLock;        // act of another copy of the program, before the lock; called once
   std::function<void()> beforeReplace;     // act of another program, at the last moment; called once
   bool trashFails = false;
@@ -37,7 +39,7 @@ class CMemoryFiles : public FileSystem {
   void Put(const std::u16string& path, std::string_view bytes) {
     File& file = files[path];
     file.bytes = bytes;
-    file.stamp = {true, bytes.size(), std::hash<std::string_view>()(bytes)};
+    file.stamp = {true, bytes.size(), ByteHash(bytes)};
   }
 
   std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const override {
@@ -50,13 +52,24 @@ class CMemoryFiles : public FileSystem {
   }
 
   bool Exists(std::u16string_view path) const override {
-    return files.count(std::u16string(path)) > 0 || unreadable.count(std::u16string(path)) > 0;
+    return files.count(std::u16string(path)) > 0 || unreadable.count(std::u16string(path)) > 0 ||
+           HoldsFiles(path);
   }
 
   std::optional<FileBytes> Read(std::u16string_view path) const override {
     const auto found = files.find(std::u16string(path));
     if (found == files.end() || unreadable.count(found->first) > 0) return std::nullopt;
     return FileBytes{found->second.bytes, found->second.stamp};
+  }
+
+  std::optional<std::uint64_t> SizeOf(std::u16string_view path) const override {
+    const auto found = files.find(std::u16string(path));
+    if (found == files.end()) return std::nullopt;
+    return found->second.bytes.size();
+  }
+
+  bool MayReplace(std::u16string_view path) const override {
+    return failingWrites.count(std::u16string(path)) == 0;
   }
 
   std::unique_ptr<FileLock> LockFolderOf(std::u16string_view /*path*/) override {
@@ -77,12 +90,55 @@ class CMemoryFiles : public FileSystem {
     return syncFails ? WriteResult::kNotSynced : WriteResult::kWritten;
   }
 
-  bool MoveToTrash(std::u16string_view path) override {
-    const auto found = files.find(std::u16string(path));
-    if (found == files.end() || trashFails) return false;
-    trash[found->first] = found->second;
-    files.erase(found);
+  bool MakePrivate(std::u16string_view path, std::string_view bytes) override {
+    if (failingWrites.count(std::u16string(path.substr(0, path.rfind(u'/')))) > 0) return false;
+    Put(std::u16string(path), bytes);
     return true;
+  }
+
+  bool AddName(std::u16string_view path, std::u16string_view newPath) override {
+    if (!MayReplace(newPath) || !SizeOf(path) || Exists(newPath)) return false;
+    files[std::u16string(newPath)] = files[std::u16string(path)];
+    return true;
+  }
+
+  bool Remove(std::u16string_view path) override {
+    files.erase(std::u16string(path));
+    return true;
+  }
+
+  bool MoveFolder(std::u16string_view folder, std::u16string_view newFolder) override {
+    if (!HoldsFiles(folder) || Exists(newFolder)) return false;
+    MoveAll(folder, newFolder, files);
+    return true;
+  }
+
+  bool MoveToTrash(std::u16string_view path) override {
+    if (!Exists(path) || trashFails) return false;
+    MoveAll(path, path, trash);
+    return true;
+  }
+
+ private:
+  bool HoldsFiles(std::u16string_view folder) const {
+    return std::any_of(files.begin(), files.end(),
+                       [&](const auto& file) { return IsBelow(file.first, folder); });
+  }
+
+  static bool IsBelow(std::u16string_view path, std::u16string_view folder) {
+    return path.size() > folder.size() && path.starts_with(folder) && path[folder.size()] == u'/';
+  }
+
+  // Moves the file of a path and those below it.
+  void MoveAll(std::u16string_view from, std::u16string_view to, std::map<std::u16string, File>& target) {
+    std::vector<std::u16string> paths;
+    for (const auto& [path, file] : files)
+      if (path == from || IsBelow(path, from)) paths.push_back(path);
+    for (const std::u16string& path : paths) {
+      const File file = files[path];
+      files.erase(path);
+      target[std::u16string(to) + path.substr(from.size())] = file;
+    }
   }
 };
 

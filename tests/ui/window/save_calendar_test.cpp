@@ -52,6 +52,7 @@ class SaveCalendarTest : public testing::Test {
   std::string OnDisk() {
     std::u16string all;
     for (const auto& [path, file] : files.files) {
+      if (!path.starts_with(u"/user/")) continue;
       const CalendarContent content = ReadCalendar(file.bytes).content;
       all += path.substr(6) + u"=" + std::u16string(content.dayEvents.at(0).name.View()) + u" ";
     }

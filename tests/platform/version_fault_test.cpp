@@ -1,0 +1,118 @@
+// Versions and renaming with a fault at each system call: a calendar never suffers for its versions.
+
+#include <filesystem>
+
+#include "files/calendar_store.h"
+#include "files/versions.h"
+#include "platform/desktop_files.h"
+#include "platform/path_text.h"
+#include "platform/posix_file.h"
+#include "tests/platform/each_fault.h"
+#include "tests/platform/test_folders.h"
+#include "tests/support/calendar_builder.h"
+
+namespace orbisol {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A version is written before the calendar, and prunes: whatever fails there, the calendar is the old one or
+// the new one, and what a save says it did it did.
+TEST(VersionFaultTest, ASaveKeepsAVersionAndNeverFailsForIt) {
+  const CTestFolder folder;
+  const Folders folders = folder.ProgramFolders();
+  const std::string path = folders.calendars + "/Calendar.xml";
+  const std::string kept = folders.versions + "/Calendar";
+  const std::string before = BytesWith(u"before");
+  const std::string after = BytesWith(u"after");
+  const auto prepare = [&] {
+    fs::remove_all(folders.versions);
+    PutFile(path, before);
+    for (int i = 0; i < 10; ++i)  // the oldest has to go
+      PutFile(kept + "/2026-05-13 14.05.09 00000" + std::to_string(i) + " 000000000000000" +
+                  std::to_string(i) + ".xml",
+              "older");
+  };
+  const auto check = [&](const Outcome& outcome) {
+    const std::string bytes = BytesOf(path);
+    EXPECT_TRUE(bytes == after || (bytes == before && !outcome.isDone));
+    std::set<std::string> versions;
+    for (const auto& entry : fs::directory_iterator(kept))
+      if (entry.path().extension() == ".xml") versions.insert(BytesOf(entry.path()));
+    versions.erase("older");
+    EXPECT_TRUE(versions.empty() || versions == std::set<std::string>{before}) << "half a version";
+    const bool isSound = !outcome.isKilled && std::string_view(outcome.failed) == "-";
+    EXPECT_TRUE(!isSound || (versions.size() == 1 && FileCount(kept) == 10));
+    const bool mayLeave = outcome.isKilled || std::string_view(outcome.failed) == "unlink";
+    EXPECT_TRUE(mayLeave || FileCount(kept) <= 11u) << "a temporary file is left";
+  };
+  CDesktopFiles files(folders.trash);
+  const Step step = [&] {
+    CCalendarStore calendars(files, CalendarFoldersOf(folders));
+    CalendarFile calendar;
+    return calendars.Load(kDefaultCalendarName, calendar) == LoadResult::kLoaded &&
+           calendars.Save(kDefaultCalendarName, CalendarWith(u"after"), IfChanged::kRefuse).result ==
+               WriteResult::kWritten;
+  };
+  ForEachFault({EIO, ENOSPC, EACCES, kShortFault, kKillFault}, 4, step, prepare, check);
+
+  prepare();
+  fs::remove_all(kept);
+  PutFile(kept, "a file in the place of the folder");
+  EXPECT_TRUE(Taken(step).isDone);
+}
+
+TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
+  const CTestFolder folder;
+  const Folders folders = folder.ProgramFolders();
+  const std::string bytes = BytesWith(u"mine");
+  const std::string remembered = folder / "name";
+  const auto prepare = [&] {
+    fs::remove_all(folders.calendars);
+    fs::remove_all(folders.versions);
+    PutFile(folders.calendars + "/A.xml", bytes);
+    PutFile(folders.versions + "/A/version", "kept");
+    PutFile(remembered, "A");
+  };
+  const auto check = [&](const Outcome& outcome) {
+    EXPECT_EQ(BytesOf(folders.calendars + "/" + BytesOf(remembered) + ".xml"), bytes);
+    EXPECT_TRUE(BytesOf(folders.versions + "/A/version") == "kept" ||
+                BytesOf(folders.versions + "/B/version") == "kept");
+    EXPECT_TRUE(!outcome.isDone || FileCount(folders.calendars) == 1u);
+  };
+  CDesktopFiles files(folders.trash);
+  const Step step = [&] {
+    CCalendarStore calendars(files, CalendarFoldersOf(folders));
+    if (!calendars.AddName(u"A", u"B")) return false;
+    return ReplaceFile(remembered, "B", nullptr, nullptr) == WriteResult::kWritten &&
+           calendars.DropName(u"A", u"B");
+  };
+  ForEachFault({EIO, EPERM, kKillFault}, 1, step, prepare, check);
+}
+
+TEST(VersionFaultTest, ProcessesThatKeepVersionsAtOnceDoNotMindEachOther) {
+  const CTestFolder folder;
+  CDesktopFiles files({});
+  const std::u16string root = PathText(folder / "versions");
+  const auto keep = [&](char letter) {
+    CVersions versions(files, root);
+    bool done = true;
+    for (int i = 0; i < 60; ++i)
+      done = versions.Keep(u"A", letter + std::to_string(i), {{2026, 5, 1 + i / 3}, 0, 0, 0}) && done;
+    return done;
+  };
+  for (const char letter : {'A', 'B', 'C'}) {
+    if (fork() == 0) _exit(Taken([&] { return keep(letter); }).isDone ? 0 : 1);
+  }
+  for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
+  CVersions versions(files, root);
+  versions.Keep(u"A", "last", {{2026, 5, 21}, 0, 0, 0});
+  EXPECT_GE(versions.List(u"A").size(), kNewestVersions);
+  EXPECT_LE(versions.List(u"A").size(), kNewestVersions + kVersionDays);
+  for (const CalendarVersion& version : versions.List(u"A")) {
+    EXPECT_TRUE(versions.Read(u"A", version).has_value());
+  }
+}
+
+}  // namespace
+}  // namespace orbisol
