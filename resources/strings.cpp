@@ -172,7 +172,7 @@ constexpr Entry kStrings[] = {
      u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
      u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"
      u"Garder les deux : le vôtre est enregistré sous le nom « %s ».\n"
-     u"Recharger : vos modifications sont abandonnées, celles du fichier sont affichées.\n"
+     u"Recharger : celles du fichier sont affichées ; les vôtres restent dans les versions précédentes.\n"
      u"Remplacer : le vôtre remplace l'autre, dont une copie reste à côté (.bak)."},
     {kTextCalendarChangedButtons, u"Garder les deux|Recharger|Remplacer"},
     {kTextCalendarNotWritten,
@@ -185,6 +185,10 @@ constexpr Entry kStrings[] = {
     {kTextCalendarNotSynced,
      u"Le calendrier « %s » est enregistré, mais le disque ne l'a pas confirmé.\n\n"
      u"Le fichier %s contient vos modifications ; une coupure de courant pourrait encore les faire perdre."},
+    {kTextChangesNotKept,
+     u"Vos modifications n'ont pas pu être conservées parmi les versions précédentes.\n\n"
+     u"Si vous rechargez le calendrier « %s », elles sont perdues."},
+    {kTextChangesNotKeptButtons, u"Garder les deux|Recharger quand même"},
     {kTextRuleDays,
      u"le %s|le %s, ou le lundi suivant s'il tombe un week-end|le %s, ou le lendemain s'il tombe un "
      u"dimanche"},

@@ -100,6 +100,8 @@ enum TextId : int {
   kTextCalendarNotMade = 5303,            // there is no file: name, path
   kTextCalendarNotWrittenButtons = 5304,  // save under the free name, try again
   kTextCalendarNotSynced = 5305,          // name, path
+  kTextChangesNotKept = 5306,             // before a reload
+  kTextChangesNotKeptButtons = 5307,      // keep both, reload all the same
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

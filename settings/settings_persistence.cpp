@@ -62,6 +62,17 @@ void SetName(DisplaySettings& display, const CCalendarStore& calendars, std::u16
   display.calendarPath = calendars.PathOf(name);
 }
 
+// Switches the name, clears `changed` and writes the key, as the save of the calendar's file ended.
+SaveOutcome FinishSave(SettingsStore& store, const CCalendarStore& calendars, DisplaySettings& display,
+                       const SavedCalendar& saved, std::optional<std::u16string_view> newName) {
+  SaveOutcome outcome{saved.result, saved.name, false};
+  if (outcome.calendar == WriteResult::kChanged) return outcome;
+  if (IsInPlace(outcome.calendar)) SetName(display, calendars, newName ? *newName : saved.name);
+  if (outcome.calendar == WriteResult::kWritten) display.changed = false;
+  outcome.key = store.Write(KeyChanges(display));
+  return outcome;
+}
+
 }  // namespace
 
 StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
@@ -97,20 +108,24 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
 SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
                          const CalendarRules& rules, const CalendarContent& content, IfChanged ifChanged,
                          std::optional<std::u16string_view> newName) {
-  SaveOutcome outcome;
-  if (newName && !IsCalendarName(*newName)) return outcome;
+  if (newName && !IsCalendarName(*newName)) return {};
 
   // An empty name, of the key or of a record that was never filled, stands for the default name.
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
   const SavedCalendar saved = calendars.Save(name, {display.Look(), rules, content, u""}, ifChanged);
-  outcome.calendar = saved.result;
-  outcome.name = saved.name;
-  if (outcome.calendar == WriteResult::kChanged) return outcome;
+  return FinishSave(store, calendars, display, saved, newName);
+}
 
-  if (IsInPlace(outcome.calendar)) SetName(display, calendars, newName ? *newName : saved.name);
-  if (outcome.calendar == WriteResult::kWritten) display.changed = false;
-  outcome.key = store.Write(KeyChanges(display));
-  return outcome;
+SaveOutcome RestoreSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
+                            std::string_view version, IfChanged ifChanged) {
+  const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  return FinishSave(store, calendars, display, calendars.Restore(name, version, ifChanged), {});
+}
+
+bool SwitchCalendar(SettingsStore& store, const CCalendarStore& calendars, DisplaySettings& display,
+                    std::u16string_view name) {
+  SetName(display, calendars, name);
+  return store.Write(KeyChanges(display));
 }
 
 bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,

@@ -60,6 +60,16 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
                          IfChanged ifChanged = IfChanged::kRefuse,
                          std::optional<std::u16string_view> newName = {});
 
+// Writes an earlier version of the calendar to its file, likewise. What is in force is left alone: the caller
+// puts the calendar that the version holds in its place.
+SaveOutcome RestoreSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
+                            std::string_view version, IfChanged ifChanged = IfChanged::kRefuse);
+
+// Sets name and path of a calendar and writes the key; no calendar's file is read or written. Returns whether
+// the key was stored. `name` is a valid name.
+bool SwitchCalendar(SettingsStore& store, const CCalendarStore& calendars, DisplaySettings& display,
+                    std::u16string_view name);
+
 // Store what a closing window leaves behind (ClosingLayout), and set `layout` to it. Return false when
 // nothing was stored; a minimized window stores nothing.
 bool SaveMainWindowLayout(SettingsStore& store, WindowLayout& layout, const ClosingFrame& frame,

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 #include "resources/strings.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
@@ -43,9 +45,50 @@ Answer AskAboutFailure(QWidget* parent, const SaveNames& names, bool exists) {
              {Answer::kKeepBoth, Answer::kAgain});
 }
 
+// Keeps what is in force as an earlier version before it is given up. Where that fails the user decides.
+Answer KeepBeforeReload(QWidget* parent, CCalendarStore& calendars, const SaveNames& names,
+                        const CalendarFile& inForce) {
+  if (calendars.KeepVersion(names.name, inForce)) return Answer::kReload;
+  return Ask(parent, TableText(kTextChangesNotKept, {names.name}), kTextChangesNotKeptButtons, names,
+             {Answer::kKeepBoth, Answer::kReload});
+}
+
 IfChanged ChoiceOf(Answer answer) {
   if (answer == Answer::kKeepBoth) return IfChanged::kKeepBoth;
   return answer == Answer::kReplace ? IfChanged::kOverwrite : IfChanged::kRefuse;
+}
+
+// Each turn ends with a saved file, with the user's decision not to save, or with another try.
+SavedFromWindow SaveOrAsk(QWidget* parent, CCalendarStore& calendars, const std::u16string& name,
+                          const CalendarFile& inForce, const std::function<SaveOutcome(IfChanged)>& save) {
+  SavedFromWindow saved;
+  for (IfChanged ifChanged = IfChanged::kRefuse;;) {
+    const SaveOutcome outcome = save(ifChanged);
+    saved.keyStored = outcome.key;
+    if (IsInPlace(outcome.calendar)) {
+      saved.end = SaveEnd::kSaved;
+      if (outcome.calendar == WriteResult::kNotSynced)
+        Messages().ShowError(
+            parent, TableText(kTextCalendarNotSynced, {outcome.name, calendars.PathOf(outcome.name)}));
+      return saved;
+    }
+
+    const SaveNames names{name, calendars.PathOf(name), calendars.FreeName(name)};
+    Answer answer = outcome.calendar == WriteResult::kChanged
+                        ? AskAboutChange(parent, names)
+                        : AskAboutFailure(parent, names, calendars.Exists(name));
+    if (answer == Answer::kReload) answer = KeepBeforeReload(parent, calendars, names, inForce);
+    if (answer == Answer::kNone) return saved;
+    if (answer == Answer::kReload) {
+      CalendarFile file;
+      if (calendars.Load(name, file) == LoadResult::kLoaded) {
+        saved.end = SaveEnd::kReloaded;
+        saved.reloaded = std::move(file);
+        return saved;
+      }
+    }
+    ifChanged = ChoiceOf(answer);
+  }
 }
 
 }  // namespace
@@ -54,35 +97,18 @@ SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places
                                        const CalendarRules& rules, const CalendarContent& content,
                                        std::optional<std::u16string_view> newName) {
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
-  SavedFromWindow saved;
-  // Each turn ends with a saved file, with the user's decision not to save, or with another try.
-  for (IfChanged ifChanged = IfChanged::kRefuse;;) {
-    const SaveOutcome outcome =
-        SaveSettings(places.store, places.calendars, display, rules, content, ifChanged, newName);
-    saved.keyStored = outcome.key;
-    if (IsInPlace(outcome.calendar)) {
-      saved.end = SaveEnd::kSaved;
-      if (outcome.calendar == WriteResult::kNotSynced)
-        Messages().ShowError(
-            parent, TableText(kTextCalendarNotSynced, {outcome.name, places.calendars.PathOf(outcome.name)}));
-      return saved;
-    }
+  return SaveOrAsk(
+      parent, places.calendars, name, {display.Look(), rules, content, {}}, [&](IfChanged ifChanged) {
+        return SaveSettings(places.store, places.calendars, display, rules, content, ifChanged, newName);
+      });
+}
 
-    const SaveNames names{name, places.calendars.PathOf(name), places.calendars.FreeName(name)};
-    const Answer answer = outcome.calendar == WriteResult::kChanged
-                              ? AskAboutChange(parent, names)
-                              : AskAboutFailure(parent, names, places.calendars.Exists(name));
-    if (answer == Answer::kNone) return saved;
-    if (answer == Answer::kReload) {
-      CalendarFile file;
-      if (places.calendars.Load(name, file) == LoadResult::kLoaded) {
-        saved.end = SaveEnd::kReloaded;
-        saved.reloaded = std::move(file);
-        return saved;
-      }
-    }
-    ifChanged = ChoiceOf(answer);
-  }
+SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
+                                          const CalendarFile& inForce, std::string_view version) {
+  const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  return SaveOrAsk(parent, places.calendars, name, inForce, [&](IfChanged ifChanged) {
+    return RestoreSettings(places.store, places.calendars, display, version, ifChanged);
+  });
 }
 
 }  // namespace orbisol

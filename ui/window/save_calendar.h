@@ -9,7 +9,8 @@
 // Each message says what the file holds now:
 //
 // - Somebody else changed the file: the user keeps both (the own calendar goes to a free name, the default),
-//   reloads (the own changes are given up) or replaces (the other one is backed up to "<name>.xml.bak").
+//   reloads (the own changes are kept as an earlier version) or replaces (the other one is backed up to
+//   "<name>.xml.bak").
 // - The file cannot be written or read, and is as it was: the user saves under a free name (the default), or
 //   tries again.
 // - The new bytes are in place, but the disk did not confirm them: that is said.
@@ -52,5 +53,10 @@ struct SavedFromWindow {
 SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
                                        const CalendarRules& rules, const CalendarContent& content,
                                        std::optional<std::u16string_view> newName = {});
+
+// Saves an earlier version in the place of the calendar in use, with the same questions. The caller puts it
+// in force after kSaved. `inForce` is what a reload would give up.
+SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
+                                          const CalendarFile& inForce, std::string_view version);
 
 }  // namespace orbisol

@@ -111,6 +111,23 @@ TEST_F(SaveCalendarTest, WhereSomebodyElseChangedTheFileTheUserDecides) {
   }
 }
 
+TEST_F(SaveCalendarTest, WhatAReloadGivesUpIsKeptAsAVersion) {
+  Put(u"Calendar", u"theirs");
+  messages.answers = {1};
+  ASSERT_EQ(Save().end, SaveEnd::kReloaded);
+  const std::vector<CalendarVersion> kept = calendars.Versions().List(u"Calendar");
+  ASSERT_EQ(kept.size(), 1u);
+  EXPECT_EQ(ReadCalendar(*calendars.Versions().Read(u"Calendar", kept[0])).content,
+            CalendarWith(u"mine").content);
+
+  Put(u"Calendar", u"newer");
+  files.failingWrites = {u"/versions/Calendar"};
+  messages.answers = {1, 0};
+  EXPECT_EQ(Save().end, SaveEnd::kSaved);
+  EXPECT_EQ(messages.buttons, QStringList({u"Garder les deux"_s, u"Recharger quand même"_s}));
+  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newer ");
+}
+
 TEST_F(SaveCalendarTest, WhereTheFileCannotBeWrittenTheUserSavesUnderAnotherName) {
   files.failingWrites = {u"/user/Calendar.xml"};
   EXPECT_EQ(Save().end, SaveEnd::kUnsaved);
