@@ -189,6 +189,15 @@ constexpr Entry kStrings[] = {
      u"Vos modifications n'ont pas pu être conservées parmi les versions précédentes.\n\n"
      u"Si vous rechargez le calendrier « %s », elles sont perdues."},
     {kTextChangesNotKeptButtons, u"Garder les deux|Recharger quand même"},
+    {kTextImportHolidays,
+     u"Choisissez un calendrier pour voir sa description et ses jours.|"
+     u"Ce calendrier ne peut pas être lu.|Ce calendrier n'a pas de description.|Jours de %1 :|"
+     u"Aucun calendrier public n'est installé.|Aucun calendrier ne porte ce nom."},
+    {kTextManyPersonalEvents,
+     u"Le calendrier « %s » contient %d événements personnels.\n\n"
+     u"Ils seront ajoutés aux vôtres ; « Annuler » dans la fenêtre des événements les retire d'un seul "
+     u"coup."},
+    {kTextManyPersonalEventsButton, u"Importer"},
     {kTextRuleDays,
      u"le %s|le %s, ou le lundi suivant s'il tombe un week-end|le %s, ou le lendemain s'il tombe un "
      u"dimanche"},

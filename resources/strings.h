@@ -102,6 +102,9 @@ enum TextId : int {
   kTextCalendarNotSynced = 5305,          // name, path
   kTextChangesNotKept = 5306,             // before a reload
   kTextChangesNotKeptButtons = 5307,      // keep both, reload all the same
+  kTextImportHolidays = 5310,             // of the import: by ImportText
+  kTextManyPersonalEvents = 5311,         // question: name of the calendar, number of events
+  kTextManyPersonalEventsButton = 5312,
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

@@ -12,7 +12,10 @@ namespace orbisol {
 
 enum HelpTopic : int {
   kHelpMainWindow = 1,
-  kHelpPrinting = 100,  // has no page yet
+  kHelpCalendars = 5,
+  kHelpVersions = 6,
+  kHelpImportHolidays = 7,
+  kHelpPrinting = 100,
 };
 
 struct HelpPage {

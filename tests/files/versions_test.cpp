@@ -54,7 +54,11 @@ TEST_F(VersionsTest, EachCalendarHasAFolderOfItsOwn) {
 }
 
 TEST_F(VersionsTest, AtMostFiftyMillionBytesOfACalendarAreKept) {
-  const auto big = [](char letter) { return std::string(20'000'000, letter); };
+  const auto big = [](char letter) {
+    std::string bytes;
+    bytes.resize(kMostVersionBytes * 2 / 5, letter);
+    return bytes;
+  };
   for (const char letter : {'a', 'b', 'c'}) versions.Keep(u"A", big(letter), {});
   EXPECT_EQ(Kept(u"A"), (std::vector<std::string>{big('c'), big('b')}));
   EXPECT_FALSE(versions.Keep(u"A", std::string(kMostVersionBytes + 1, 'd'), {}));

@@ -1,0 +1,172 @@
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/calendar_builder.h"
+#include "tests/support/fakes.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/rules.h"
+#include "ui/editors/import_holidays_dlg.h"
+#include "ui/toolkit/messages.h"
+
+namespace orbisol {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct SpyMessages : UserMessages {
+  QStringList questions;
+  int answer = -1;
+  int beeps = 0;
+
+  void ShowError(QWidget*, const QString&) override {}
+  int Choose(QWidget*, const QString& text, const QStringList&) override {
+    questions.append(text);
+    return answer;
+  }
+  void Beep() override { ++beeps; }
+};
+
+DayEvent Rule(int month, int day, std::u16string_view name, bool isPublic = true) {
+  DayEvent rule = CalendarWith(name).content.dayEvents[0];
+  rule.month = month;
+  rule.day = day;
+  rule.isPublic = isPublic;
+  return rule;
+}
+
+class ImportHolidaysTest : public testing::Test {
+ protected:
+  ImportHolidaysTest()
+      : m_platform(FakeLocale(), FakeClock({2026, 5, 13})),
+        m_rules(RulesWith(kRomanReform)),
+        m_scope(messages) {
+    Put(u"/share/Legals/France.xml", {Rule(7, 14, u"Fête nationale"), Rule(1, 1, u"Jour de l'an")},
+        u"expédié");
+    Put(u"/user/Legals/France.xml", {Rule(7, 14, u"<b>Fête</b>"), Rule(1, 1, u"Jour de l'an")},
+        u"<i>le mien</i>");
+    Put(u"/share/Legals/États-Unis.xml", {Rule(7, 4, u"Independence Day")}, u"");
+    Put(u"/share/Legals/Zambie.xml", {Rule(10, 24, u"Independence Day")}, u"");
+    mine.dayEvents = {Rule(7, 14, u"Ancienne fête"), Rule(3, 3, u"Anniversaire", false),
+                      Rule(1, 1, u"Jour de l'an")};
+    mine.vacations.push_back({20260704, 20260831, NameText(u"Été")});
+  }
+
+  void Put(const std::u16string& path, std::vector<DayEvent> rules, std::u16string_view info) {
+    CalendarFile file;
+    file.content.dayEvents = std::move(rules);
+    file.info = info;
+    files.Put(path, WriteCalendar(file, CalendarForm::kPublic));
+  }
+
+  // Opens the dialog and leaves the rest to `act`.
+  bool Import(const std::function<void(CEvtImportDlg&)>& act) {
+    QTimer::singleShot(0, [&] {
+      auto* const dialog = qobject_cast<CEvtImportDlg*>(QApplication::activeModalWidget());
+      act(*dialog);
+      if (dialog->isVisible()) dialog->reject();
+    });
+    return ImportHolidaysInto(nullptr, {files, kMemoryFolders}, mine);
+  }
+  static QString Shown(const CEvtImportDlg& dialog) {
+    QString days;
+    const auto* const tree = dialog.findChild<QTreeWidget*>();
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+      days += tree->topLevelItem(i)->text(0) + u" : "_s + tree->topLevelItem(i)->text(1) + u"\n"_s;
+    return dialog.findChild<QPlainTextEdit*>()->toPlainText() + u"\n"_s + days;
+  }
+  std::string Names() {
+    std::u16string all;
+    for (const DayEvent& rule : mine.dayEvents) all.append(rule.name.View()).append(u"; ");
+    return ToUtf8(all);
+  }
+
+  CMemoryFiles files;
+  SpyMessages messages;
+  CalendarContent mine;
+
+ private:
+  ScopedPlatform m_platform;
+  ScopedRules m_rules;
+  ScopedMessages m_scope;
+};
+
+TEST_F(ImportHolidaysTest, AFewLettersFindACalendarAndShowItsDaysOfThisYear) {
+  EXPECT_FALSE(Import([&](CEvtImportDlg& dialog) {
+    const auto* const list = dialog.findChild<QListWidget*>();
+    ASSERT_EQ(list->count(), 3);
+    EXPECT_EQ(list->item(0)->text(), u"États-Unis"_s);
+    EXPECT_TRUE(Shown(dialog).startsWith(u"Choisissez un calendrier"_s));
+    auto* const search = dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(dialog.focusWidget(), search);
+    QTest::keyClicks(search, u"fRÀ"_s);
+    EXPECT_TRUE(list->item(0)->isHidden() && !list->item(1)->isHidden());
+    EXPECT_EQ(Shown(dialog),
+              u"<i>le mien</i>\njeudi 1er janvier : Jour de l'an\nmardi 14 juillet : <b>Fête</b>\n"_s);
+    search->setText(u"xyz"_s);
+    EXPECT_EQ(Shown(dialog), u"Aucun calendrier ne porte ce nom.\n"_s);
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(messages.beeps, 1) << "there is nothing to import";
+    QTest::keyClick(search, Qt::Key_Escape);
+  }));
+  EXPECT_EQ(Names(), "Ancienne fête; Anniversaire; Jour de l'an; ");
+}
+
+TEST_F(ImportHolidaysTest, PublicRulesAreReplacedOrAddedAndTheUsersOwnStay) {
+  const auto choose = [](bool replaces) {
+    return [=](CEvtImportDlg& dialog) {
+      auto* const box = dialog.findChild<QCheckBox*>();
+      EXPECT_TRUE(box->isChecked());
+      box->setChecked(replaces);
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"france"_s);
+      QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    };
+  };
+  EXPECT_TRUE(Import(choose(false)));
+  EXPECT_EQ(Names(), "Ancienne fête; Anniversaire; Jour de l'an; <b>Fête</b>; ") << "nothing is doubled";
+  EXPECT_FALSE(Import(choose(false))) << "nothing changes any more";
+  EXPECT_TRUE(Import(choose(true)));
+  EXPECT_EQ(Names(), "Anniversaire; <b>Fête</b>; Jour de l'an; ");
+  EXPECT_EQ(mine.vacations.size(), 1u);
+}
+
+TEST_F(ImportHolidaysTest, ManyPersonalEventsAreAskedForFirst) {
+  for (const int count : {100, 101}) {
+    std::vector<DayEvent> rules;
+    for (int i = 0; i < count; ++i)
+      rules.push_back(Rule(1 + i % 12, 1 + i / 12, u"n° " + DecimalText(i), false));
+    Put(u"/user/Legals/Beaucoup.xml", rules, u"");
+    const auto choose = [](CEvtImportDlg& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"beau"_s);
+      QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    };
+    mine = {};
+    EXPECT_EQ(Import(choose), count == 100);
+    EXPECT_EQ(messages.questions.size(), count - 100);
+    messages.answer = 0;
+    EXPECT_EQ(Import(choose), count == 101);
+    EXPECT_EQ(mine.dayEvents.size(), static_cast<std::size_t>(count));
+    messages.answer = -1;
+    messages.questions.clear();
+  }
+}
+
+TEST_F(ImportHolidaysTest, ACalendarThatCannotBeReadIsSaidSo) {
+  files.unreadable = {u"/share/Legals/Zambie.xml"};
+  EXPECT_FALSE(Import([&](CEvtImportDlg& dialog) {
+    dialog.findChild<QListWidget*>()->setCurrentRow(2);
+    EXPECT_EQ(Shown(dialog), u"Ce calendrier ne peut pas être lu.\n"_s);
+    dialog.accept();
+    EXPECT_EQ(messages.beeps, 1);
+  }));
+}
+
+}  // namespace
+}  // namespace orbisol
