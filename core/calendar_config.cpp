@@ -15,6 +15,7 @@ void CalendarConfig::ApplyGregorianStart(PackedDate start) {
 
   const YearMonthDay first = Unpack(start);
   startGregorian = start;
+  lastJulianKey = KeyBefore(first.year, first.month, first.day);
   firstGregorianDayNumber = DayNumberUnder(first.year, first.month, first.day, start, proleptic);
 
   julianEquivalentOfStart = JulianDateOfDayNumber(firstGregorianDayNumber);

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "core/date_range.h"
+#include "core/everyday_date.h"
 #include "core/packed_date.h"
 
 namespace orbisol {
@@ -33,11 +34,12 @@ struct CalendarConfig {
   PackedDate startGregorian = kRomanReform;  // first day of the Gregorian calendar, a Gregorian date
 
   // Derived from startGregorian; written by ApplyGregorianStart alone.
-  PackedDate julianEquivalentOfStart = 15821005;  // the same day in the Julian calendar
-  int droppedDays = 10;                           // see ApplyGregorianStart
-  int firstGregorianDayNumber = 2299161;          // day number of startGregorian
-  int reformYearLastDayNumber = 2299238;          // day number of 31 December of the reform year
-  int reformYearLastWeekday = 5;                  // 0 Sunday .. 6, weekday of that 31 December
+  PackedDate julianEquivalentOfStart = 15821005;     // the same day in the Julian calendar
+  int droppedDays = 10;                              // see ApplyGregorianStart
+  int firstGregorianDayNumber = 2299161;             // day number of startGregorian
+  int reformYearLastDayNumber = 2299238;             // day number of 31 December of the reform year
+  int reformYearLastWeekday = 5;                     // 0 Sunday .. 6, weekday of that 31 December
+  unsigned lastJulianKey = KeyBefore(1582, 10, 15);  // everyday dates with a greater key are Gregorian
 
   // True: every fourth Julian year is a leap year, back to any date. False: one in three from -44 to -8,
   // then none until 8, as the first priests counted.

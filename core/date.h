@@ -30,6 +30,7 @@
 
 #include "core/calendar_config.h"
 #include "core/date_range.h"
+#include "core/everyday_date.h"
 #include "core/packed_date.h"
 #include "core/platform.h"
 
@@ -37,13 +38,10 @@ namespace orbisol {
 
 constexpr int kDayNumber1999Dec31 = 2451544;  // Gregorian, whatever reform is in force
 
-// Lengths of years and of their cycles, in days.
 constexpr int kDaysInWeek = 7;
-constexpr int kDaysInYear = 365;
-constexpr int kDaysIn3Years = 3 * kDaysInYear + 1;  // with one leap year, as the early Julian calendar had
-constexpr int kDaysIn4Years = 4 * kDaysInYear + 1;
-constexpr int kDaysIn100Years = 25 * kDaysIn4Years - 1;   // a Gregorian century without a leap day at its end
-constexpr int kDaysIn400Years = 4 * kDaysIn100Years + 1;  // 400 Gregorian years
+
+// Returns the day number of a date under another reform than the one in force.
+int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic);
 
 struct Date {
   int year;
@@ -98,9 +96,26 @@ struct Date {
   }
 };
 
+inline int Date::DayNumber() const {
+  const CalendarRules& rules = Rules();
+  const EverydayDate date = {static_cast<unsigned>(year), static_cast<unsigned>(month),
+                             static_cast<unsigned>(day)};
+  const unsigned key = date.Key();
+  if (!date.IsEveryday() || EverydayDate::MayBeEarly(key)) [[unlikely]]
+    return DayNumberUnder(year, month, day, rules.startGregorian, rules.proleptic);
+  return date.DayNumber(key > rules.lastJulianKey);
+}
+
 inline std::int64_t DayOrder(const Date& date) { return DayOrder(date.year, date.month, date.day); }
 
-Date DateOfDayNumber(int dayNumber);
+Date DateOfRareDay(int dayNumber);  // the same for a day that is not an everyday one
+
+inline Date DateOfDayNumber(int dayNumber) {
+  if (!IsEverydayNumber(dayNumber) || MayBeEarlyNumber(dayNumber)) [[unlikely]]
+    return DateOfRareDay(dayNumber);
+  const EverydayDate date = EverydayDateOf(dayNumber, dayNumber >= Rules().firstGregorianDayNumber);
+  return Date(static_cast<int>(date.year), static_cast<int>(date.month), static_cast<int>(date.day));
+}
 
 // Returns 0 Sunday .. 6, for any day number, those below 0 included.
 constexpr int WeekdayOfDayNumber(int dayNumber) {
@@ -108,9 +123,6 @@ constexpr int WeekdayOfDayNumber(int dayNumber) {
   return remainder < 0 ? remainder + 7 : remainder;
 }
 static_assert(WeekdayOfDayNumber(0) == 1 && WeekdayOfDayNumber(-1) == 0 && WeekdayOfDayNumber(-2) == 6);
-
-// Returns the day number of a date under another reform than the one in force.
-int DayNumberUnder(int year, int month, int day, PackedDate startGregorian, bool proleptic);
 
 // Returns the date of a day in the Julian calendar without its early leap-year errors.
 PackedDate JulianDateOfDayNumber(int dayNumber);

@@ -63,5 +63,28 @@ TEST(AnyInputTest, EveryFunctionTakesAnyNumbersUnderAnyRules) {
   for (const double t : {1e15, -1e100, 1.7e308, 5e-324}) ASSERT_LE(MoonElongation(t), 359) << t;
 }
 
+// Around the first and the last everyday year, a reform and the early leap years, months and days that no
+// calendar has included.
+TEST(AnyInputTest, TheEverydayWayAgreesWithTheGeneralOne) {
+  std::mt19937 random(2);
+  const auto between = [&random](int low, int high) {
+    return std::uniform_int_distribution(low, high)(random);
+  };
+  for (const int reformYear : {-50, 3, 1582, -4800, 95200}) {
+    for (int i = 0; i < 20'000; ++i) {
+      const int around[] = {-4800, 95200, -43, 4, reformYear};
+      CalendarRules rules;
+      rules.proleptic = i % 2 == 0;
+      rules.ApplyGregorianStart(Pack(reformYear, between(0, 17), between(0, 35)));
+      const ScopedRules inForce(rules);
+      const Date date(around[random() % 5] + between(-1, 1), between(-1, 17), between(-1, 33));
+      const int expected =
+          DayNumberUnder(date.year, date.month, date.day, rules.startGregorian, rules.proleptic);
+      ASSERT_EQ(date.DayNumber(), expected)
+          << date.year << ' ' << date.month << ' ' << date.day << " under " << rules.startGregorian;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace orbisol
