@@ -86,9 +86,9 @@ constexpr bool MayBeEarlyNumber(int dayNumber) {
   return static_cast<unsigned>(dayNumber) - kTriennialStart < kOrdinaryStart - kTriennialStart;
 }
 
-// Month and day of a day of a March year, with January and February as months 13 and 14. Months have 153 days
-// in five, 30.6 on average: 2141 / 65536 of a month a day, and what is left over counts the days. Neri and
-// Schneider as above.
+// Month and day in a year that begins on 1 March, with January and February as months 13 and 14. Five months
+// have 153 days, 30.6 on average, so that a day is 2141 / 65536 of a month; the remainder counts the days of
+// the month. Neri and Schneider as above.
 struct MarchDate {
   unsigned month;  // [3, 14]
   unsigned day;    // [1, 31]
