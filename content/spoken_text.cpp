@@ -42,6 +42,16 @@ std::u16string RangeText(const Date& from, const Date& to) {
   return FormatText(Piece(forms, u'|', 1), {WithYear(from), WithYear(to), days});
 }
 
+std::u16string DayCountText(const Date& date) {
+  const int day = DayOfCivilYear(date);
+  const int left = DaysLeftInCivilYear(date);
+  const std::u16string_view forms = StringText(kTextCountsInWords);
+  if (day < 1 || left < 0) return {};
+  if (left == 0) return FormatText(Piece(forms, u'|', 2), {day});
+  if (day == 1) return FormatText(Piece(forms, u'|', 1), {left});
+  return FormatText(Piece(forms, u'|', 0), {day, left});
+}
+
 std::u16string SpokenDay(const DayCell& cell, PackedDate today) {
   if (cell.day == 0) return {};
   std::u16string text = LongDate(Date(cell.ymd), false);

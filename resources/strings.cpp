@@ -105,6 +105,9 @@ constexpr Entry kStrings[] = {
     {kTextSilentInstance,
      u"Orbisol est déjà ouvert, mais ne répond pas.\nVoulez-vous l'ouvrir une seconde fois ?"},
     {kTextOpenAnyway, u"Ouvrir"},
+    {kTextCountsInWords,
+     u"%de jour de l'année, il en reste %d|1er jour de l'année, il en reste %d|Dernier jour de l'année, le "
+     u"%de"},
     {kTextToolkitSource,
      u"Double Sided Printing|Off|Long side binding|Short side binding|Pages|"
      u"Specify pages or ranges separated by commas. Ranges are specified by two numbers separated by a "

@@ -69,6 +69,7 @@ enum TextId : int {
   kTextToolBarName = 5125,
   kTextSilentInstance = 5126,  // at a start, when the first program does not answer
   kTextOpenAnyway = 5127,      // the button of that question
+  kTextCountsInWords = 5128,   // of a day: its number in the civil year and what is left; number 1; one left
   kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
   kTextDayOfMonth = 5140,        // by day and month, by month for its first day

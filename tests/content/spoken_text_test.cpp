@@ -37,5 +37,12 @@ TEST(SpokenTextTest, ARangeSaysItsEndsAndItsLength) {
   EXPECT_EQ(ToUtf8(RangeText(Date(20240513), Date(20240513))), "le 13 mai 2024, 1 jour");
 }
 
+TEST(SpokenTextTest, ADaySaysItsPlaceInTheYear) {
+  const ScopedRules rules(RulesWith(kRomanReform));
+  EXPECT_EQ(ToUtf8(DayCountText(Date(20261121))), "325e jour de l'année, il en reste 40");
+  EXPECT_EQ(ToUtf8(DayCountText(Date(20260101))), "1er jour de l'année, il en reste 364");
+  EXPECT_EQ(ToUtf8(DayCountText(Date(20241231))), "Dernier jour de l'année, le 366e");
+}
+
 }  // namespace
 }  // namespace orbisol

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "content/selected_date.h"
+#include "content/spoken_text.h"
 #include "core/civil_year.h"
 #include "core/date_text.h"
 #include "core/week_number.h"
@@ -182,7 +183,7 @@ void CHeaderWnd::UpdateNames() {
                                                            month, CivilYearOf(there)}));
   };
   const std::u16string month = UpperFirst(MonthName(Selected().month));
-  setAccessibleDescription(LeftText() + QLatin1Char('\n') + RightText());
+  setAccessibleDescription(LeftText() + QLatin1Char('\n') + CountsTip());
   m_previousPart->setAccessibleName(leadsTo(kNamePrevious, -1));
   m_nextPart->setAccessibleName(leadsTo(kNameNext, 1));
   m_monthPart->setAccessibleName(
@@ -190,7 +191,7 @@ void CHeaderWnd::UpdateNames() {
   m_yearPart->setAccessibleName(
       ToQString(FormatText(Piece(StringText(kTextHeaderNames), u'|', kNameYear), {CivilYearOf(Selected())})));
   m_monthPart->setAccessibleDescription(TablePiece(kTextHeaderTips, 0));
-  m_yearPart->setAccessibleDescription(YearTip());
+  m_yearPart->setAccessibleDescription(YearTip() + QLatin1Char('\n') + CountsTip());
 }
 
 // Highlights the month or the year under the pointer, to show that it can be clicked.
@@ -262,9 +263,27 @@ void CHeaderWnd::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
+// Returns the place of RightText().
+QRect CHeaderWnd::CountsRect() const {
+  QRect place = ToQRect(m_layout.bottomBand);
+  place.setLeft(place.right() + 1 - QFontMetrics(font()).horizontalAdvance(RightText()));
+  return place;
+}
+
 QString CHeaderWnd::YearTip() const {
   QStringList lines{ToQString(CenturyText(CivilYearOf(Selected())))};
   lines << EraText() << CivilYearText() << TablePiece(kTextHeaderTips, 1);
+  lines.removeAll(QString());
+  return lines.join(QLatin1Char('\n'));
+}
+
+// Returns in words what RightText() says in numbers.
+QString CHeaderWnd::CountsTip() const {
+  QStringList lines{ToQString(DayCountText(Selected()))};
+  if (!Display().showWeekNumber) {
+    const std::u16string_view forms = StringText(kTextWeekOf);
+    lines.prepend(ToQString(FormatText(Piece(forms, u'|', 1), {WeekNumber(Selected())})));
+  }
   lines.removeAll(QString());
   return lines.join(QLatin1Char('\n'));
 }
@@ -280,7 +299,10 @@ QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
   if (isIn(m_layout.year)) return YearTip();
   if (isIn(m_layout.previousTip)) return TableText(kTextPrevious);
   if (isIn(m_layout.nextTip)) return TableText(kTextNext);
-  return {};
+  const QRect counts = CountsRect();
+  if (!counts.contains(position)) return {};
+  *area = counts;
+  return CountsTip();
 }
 
 bool CHeaderWnd::event(QEvent* event) {

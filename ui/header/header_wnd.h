@@ -85,6 +85,8 @@ class CHeaderWnd : public QWidget {
   void GiveFocusBack();
   void Changed(DateMove move);
   QString YearTip() const;
+  QString CountsTip() const;
+  QRect CountsRect() const;
   QString TipAt(QPoint position, QRect* area) const;
   void UpdateNames();
 

@@ -247,6 +247,8 @@ TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
                                     {QPoint(597, 3), "Clic=mois suivant"},
                                     {ToQRect(places.year).center(), "753 AUC | 1 av. JC"},
                                     {ToQRect(places.year).center(), "siècle"},
+                                    {QPoint(ToQRect(places.bottomBand).bottomRight() - QPoint(4, 2)),
+                                     "1er jour de l'année, il en reste 36"},
                                     {QPoint(100, 3), "none"}})
     EXPECT_NE(TipAt(point).find(text), std::string::npos) << TipAt(point);
 
