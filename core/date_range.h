@@ -1,7 +1,8 @@
-// The years that the program shows, and which of two dates comes first.
+// The years that the program shows, which of two dates comes first, and which dates exist.
 //
 //   IsYearShown(4000);                           // false
 //   DayOrder(-440315) > DayOrder(-440101);       // true: 15 March -44 comes after 1 January
+//   DoesDateExist({1582, 10, 10});               // false under the Roman reform
 //   rules.ApplyGregorianStart(kNeverGregorian);  // Julian for all years
 #pragma once
 
@@ -43,6 +44,10 @@ static_assert(DayOrder(-440315) == DayOrder(-44, 3, 15) && DayOrder(-440315) > D
 
 // Returns whether a date lies in the years shown, from the first day to the last.
 bool IsWithinBounds(const Date& date);
+
+// Returns whether a date exists under the rules in force: a day of its month that the reform did not drop.
+// Any numbers are accepted.
+bool DoesDateExist(const YearMonthDay& date);
 
 // Moves a date outside to the first or the last day shown.
 void ClampToBounds(Date& date);

@@ -122,6 +122,43 @@ enum TextId : int {
   kTextFallsOn =
       5712,          // sentence; days and years in it; years without a day; years of a sentence without days
   kTextList = 5713,  // between the items of a list: any two, the last two
+
+  // The words of typed dates: those of one kind, in the order of their values, parted by "|", the spellings
+  // of one by ",", without little words.
+  kTextReaderLittleWords = 5740,  // these may stand anywhere
+  kTextReaderMonths = 5741,
+  kTextReaderWeekdays = 5742,
+  kTextReaderMarch = 5743,      // March or Tuesday
+  kTextReaderSeptember = 5744,  // September or seven
+  kTextReaderNumbers = 5745,    // 1 to 16, tens to 60, 100, 1000
+  kTextReaderDays = 5746,
+  kTextReaderWeeks = 5747,
+  kTextReaderMonthsAsUnit = 5748,
+  kTextReaderYears = 5749,
+  kTextReaderIn = 5750,
+  kTextReaderAgo = 5751,
+  kTextReaderTodays = 5752,  // two days ago to in two days
+  kTextReaderNext = 5753,
+  kTextReaderLast = 5754,
+  kTextReaderFeasts = 5755,  // in the order of their days
+  kTextReaderOrthodox = 5756,
+  kTextReaderRomanDays = 5757,  // calends, nones, ides
+  kTextReaderDecadeDays = 5758,
+  kTextReaderRepublicanMonths = 5759,
+  kTextReaderComplementary = 5760,
+  kTextReaderComplementaryDays = 5761,
+  kTextReaderDayNumber = 5762,
+  kTextReaderJulian = 5763,
+  kTextReaderGregorian = 5764,
+  kTextReaderBeforeEra = 5765,
+  kTextReaderInEra = 5766,
+  kTextReaderCivilYear = 5767,
+  kTextReadingDate = 5770,      // weekday, day, month, year; then what may follow: era, civil year, calendar
+  kTextReadingNotes = 5771,     // in the order of DateNote, kNone and kFeast left out
+  kTextReadingWeekdays = 5772,  // a date and the weekday that it is, where another was typed
+  kTextReadingOrders = 5773,    // by Date::dateOrder
+  kTextReadingFeasts = 5774,    // Easter; one day and more days after it; one day and more days before it
+  kTextReaderRefusals = 5775,   // in the order of DateRefusal, kNone left out
 };
 
 // Empty for a number that the table does not hold.

@@ -86,15 +86,6 @@ TypedDate ReadTypedDate(std::u16string_view text, int order) {
   return typed;
 }
 
-// Compares a date with that of its own day number. On purpose: the day before that number is compared too,
-// because 29 February -8 has the number of 1 March -8.
-bool DoesDateExist(const YearMonthDay& date) {
-  if (date.month < 1 || date.month > 12 || date.day < 1 || date.day > 31) return false;
-  const Date asked(date.year, date.month, date.day);
-  const int number = asked.DayNumber();
-  return asked.SameDay(DateOfDayNumber(number)) || asked.SameDay(DateOfDayNumber(number - 1));
-}
-
 std::u16string FieldDate(PackedDate ymd, int order) {
   const YearMonthDay date = Unpack(ymd);
   const Places places = PlacesOf(order);

@@ -38,9 +38,6 @@ struct TypedDate {
 // Years are astronomical and taken as they stand: 44 is the year 44.
 TypedDate ReadTypedDate(std::u16string_view text, int order);
 
-// Returns whether a date exists under the rules in force. Any numbers are accepted.
-bool DoesDateExist(const YearMonthDay& date);
-
 // Returns "14/07/1789": four digits from year 0 on, so that 44 is not taken for 1944; negative years as they
 // are.
 std::u16string FieldDate(PackedDate ymd, int order);
