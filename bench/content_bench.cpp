@@ -1,4 +1,5 @@
 // The month model: all months of the range with the rules of France, and a calendar with thousands of rules.
+// The reading of typed dates.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -9,6 +10,7 @@
 
 #include "content/import_holidays.h"
 #include "content/month_model.h"
+#include "core/date_reader.h"
 #include "files/calendar_file.h"
 
 namespace orbisol {
@@ -128,6 +130,39 @@ void ReadLargeFile(benchmark::State& state) {
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 BENCHMARK(ReadLargeFile)->Arg(45000)->Arg(90000)->Unit(benchmark::kMillisecond);
+
+// Reads typed dates of all forms, and says how the best reading was understood. One item is one text.
+void ReadTypedDates(benchmark::State& state) {
+  constexpr std::u16string_view kTexts[] = {u"14 juillet 1789",
+                                            u"mardi 14 juillet 1789",
+                                            u"15/3/-44",
+                                            u"18 brumaire an VIII",
+                                            u"1582-10-10",
+                                            u"44",
+                                            u"15 mars 44 av. J.-C.",
+                                            u"Pâques 2024",
+                                            u"2024-W20-3",
+                                            u"-44",
+                                            u"2299161",
+                                            u"dans 3 semaines",
+                                            u"14 juilet 1789",
+                                            u"ides de mars 2024",
+                                            u"31 avril 2024",
+                                            u"24/3/15",
+                                            u"25 octobre 1917 julien",
+                                            u"140789",
+                                            u"14/7/1789",
+                                            u"l'an mil huit cent douze, le vingt-trois mars"};
+  for ([[maybe_unused]] auto _ : state) {
+    for (const std::u16string_view text : kTexts) {
+      const DateReadings read = ReadDates(text, 20240515);
+      if (!read.readings.empty())
+        benchmark::DoNotOptimize(ReadingText(read.readings[0]) + ReadingNote(read.readings[0]));
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(std::size(kTexts)));
+}
+BENCHMARK(ReadTypedDates);
 
 }  // namespace
 }  // namespace orbisol

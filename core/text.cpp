@@ -171,7 +171,9 @@ std::u16string Folded(std::u16string_view text) {
   std::u16string out;
   out.reserve(text.size());
   for (const char16_t unit : text) {
-    if (const Letter* const letter = FindLetter(unit)) {
+    if (unit < 0x80) {  // most letters: not worth a search
+      out += unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
+    } else if (const Letter* const letter = FindLetter(unit)) {
       out += letter->folded;
     } else {
       out += unit;

@@ -18,19 +18,46 @@ constexpr int kMostWords = 4;  // of a phrase
 constexpr std::u16string_view kAnd = u"et";
 constexpr std::u16string_view kMonthEnding = u"bre";  // "7bre" is September
 
-bool IsAmong(char16_t unit, std::u16string_view units) {
-  return units.find(unit) != std::u16string_view::npos;
-}
 bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool IsBlank(char16_t unit) {
-  return unit <= u' ' || IsAmong(unit, u"\u00A0\u1680\u202F\u205F\u3000") ||
-         (unit >= 0x2000 && unit <= 0x200B);
-}
+
+// Blanks and what else has no meaning of its own, beyond the first 128 characters.
 bool IsHyphen(char16_t unit) {
   return unit == u'-' || unit == u'\u2212' || (unit >= 0x2010 && unit <= 0x2014);
 }
-bool IsPoint(char16_t unit) { return IsAmong(unit, u"/.,;:'\"()+*°º«»\u2018\u2019\u201C\u201D"); }
-bool IsLetter(char16_t unit) { return !IsDigit(unit) && !IsBlank(unit) && !IsHyphen(unit) && !IsPoint(unit); }
+bool IsBlank(char16_t unit) {
+  if (unit < 0x80) return unit <= u' ';
+  return unit == 0xA0 || unit == 0x1680 || unit == 0x202F || unit == 0x205F || unit == 0x3000 ||
+         (unit >= 0x2000 && unit <= 0x200B);
+}
+bool IsPoint(char16_t unit) {
+  switch (unit) {
+    case u'/':
+    case u'.':
+    case u',':
+    case u';':
+    case u':':
+    case u'\'':
+    case u'"':
+    case u'(':
+    case u')':
+    case u'+':
+    case u'*':
+    case u'\u00B0':  // the signs of "n°" and quotation marks
+    case u'\u00BA':
+    case u'\u00AB':
+    case u'\u00BB':
+    case u'\u201C':
+    case u'\u201D':
+      return true;
+    default:
+      return false;
+  }
+}
+bool IsLetter(char16_t unit) {
+  if (unit >= u'a' && unit <= u'z') return true;
+  return !IsDigit(unit) && !IsBlank(unit) && !IsHyphen(unit) && !IsPoint(unit);
+}
+bool IsSeparator(char16_t unit) { return unit == u'/' || unit == u'.' || unit == u',' || unit == u'('; }
 
 // The name of the user's language that a text begins with; `length` is 0 when there is none.
 struct LocaleName {
@@ -69,8 +96,8 @@ class CLexer {
 
   // A sign stands right before digits and not right behind another item.
   void ReadHyphenOrSign() {
-    const bool isFree = m_at == 0 || IsBlank(m_text[m_at - 1]) || IsHyphen(m_text[m_at - 1]) ||
-                        IsAmong(m_text[m_at - 1], u"/.,(");
+    const bool isFree =
+        m_at == 0 || IsBlank(m_text[m_at - 1]) || IsHyphen(m_text[m_at - 1]) || IsSeparator(m_text[m_at - 1]);
     const bool isSign = isFree && IsDigitAt(m_at + 1);
     const bool isPlus = m_text[m_at] == u'+';
     if (isPlus && !isSign) return AddUnknown(m_at, m_at + 1);
@@ -161,7 +188,7 @@ class CLexer {
         run.ends[static_cast<std::size_t>(run.count++)] = at;
       }
       while (at < m_text.size() &&
-             (IsBlank(m_text[at]) || IsHyphen(m_text[at]) || IsAmong(m_text[at], u".'")))
+             (IsBlank(m_text[at]) || IsHyphen(m_text[at]) || m_text[at] == u'.' || m_text[at] == u'\''))
         ++at;
     }
     return run;

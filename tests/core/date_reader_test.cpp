@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
-#include <map>
+#include <memory>
 #include <sstream>
 
 #include "core/civil_year.h"
@@ -177,13 +176,14 @@ std::vector<Printed> PrintedTexts(const Date& date) {
   return texts;
 }
 
-void CheckDays(const CalendarRules& calendar, int order, int step) {
+void CheckDays(const CalendarRules& calendar, int order, int step, PackedDate from = kFirstDateShown,
+               PackedDate to = kLastDateShown) {
   const ScopedRules rules(calendar);
   FakeLocale locale;
   locale.dateOrder = order;
   const ScopedPlatform platform(locale, FakeClock({2024, 5, 15}));
-  const int last = Date(kLastDateShown).DayNumber();
-  for (int n = Date(kFirstDateShown).DayNumber(); n <= last; n += step) {
+  const int last = Date(to).DayNumber();
+  for (int n = Date(from).DayNumber(); n <= last; n += step) {
     const Date date = DateOfDayNumber(n);
     for (const Printed& printed : PrintedTexts(date)) {
       const DateReadings read = ReadDates(printed.text, 20240515);
@@ -195,15 +195,26 @@ void CheckDays(const CalendarRules& calendar, int order, int step) {
   }
 }
 
-// Every text that the program prints for a day is read as that day: by parts of the range, which run side by
-// side, and under other rules in larger steps.
-TEST(DateReaderTest, DaysAreReadUnderTheRomanReform) { CheckDays(RulesWith(kRomanReform), 1, kStep); }
+// Every text that the program prints for a day is read as that day: each day under the Roman reform, in parts
+// that run side by side, and some days under other rules.
+class DateReaderPartTest : public testing::TestWithParam<int> {};
+
+TEST_P(DateReaderPartTest, WhatIsPrintedForADayIsReadAsThatDay) {
+  constexpr int kYears = 2000;
+  const int year = GetParam();
+  CheckDays(RulesWith(kRomanReform), 1, kStep, Pack(year, 1, 1),
+            Pack(std::min(year + kYears - 1, kLastYearShown), 12, 31));
+}
+
+INSTANTIATE_TEST_SUITE_P(From, DateReaderPartTest, testing::Values(-3999, -1999, 1, 2001),
+                         [](const auto& part) { return "Part" + std::to_string(part.index); });
+
 TEST(DateReaderTest, DaysAreReadUnderOtherRules) {
-  CheckDays(RulesWith(17520914, {.rows = {{17520101, false}, {11550325, false}}}), 1, 31 * kStep);
-  CheckDays(RulesWith(kRomanReform, {.rows = {{15000325, true}}}), 0, 31 * kStep);
-  CheckDays(RulesWith(19180214, {.proleptic = true}), 2, 31 * kStep);
-  CheckDays(RulesWith(kNeverGregorian), 2, 31 * kStep);
-  CheckDays(RulesWith(kAlwaysGregorian), 1, 31 * kStep);
+  CheckDays(RulesWith(17520914, {.rows = {{17520101, false}, {11550325, false}}}), 1, 101 * kStep);
+  CheckDays(RulesWith(kRomanReform, {.rows = {{15000325, true}}}), 0, 101 * kStep);
+  CheckDays(RulesWith(19180214, {.proleptic = true}), 2, 101 * kStep);
+  CheckDays(RulesWith(kNeverGregorian), 2, 101 * kStep);
+  CheckDays(RulesWith(kAlwaysGregorian), 1, 101 * kStep);
 }
 
 }  // namespace
