@@ -12,10 +12,23 @@ namespace orbisol {
 
 enum HelpTopic : int {
   kHelpMainWindow = 1,
+  kHelpEvents = 2,
+  kHelpVacations = 3,
+  kHelpConverter = 4,
   kHelpCalendars = 5,
   kHelpVersions = 6,
   kHelpImportHolidays = 7,
-  kHelpPrinting = 100,
+  kHelpGoToDate = 8,
+  kHelpSearch = 9,
+  kHelpRules = 10,
+  kHelpReform = 11,
+  kHelpCivilYears = 12,
+  kHelpRepublican = 13,
+  kHelpWeeks = 14,
+  kHelpMoon = 15,
+  kHelpKeys = 16,
+  kHelpFiles = 17,
+  kHelpPrinting = 100,  // has no page yet
 };
 
 struct HelpPage {
@@ -26,7 +39,8 @@ struct HelpPage {
 // The pages in the order of the contents; the first one is shown where nothing else is asked for.
 std::span<const HelpPage> HelpPages();
 
-// Returns the text of a page, empty for a name that is not in the list.
+// Returns the text of a page, with the non-breaking spaces of French typography; empty for a name that is not
+// in the list.
 QString HelpPageText(const QString& file);
 
 }  // namespace orbisol

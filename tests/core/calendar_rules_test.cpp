@@ -72,6 +72,9 @@ TEST(CivilYearTest, KnownDays) {
       {"a start before 1 January", {{15000050, false}}, 16000601, 0, 101, 1600, 135, 231},
       {"never ahead from 1 January", {{15000101, true}}, 16000601, 0, 101, 1600, 153, 213},
       {"1564 begins early", {{15640101, false}, {10000325, false}}, 15631231, 1, 325, 1563, 282, 84},
+      {"Francis I died before the Easter of 1547", {{15460410, false}}, 15470331, 0, 410, 1546, 356, 9},
+      {"1566 ends early", {{15670101, false}, {15660414, false}}, 15661231, 1, 414, 1566, 262, 103},
+      {"Charlemagne was crowned at Christmas", {{7511225, true}}, 8001225, 0, 1225, 801, 1, 364},
       // On purpose: dates before the era are compared as integers, which run backwards in a year.
       {"later, governed", {{-440315, false}}, -440101, 0, 315, -44, 293, 73},
       {"earlier, not governed", {{-440315, false}}, -440316, 1, 101, -44, 76, 363},

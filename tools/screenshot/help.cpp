@@ -15,9 +15,9 @@ struct HelpPicture {
 };
 
 constexpr HelpPicture kHelpPictures[] = {
-    {"help", "main_window.html#fenetre"},
-    {"help_keys", "main_window.html#touches"},
-    {"help_end", "main_window.html#reforme"},
+    {"help", "main_window.html#fenetre"}, {"help_keys", "keys.html#touches"},
+    {"help_rules", "rules.html#regles"},  {"help_civil_years", "civil_years.html#paques"},
+    {"help_reform", "reform.html#pays"},
 };
 
 }  // namespace

@@ -155,7 +155,6 @@ QWidget* CHelpWindow::MakeContents() {
     item->setText(0, heading.title);
     item->setData(0, kLinkRole, heading.link);
   }
-  m_contents->expandAll();
   connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
     if (item != nullptr) m_browser->ShowPage(item->data(0, kLinkRole).toString());
   });
@@ -207,7 +206,10 @@ void CHelpWindow::MarkHeading(const QUrl& source) {
   const QString shown = source.toString();
   const QSignalBlocker quiet(m_contents);
   for (QTreeWidgetItemIterator item(m_contents); *item != nullptr; ++item)
-    if ((*item)->data(0, kLinkRole).toString() == shown) m_contents->setCurrentItem(*item);
+    if ((*item)->data(0, kLinkRole).toString() == shown) {
+      m_contents->setCurrentItem(*item);
+      (*item)->setExpanded(true);
+    }
 }
 
 void CHelpWindow::ShowTopic(int topic) {

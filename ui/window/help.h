@@ -33,7 +33,7 @@ class CHelpBrowser : public QTextBrowser {
  public:
   explicit CHelpBrowser(QWidget* parent = nullptr);
 
-  // Shows "main_window.html#touches"; an address outside the help is passed over.
+  // Shows "keys.html#touches"; an address outside the help is passed over.
   void ShowPage(const QString& link);
 
   QVariant loadResource(int type, const QUrl& name) override;

@@ -7,7 +7,7 @@
 //   <h2 id="touches">Les touches du mois</h2>
 //   <!-- index: clavier; raccourcis clavier -->
 //
-//   for (const HelpHeading& heading : HelpHeadings(u"main_window.html"_qs)) …
+//   for (const HelpHeading& heading : HelpHeadings()) …
 #pragma once
 
 #include <QString>
@@ -20,7 +20,7 @@ namespace orbisol {
 struct HelpHeading {
   int level = 1;           // 1 the page, 2 a part of it
   QString title;           // plain text
-  QString link;            // "main_window.html#touches"
+  QString link;            // "keys.html#touches"
   QStringList indexWords;  // in the order of the page
 };
 

@@ -1,17 +1,20 @@
 #include "ui/window/help.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextDocument>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
 #include <set>
 
+#include "resources/menus.h"
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/window/help_text.h"
@@ -25,8 +28,8 @@ CHelpWindow* OpenHelp() {
   return nullptr;
 }
 
-// Every page of the list can be shown, and all its links lead somewhere.
-TEST(HelpTextTest, PagesHaveTitlesAndTheirLinksResolve) {
+// Every topic has its page and every page its topic, and all links lead somewhere.
+TEST(HelpTextTest, TopicsHavePagesWhoseLinksResolve) {
   std::set<QString> targets;
   for (const HelpHeading& heading : HelpHeadings()) {
     EXPECT_FALSE(heading.title.isEmpty() || heading.title.contains(QLatin1Char('<')))
@@ -41,6 +44,10 @@ TEST(HelpTextTest, PagesHaveTitlesAndTheirLinksResolve) {
     const QString text = HelpPageText(file);
     EXPECT_TRUE(topics.insert(page.topic).second);
     EXPECT_EQ(text.count(QLatin1String("<h1 ")), 1);
+    QTextDocument shown;
+    shown.setHtml(text);
+    const QRegularExpression breakable(QStringLiteral(" [:;!?»]|« "));
+    EXPECT_FALSE(breakable.match(shown.toRawText()).hasMatch());
     EXPECT_EQ(text.count(QRegularExpression(QStringLiteral("<h[12]"))),
               static_cast<qsizetype>(HelpHeadingsOf(file, text).size()));
     for (auto links = QRegularExpression(QStringLiteral("(href|src)=\"([^\"]*)\"")).globalMatch(text);
@@ -50,6 +57,57 @@ TEST(HelpTextTest, PagesHaveTitlesAndTheirLinksResolve) {
           << qPrintable(link);
     }
   }
+  for (int topic = kHelpMainWindow; topic <= kHelpFiles; ++topic) EXPECT_EQ(topics.count(topic), 1U) << topic;
+  EXPECT_EQ(static_cast<std::size_t>(QDir(QStringLiteral(":/help")).entryList().size()), HelpPages().size());
+}
+
+// The key of a menu in the words of a French keyboard: "Alt+Gauche".
+QString FrenchKey(std::u16string_view key) {
+  QString text = ToQString(key);
+  constexpr std::pair<const char*, const char*> kWords[] = {
+      {"Left", "Gauche"}, {"Right", "Droite"}, {"Home", "Début"}, {"Shift", "Maj"}, {"Space", "Espace"}};
+  for (const auto& [english, french] : kWords)
+    text.replace(QLatin1String(english), QString::fromUtf8(french));
+  return text;
+}
+
+TEST(HelpTextTest, EveryKeyOfTheMenusIsInTheTableOfKeys) {
+  const QString page = HelpPageText(QStringLiteral("keys.html"));
+  int keys = 0;
+  for (const Menu& menu : MainMenu()) {
+    for (const MenuItem& item : menu.items) {
+      if (item.shortcut.empty()) continue;
+      QString command = ToQString(item.text);
+      command.remove(QLatin1Char('&')).remove(QLatin1String("..."));
+      const QString row =
+          QStringLiteral("<tr><td>%1</td><td>%2</td></tr>").arg(FrenchKey(item.shortcut), command);
+      EXPECT_TRUE(page.contains(row)) << qPrintable(row);
+      ++keys;
+    }
+  }
+  EXPECT_GT(keys, 5);
+}
+
+TEST(HelpWindowTest, EveryRowOfContentsAndIndexShowsItsPage) {
+  CHelpWindow help;
+  help.ShowContents();
+  std::set<QString> shown;
+  for (QTreeWidgetItemIterator item(help.findChild<QTreeWidget*>()); *item != nullptr; ++item) {
+    (*item)->treeWidget()->setCurrentItem(*item);
+    shown.insert(help.Browser().source().toString());
+  }
+  for (const HelpHeading& heading : HelpHeadings())
+    EXPECT_EQ(shown.count(heading.link), 1U) << qPrintable(heading.link);
+
+  auto* const index = help.findChild<QListWidget*>();
+  std::set<QString> words;
+  for (int i = 0; i < index->count(); ++i) {
+    index->setCurrentRow(i);
+    EXPECT_EQ(shown.count(help.Browser().source().toString()), 1U);
+    EXPECT_TRUE(words.insert(index->item(i)->text()).second)
+        << "twice: " << qPrintable(index->item(i)->text());
+  }
+  EXPECT_GE(words.size(), shown.size());
 }
 
 TEST(HelpWindowTest, F1ShowsTheTopicAndNothingOutsideTheHelpIsLoaded) {
@@ -63,7 +121,7 @@ TEST(HelpWindowTest, F1ShowsTheTopicAndNothingOutsideTheHelpIsLoaded) {
   ASSERT_NE(help, nullptr);
   CHelpBrowser& browser = help->Browser();
   EXPECT_EQ(browser.source().toString(), QStringLiteral("main_window.html#fenetre"));
-  EXPECT_TRUE(browser.toPlainText().contains(QLatin1String("22 septembre 1792")));
+  EXPECT_TRUE(browser.toPlainText().contains(QLatin1String("jour actif")));
 
   const QString before = browser.toPlainText();
   for (const char* address : {"https://example.org/", "file:///etc/passwd", "/etc/passwd",
