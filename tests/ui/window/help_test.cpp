@@ -14,6 +14,9 @@
 
 #include <set>
 
+#include "core/calendar_config.h"
+#include "core/date.h"
+#include "core/date_reader.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"
@@ -61,7 +64,7 @@ TEST(HelpTextTest, TopicsHavePagesWhoseLinksResolve) {
   EXPECT_EQ(static_cast<std::size_t>(QDir(QStringLiteral(":/help")).entryList().size()), HelpPages().size());
 }
 
-// The key of a menu in the words of a French keyboard: "Alt+Gauche".
+// Returns the key of a menu in the words of a French keyboard: "Alt+Gauche".
 QString FrenchKey(std::u16string_view key) {
   QString text = ToQString(key);
   constexpr std::pair<const char*, const char*> kWords[] = {
@@ -86,6 +89,44 @@ TEST(HelpTextTest, EveryKeyOfTheMenusIsInTheTableOfKeys) {
     }
   }
   EXPECT_GT(keys, 5);
+}
+
+// Returns the cells of the tables of a page, row by row.
+std::vector<QStringList> RowsOf(const char* file) {
+  std::vector<QStringList> rows;
+  const QRegularExpression row(QStringLiteral("<tr>(<td>.*?)</tr>"));
+  for (auto found = row.globalMatch(HelpPageText(QString::fromLatin1(file))); found.hasNext();) {
+    rows.emplace_back();
+    for (QString cell : found.next().captured(1).split(QStringLiteral("<td>"), Qt::SkipEmptyParts))
+      rows.back()
+          << cell.remove(QStringLiteral("</td>")).replace(QLatin1String("&minus;"), QStringLiteral("−"));
+  }
+  return rows;
+}
+
+TEST(HelpTextTest, DatesThatItOffersAreUnderstood) {
+  const std::vector<QStringList> rows = RowsOf("go_to_date.html");
+  EXPECT_GT(rows.size(), 5U);
+  for (const QStringList& row : rows)
+    for (const QString& text : row.front().split(QStringLiteral(", ")))
+      EXPECT_FALSE(ReadDates(Utf16View(text), 20240515).readings.empty()) << qPrintable(text);
+}
+
+TEST(HelpTextTest, ReformsOfTheCountriesAreRight) {
+  const std::vector<QStringList> rows = RowsOf("reform.html");
+  EXPECT_GT(rows.size(), 10U);
+  for (const QStringList& row : rows) {
+    SCOPED_TRACE(qPrintable(row.front()));
+    const DateReadings first = ReadDates(Utf16View(row.at(2)), 20240515);
+    ASSERT_FALSE(first.readings.empty());
+    CalendarRules rules = DefaultCalendarRules();
+    rules.ApplyGregorianStart(first.readings[0].date);
+    const ScopedRules inForce(rules);
+    const DateReadings last = ReadDates(Utf16View(row.at(1)), 20240515);
+    ASSERT_FALSE(last.readings.empty());
+    EXPECT_FALSE(first.readings[0].isOtherWeekday || last.readings[0].isOtherWeekday);
+    EXPECT_EQ(Date(last.readings[0].date).DayNumber(), Rules().firstGregorianDayNumber - 1);
+  }
 }
 
 TEST(HelpWindowTest, EveryRowOfContentsAndIndexShowsItsPage) {
