@@ -14,9 +14,25 @@
 #include "ui/toolkit/thin_scroll_bar.h"
 
 namespace orbisol {
+namespace {
+
+// A list that screen readers hear of while it has the keyboard. The toolkit's own reports each current line,
+// and readers then speak of the list instead of the day that the user went to in the month.
+class CQuietList : public QListWidget {
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+    if (hasFocus()) {
+      QListWidget::currentChanged(current, previous);
+    } else {
+      QAbstractItemView::currentChanged(current, previous);  // On purpose: all but that report.
+    }
+  }
+};
+
+}  // namespace
 
 CMonthList::CMonthList(QWidget* parent)
-    : CCalendarGroup(TableText(kTextMonthList), parent), m_lines(new QListWidget) {
+    : CCalendarGroup(TableText(kTextMonthList), parent), m_lines(new CQuietList) {
   m_lines->setAccessibleName(TableText(kTextMonthList));
   m_lines->setFrameShape(QFrame::NoFrame);
   m_lines->setItemDelegate(new CMonthLine(m_lines));

@@ -47,6 +47,7 @@ void CRepublicanGroup::FitToFont() {
 void CRepublicanGroup::Refresh() {
   m_text = ToQString(orbisol::RepublicanText(Selected()));
   m_republican->setText(QString(m_text).replace(QLatin1String("\n "), QLatin1String("\n")));
+  m_republican->setFocusPolicy(m_text.isEmpty() ? Qt::ClickFocus : Qt::StrongFocus);
   if (m_text.isEmpty()) {
     // A control that is hidden while it has the focus would pass it on to the next control.
     QWidget* const focused = QApplication::focusWidget();
