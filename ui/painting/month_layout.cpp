@@ -7,7 +7,7 @@
 namespace orbisol {
 namespace {
 
-constexpr int kNameMargin = 3;  // space around a weekday name, in pixels
+constexpr int kNameMargin = 3;  // space left and right of a weekday name, in pixels
 
 }  // namespace
 
@@ -44,7 +44,7 @@ int MonthLayout::CellAt(int x, int y) const {
 }
 
 Rect MonthLayout::NameRect(int column) const {
-  return Rect{column * columnWidth, 0, (column + 1) * columnWidth, rowHeight}.Shrunk(kNameMargin);
+  return Rect{column * columnWidth, 0, (column + 1) * columnWidth, rowHeight}.Shrunk(kNameMargin, 0);
 }
 
 Rect MonthLayout::WeekHeaderRect() const { return {WeekNumbersLeft(), 0, width, rowHeight}; }
