@@ -194,7 +194,7 @@ TEST_F(DesktopFilesTest, VersionsAreForTheUserAloneWhateverTheMask) {
   };
   const std::u16string name = u"Été";
   const std::string folder = folders.versions + "/Été";
-  for (const mode_t mask : {0000, 0022, 0777}) {
+  for (const mode_t mask : {0000U, 0022U, 0777U}) {
     fs::remove_all(folders.versions);
     const mode_t before = umask(mask);
     const bool isKept = CVersions(files, PathText(folders.versions)).Keep(name, "old", LocalNow());
