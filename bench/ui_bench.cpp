@@ -16,6 +16,7 @@ namespace orbisol {
 namespace {
 
 constexpr void (*kRegister[])() = {
+    RegisterEditors,
     RegisterMonthView,
 };
 

@@ -3,6 +3,7 @@
 
 namespace orbisol {
 
+void RegisterEditors();    // the list of 5,000 events: open, filter, sort
 void RegisterMonthView();  // repaints, the next month, moving the selection, beside QCalendarWidget
 
 }  // namespace orbisol

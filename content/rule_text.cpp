@@ -107,6 +107,11 @@ std::u16string DaysOfYear(std::span<const DayEvent> records, int year) {
 
 }  // namespace
 
+std::u16string PlainDayText(PackedDate ymd) {
+  const YearMonthDay date = Unpack(ymd);
+  return DayAndMonth(date.month, date.day);
+}
+
 std::u16string PlainDateText(PackedDate ymd) {
   const YearMonthDay date = Unpack(ymd);
   return DayAndMonth(date.month, date.day) + u' ' + DecimalText(date.year);

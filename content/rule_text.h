@@ -48,6 +48,9 @@ std::u16string PeriodText(const HolidayPeriod& period);
 // of years, at least one, from `firstYear` on; years that are not shown are left out.
 std::u16string FallsOnText(std::span<const DayEvent> records, int firstYear, int years);
 
+// Returns the day and the month of a date: "1er mars".
+std::u16string PlainDayText(PackedDate ymd);
+
 // Returns a date with its day first: "14 juillet 1789", "1er mars -44".
 std::u16string PlainDateText(PackedDate ymd);
 

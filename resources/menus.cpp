@@ -25,7 +25,7 @@ constexpr MenuItem kViewMenu[] = {
 
 constexpr MenuItem kToolsMenu[] = {
     {kCmdPreferences, u"&Personnaliser...", u"F8"},
-    {kCmdEditEvents, u"&Saisir des événements...", u""},
+    {kCmdEditEvents, u"&Saisir des événements...", u"Ctrl+E"},
     {kCmdEditVacations, u"Périodes de &vacances...", u""},
 };
 

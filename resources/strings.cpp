@@ -201,6 +201,56 @@ constexpr Entry kStrings[] = {
      u"Ils seront ajoutés aux vôtres ; « Annuler » dans la fenêtre des événements les retire d'un seul "
      u"coup."},
     {kTextManyPersonalEventsButton, u"Importer"},
+    {kTextEventRefusals,
+     u"Donnez un intitulé à cet événement.|%s n'a que %d jours.|La date doit être au plus tôt le 2 du mois.|"
+     u"La fin précède le début."},
+    {kTextNameTooLong, u"L'intitulé peut compter %d caractères ; celui-ci en compte %d."},
+    {kTextPeriodRefusals,
+     u"Entrez une date.|La fin précède le début.|Une période dure au moins deux jours.|"
+     u"Avant notre ère, une période est enregistrée année par année : celle-ci n'aurait qu'un seul jour "
+     u"en %d, or il en faut au moins deux.|"
+     u"Une de ces dates ne peut pas borner une période dans ce calendrier."},
+    {kTextEventColumns, u"Intitulé|Jour|En %d|Nature"},
+    {kTextEventKinds, u"Jour férié|Personnel"},
+    {kTextKindHelp,
+     u"Jour du mois correspondant à l'événement.|"
+     u"Nombre de jour séparant de Pâques romain (-99 à +99).|"
+     u"Nombre de jours séparant de Pâques orthodoxe (-99 à 99).|"
+     u"Numéro d'ordre et jour de la semaine pour l'événement.|"
+     u"Jour de la semaine précédant une date (ex: mercredi avant le 23 inclus).|"
+     u"Jour de la semaine suivant une date (ex: samedi à partir du 20 inclus).|"
+     u"Jour du mois (si sam. ou dim., le jour est repoussé au lundi qui suit).|"
+     u"Jour du mois (si dim., le jour est reporté au lendemain)."},
+    {kTextEventForm, u"Nouvel événement|Modifier l'événement"},
+    {kTextEmptyEvents,
+     u"Aucun événement.\nDouble-cliquez sur un jour du calendrier pour en ajouter un,\n"
+     u"ou remplissez les champs ci-contre.|Aucun événement ne correspond au filtre."},
+    {kTextListSteps,
+     u"Ajouter « %s »|Modifier « %s »|Supprimer « %s »|Supprimer %d lignes|Monter « %s »|"
+     u"Descendre « %s »|Importer des jours fériés"},
+    {kTextUndoTips, u"Annuler (Ctrl+Z)|Rétablir (Ctrl+Y)|Annuler : %s (Ctrl+Z)|Rétablir : %s (Ctrl+Y)"},
+    {kTextUnsavedChanges,
+     u"Des modifications ne sont pas enregistrées.\nVoulez-vous les enregistrer ?|Enregistrer|"
+     u"Ne pas enregistrer"},
+    {kTextPeriodColumns, u"Intitulé|Du|Au|Jours|Remarque"},
+    {kTextPeriodForm, u"Nouvelle période|Modifier la période"},
+    {kTextEmptyPeriods,
+     u"Aucune période de vacances.\nFaites glisser la souris sur des jours du calendrier pour en ajouter "
+     u"une,\nou remplissez les champs ci-contre.|"},
+    {kTextPeriodLength, u"Du %s au %s : %d jours."},
+    {kTextOverlap, u"chevauche « %s »|chevauche une autre période"},
+    {kTextEventAdded, u"« %s » est ajouté : %s."},
+    {kTextMoveTips,
+     u"L'ordre se change sans tri ni filtre : cliquez sur l'en-tête jusqu'à ce que sa flèche disparaisse.|"
+     u"L'ordre décide des noms réunis sur un même jour et du titre des périodes qui se chevauchent."},
+    {kTextNoDayInYear, u"aucun jour"},
+    {kTextEventFilters, u"Tous les événements|Jours fériés|Événements personnels"},
+    {kTextAlways, u"toujours"},
+    {kTextDateLabels, u"&Date :|Mois :"},
+    {kTextLongestFallsOn,
+     u"Tombe le 28 novembre en 2024, le 27 novembre en 2025, le 26 novembre en 2026 et en d'autres années."},
+    {kTextLongestLength,
+     u"Du mercredi 30 septembre 2026 au mercredi 30 décembre 2026 : 100 jours.\nChevauche « Vacances ».\n"},
     {kTextRuleDays,
      u"le %s|le %s, ou le lundi suivant s'il tombe un week-end|le %s, ou le lendemain s'il tombe un "
      u"dimanche"},

@@ -107,6 +107,31 @@ enum TextId : int {
   kTextManyPersonalEvents = 5311,         // question: name of the calendar, number of events
   kTextManyPersonalEventsButton = 5312,
 
+  kTextEventRefusals = 5340,   // no name; month and its days; before the 2nd; the end before the beginning
+  kTextNameTooLong = 5341,     // most units, units
+  kTextPeriodRefusals = 5342,  // no date; the end before the beginning; one day; one day in a year; no bound
+  kTextEventColumns = 5343,    // name, day, days in a year, kind
+  kTextEventKinds = 5344,      // of a rule in the list: public, personal
+  kTextKindHelp = 5345,        // what the number of a rule means, one for each kind
+  kTextEventForm = 5346,       // titles of the form: a new event, an event of the list
+  kTextEmptyEvents = 5347,     // of the list: nothing there, nothing that fits
+  kTextListSteps = 5348,       // for undoing: add, change, delete one, delete some, up, down, import
+  kTextUndoTips = 5349,        // undo, redo; the same with the step
+  kTextUnsavedChanges = 5350,  // question, and its buttons
+  kTextPeriodColumns = 5351,   // title, first day, last day, length, remark
+  kTextPeriodForm = 5352,      // as for events
+  kTextEmptyPeriods = 5353,
+  kTextPeriodLength = 5354,  // from weekday to weekday, number of days
+  kTextOverlap = 5355,       // remark: title of the other; without a title; period meant is the one shown
+  kTextEventAdded = 5356,    // name, in words
+  kTextMoveTips = 5357,      // why an entry cannot be moved; what moving is for
+  kTextNoDayInYear = 5358,
+  kTextEventFilters = 5359,    // all, public, personal
+  kTextAlways = 5360,          // a validity without an end
+  kTextLongestFallsOn = 5362,  // that there is room for
+  kTextLongestLength = 5363,
+  kTextDateLabels = 5361,  // of the fields for a date, for a month
+
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel
   kTextWeekdayBesideDate = 5702,  // weekday and date: before, after

@@ -53,6 +53,8 @@ BUDGETS = [
      lambda t: ratio(t, ["NextMonth_Orbisol"], ["NextMonth_QCalendarWidget"]), 0.4, ""),
     ("B11", "moving the selection, beside a whole repaint",
      lambda t: ratio(t, ["Selection_Orbisol"], ["Selection_WholeRepaint"]), 0.17, ""),
+    *[("B16", f"list of 5,000 events: {what}", lambda t, name=name: scaled(t, name, 1e-6), 100, "ms")
+      for what, name in (("open", "EventList_Open"), ("filter", "EventList_Filter"), ("sort", "EventList_Sort"))],
     ("B17", "reading one typed date, and saying how", lambda t: scaled(t, "ReadTypedDates", 1e-3), 10, "µs"),
     ("B14", "processor time in 5 s without a user", lambda t: scaled(t, "IdleTime", 1e-6), 0, "ms"),
     ("B14", "wake-ups, likewise", lambda t: scaled(t, "IdleWakeUps", 1), 0, ""),

@@ -27,9 +27,10 @@ LAYERS = [
     [("ui/shell", True, ["ui/shell/"])],
 ]
 
-# Geometry in plain integers, on layers that otherwise draw.
+# Geometry in plain integers and what editors accept, on layers that otherwise draw.
 WITHOUT_QT = [
     "ui/painting/month_layout.", "ui/header/header_layout.", "ui/print/page_layout.", "ui/shell/main_layout.",
+    "ui/editors/event_fields.", "ui/editors/joined_rows.", "ui/editors/period_fields.",
 ]
 
 # Inside core the headers have an order too; a source may look upward.

@@ -31,8 +31,9 @@ std::string FileOfFrance();
 
 void TakeFirstWindow(CPictureFolder& folder);  // the window of a first start, on the screen of this run
 void TakeMainWindow(CPictureFolder& folder);
-void TakeMonths(CPictureFolder& folder);  // the month alone, in what the settings can make of it
-void TakeHelp(CPictureFolder& folder);    // the help and the about box
-void TakeFields(CPictureFolder& folder);  // the fields that dialogs share
+void TakeMonths(CPictureFolder& folder);   // the month alone, in what the settings can make of it
+void TakeHelp(CPictureFolder& folder);     // the help and the about box
+void TakeEditors(CPictureFolder& folder);  // of events and vacation periods
+void TakeFields(CPictureFolder& folder);   // the fields that dialogs share
 
 }  // namespace orbisol

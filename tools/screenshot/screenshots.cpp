@@ -27,6 +27,7 @@ constexpr struct {
     {"months", TakeMonths},
     {"fields", TakeFields},
     {"help", TakeHelp},
+    {"editors", TakeEditors},
 };
 
 // Returns the exit code: 0 when all pictures were written, 2 for a set that does not exist.

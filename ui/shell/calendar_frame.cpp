@@ -122,6 +122,11 @@ void CCalendarFrame::UpdateTitle() {
   setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
 }
 
+void CCalendarFrame::CalendarChanged() {
+  UpdateTitle();
+  m_dialog->SettingsChanged();
+}
+
 void CCalendarFrame::Open() {
   WindowLayout& layout = Display().mainLayout;
   const int pane = m_dialog->PaneWidth();

@@ -54,6 +54,9 @@ class CCalendarFrame : public QMainWindow {
 
   void RunCommand(CommandId command);
 
+  // Shows the calendar in use anew, after its name, its look, its rules or its content were changed.
+  void CalendarChanged();
+
   CMainDlg& Dialog() { return *m_dialog; }
   const FrameServices& Services() const { return m_services; }
   CCommandTable& Commands() { return *m_commands; }

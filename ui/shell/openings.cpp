@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
+#include "content/calendar_content.h"
+#include "content/selected_date.h"
+#include "ui/editors/events_dialog.h"
+#include "ui/editors/import_holidays_dlg.h"
+#include "ui/editors/vacations_dialog.h"
 #include "ui/shell/about.h"
 #include "ui/shell/calendar_frame.h"
 #include "ui/window/help.h"
@@ -14,11 +19,29 @@ void OpenHelpContents(const OpeningRequest&) { ShowHelpContents(); }
 void OpenHelpIndex(const OpeningRequest&) { ShowHelpIndex(); }
 void OpenAbout(const OpeningRequest& request) { CAboutBox(&request.frame).exec(); }
 
+EditorServices ServicesOf(const CCalendarFrame& frame) {
+  const FrameServices& services = frame.Services();
+  return {.places = {services.store, services.calendars},
+          .importHolidays = [&services](QWidget* parent, CalendarContent& content) {
+            return ImportHolidaysInto(parent, services.publicCalendars, content);
+          }};
+}
+
+void OpenEvents(const OpeningRequest& request) {
+  CEventsDialog(ServicesOf(request.frame), Content(), request.from, Selected().year, &request.frame).exec();
+  request.frame.CalendarChanged();
+}
+
+void OpenVacations(const OpeningRequest& request) {
+  CVacationsDialog(ServicesOf(request.frame), Content(), request.from, request.to, &request.frame).exec();
+  request.frame.CalendarChanged();
+}
+
 // clang-format off: a row each, so that windows made side by side change lines of their own.
 constexpr Opening kOpenings[] = {
-    {kCmdChooseCalendar, nullptr},  {kCmdPrint, nullptr},       {kCmdEditEvents, nullptr},
-    {kCmdEditVacations, nullptr},   {kCmdPreferences, nullptr}, {kCmdHelpContents, OpenHelpContents},
-    {kCmdHelpIndex, OpenHelpIndex}, {kCmdAbout, OpenAbout},
+    {kCmdChooseCalendar, nullptr},      {kCmdPrint, nullptr},       {kCmdEditEvents, OpenEvents},
+    {kCmdEditVacations, OpenVacations}, {kCmdPreferences, nullptr}, {kCmdHelpContents, OpenHelpContents},
+    {kCmdHelpIndex, OpenHelpIndex},     {kCmdAbout, OpenAbout},
 };
 // clang-format on
 

@@ -111,4 +111,11 @@ SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& pla
   });
 }
 
+void PutInForce(CalendarFile calendar) {
+  Display().Look() = calendar.look;
+  Display().changed = false;
+  Rules() = calendar.rules;
+  Content() = std::move(calendar.content);
+}
+
 }  // namespace orbisol

@@ -1,10 +1,9 @@
 // Saves the calendar in use from a window, and asks where its file cannot simply be replaced. No other part
 // of the windows saves a calendar.
 //
-//   const SavedFromWindow saved =
-//       SaveCalendarFromWindow(this, {store, calendars}, Display(), Rules(), Content());
-//   if (saved.end == SaveEnd::kReloaded) TakeCalendar(*saved.reloaded);  // puts it in force
-//   if (saved.end == SaveEnd::kUnsaved) return;                          // the dialog stays, nothing is lost
+//   SavedFromWindow saved = SaveCalendarFromWindow(this, {store, calendars}, Display(), Rules(), Content());
+//   if (saved.end == SaveEnd::kReloaded) PutInForce(std::move(*saved.reloaded));
+//   if (saved.end == SaveEnd::kUnsaved) return;  // the dialog stays, nothing is lost
 //
 // Each message says what the file holds now:
 //
@@ -58,5 +57,9 @@ SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places
 // in force after kSaved. `inForce` is what a reload would give up.
 SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
                                           const CalendarFile& inForce, std::string_view version);
+
+// Puts look, rules and content of a calendar in force, as after kReloaded, and clears `changed`. What shows
+// them must be told.
+void PutInForce(CalendarFile calendar);
 
 }  // namespace orbisol

@@ -2,13 +2,20 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpinBox>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QWindow>
+
+#include <functional>
 
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/header/year_edit.h"
@@ -282,10 +289,50 @@ TEST_F(FrameTest, WithThePaneHiddenTheKeyboardBelongsToTheMonthOrTheHeader) {
   EXPECT_EQ(Now(), 20240515);  // not a year passed while typing
 }
 
-TEST_F(FrameTest, WhatHasNoEditorYetIsRefused) {
+// The days that the user points at stand in the fields of the editor, and what it saves is seen at once.
+TEST_F(FrameTest, TheEditorsOpenOnTheDaysThatWerePointedAt) {
   Open();
-  QTest::keyClick(&Dialog().Month(), Qt::Key_Menu);
-  EXPECT_EQ(messages.beeps, 1);
+  const auto point = [&](int day) {
+    const Rect cell = Dialog().Month().Places().CellRect(Dialog().Month().Month().CellOf(5, day));
+    return QPoint((cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2);
+  };
+  const auto whileOpen = [&](std::function<void(QDialog&)> act) {
+    QTimer::singleShot(0, qApp, [act] {
+      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      act(*dialog);
+      dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+  };
+  for (const bool byKey : {true, false}) {
+    Select(byKey ? 20240514 : 20240516);
+    Dialog().Refresh();
+    whileOpen([&](QDialog& dialog) {
+      EXPECT_EQ(dialog.findChild<QSpinBox*>(QStringLiteral("day"))->value(), byKey ? 14 : 16);
+      EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("month"))->currentIndex(), 4);
+      QTest::keyClicks(dialog.focusWidget(), QStringLiteral("Moisson"));
+    });
+    if (byKey) {
+      QTest::keyClick(&Dialog().Month(), Qt::Key_Menu);
+    } else {
+      QTest::mouseDClick(&Dialog().Month(), Qt::LeftButton, {}, point(16));
+    }
+    const MonthModel& month = Dialog().Month().Month();
+    EXPECT_EQ(month.cells[static_cast<std::size_t>(month.CellOf(5, byKey ? 14 : 16))].eventText, u"Moisson");
+  }
+  EXPECT_EQ(Content().dayEvents.size(), 2U);
+
+  whileOpen([&](QDialog&) {});
+  QTest::mousePress(&Dialog().Month(), Qt::LeftButton, {}, point(21));
+  QTest::mouseMove(&Dialog().Month(), point(23));
+  QTest::mouseRelease(&Dialog().Month(), Qt::LeftButton, {}, point(23));
+  Settle();
+  ASSERT_EQ(Content().vacations.size(), 1U);
+  EXPECT_EQ(Content().vacations[0].ymdFrom, 20240521);
+  EXPECT_EQ(Content().vacations[0].ymdTo, 20240523);
+  const MonthModel& month = Dialog().Month().Month();
+  EXPECT_EQ(month.cells[static_cast<std::size_t>(month.CellOf(5, 22))].marks & kVacationMark, kVacationMark);
+  EXPECT_EQ(messages.beeps, 0);
 }
 
 TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOne) {
