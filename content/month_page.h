@@ -1,4 +1,4 @@
-// Which days the page of a month shows.
+// The days that the page of a month shows.
 //
 //   LastDayOfPage(Date(2024, 2, 1));  // 29
 //   IsOnItsPage(Date(15821010));      // false: the reform removed it
@@ -12,8 +12,8 @@
 
 namespace orbisol {
 
-// Returns the last day of the month that a date lies in, as the month's own page has it. A February can
-// depend on the day one asks from (Date::DaysInMonth): the page asks from the first day it shows.
+// Returns the last day of a date's month as the page of that month shows it. The length of a February can
+// depend on the day of the date that is asked (Date::DaysInMonth); a page asks the first day it shows.
 int LastDayOfPage(const Date& date);
 
 // Returns whether a date is on the page of its month. Any numbers are accepted.

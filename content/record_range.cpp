@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t kMostPieces = 3;
 
-// The bounds of whole years before the era, and of those from year 0 on that follow them.
+// Bounds of whole years before the era, and of the years from 0 on that follow them.
 PackedDate LowestOf(int year) { return year < 0 ? Pack(year, 12, 31) : Pack(year, 1, 1); }
 PackedDate HighestOf(int year) { return year < 0 ? Pack(year, 1, 1) : Pack(year, 12, 31); }
 

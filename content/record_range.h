@@ -48,7 +48,7 @@ std::vector<RecordBounds> BoundsOf(const DayRange& range);
 // comes before that day in -44), or it holds nothing.
 std::optional<DayRange> RangeOf(const RecordBounds& bounds);
 
-// Some neighboring records seen as one.
+// Neighboring records seen as one.
 struct JoinedRange {
   std::size_t records = 1;        // number of records, from the first one on
   std::optional<DayRange> range;  // empty where the first record alone is no range (RangeOf)

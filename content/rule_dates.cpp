@@ -11,7 +11,7 @@
 namespace orbisol {
 namespace {
 
-// The days of one year that a rule is tried on. What the matcher takes is added to `days`.
+// Days of one year on which a rule is tried. Those that the matcher accepts are added to `days`.
 class CCandidates {
  public:
   CCandidates(const DayEvent& rule, int year, std::vector<PackedDate>& days)
@@ -23,8 +23,8 @@ class CCandidates {
     Try(Date(m_year, static_cast<int>(month), static_cast<int>(day)));
   }
 
-  // Tries the dates of the year that have a day number. Two can have the same: 29 February -8 has that of
-  // 1 March, and so has a 29 February that only the page of its month knows.
+  // Tries the dates of the year that have a day number. Two dates can have the same: 29 February -8 has that
+  // of 1 March, and so has a 29 February that only the page of its month shows.
   void TryDayNumber(std::int64_t dayNumber) {
     if (dayNumber != Saturate(dayNumber)) return;
     const Date date = DateOfDayNumber(Saturate(dayNumber));
@@ -64,7 +64,7 @@ std::int64_t LastWithWeekday(std::int64_t last, int weekday) {
 
 bool Precedes(PackedDate a, PackedDate b) { return DayOrder(a) < DayOrder(b); }
 
-// The years in which a rule is valid, cut to those shown.
+// First and last of the years in which a rule is valid, cut to those shown.
 int FirstYear(const DayEvent& rule) { return std::max(Unpack(rule.ymdFrom).year, kFirstYearShown); }
 int LastYear(const DayEvent& rule) { return std::min(Unpack(rule.ymdTo).year, kLastYearShown); }
 

@@ -12,14 +12,14 @@
 namespace orbisol {
 namespace {
 
-constexpr int kSmallYear = 100;  // years of fewer digits are called "l'an 33"
+constexpr int kSmallYear = 100;  // first year that is not called "l'an …"
 constexpr int kLastOrdinal = 5;
 
 std::u16string_view TextPiece(int id, int n) { return Piece(StringText(id), u'|', n); }
 
 bool IsMonth(int month) { return month >= 1 && month <= 12; }
 
-// "14 juillet" and "1er mars"; a month that is none leaves the number.
+// Returns "14 juillet", "1er mars" and the like; only the number for a month outside 1..12.
 std::u16string DayAndMonth(int month, int day) {
   const std::u16string name = IsMonth(month) ? MonthName(month) : DecimalText(month);
   if (day == 1) return FormatText(TextPiece(kTextDayOfMonth, 1), {name});
@@ -72,7 +72,7 @@ bool IsTellable(const DayEvent& rule) {
   return false;
 }
 
-// Pieces of the texts of a validity.
+// Indices of the pieces of the texts of a validity.
 enum { kSince, kUntil, kFromTo, kWithinOne };
 
 std::u16string BothEnds(int texts, const DayRange& range, const std::u16string& first,

@@ -19,7 +19,7 @@ constexpr int kDaysIn400Years = 4 * kDaysIn100Years + 1;  // 400 Gregorian years
 // '/' rounds down.
 constexpr int kYearShift = 4800;
 constexpr int kJulianOrigin = -32082;     // day number of 1 March -4800 in the Julian calendar
-constexpr int kGregorianOrigin = -32044;  // and in the Gregorian
+constexpr int kGregorianOrigin = -32044;  // day number of 1 March -4800 in the Gregorian calendar
 constexpr unsigned kEverydayYears = 100000;
 
 // Returns an integer that rises with the date: day in five bits, month in four, years from -4800 above them.

@@ -11,7 +11,7 @@ namespace orbisol::reader {
 namespace {
 
 constexpr int kCentury = 100;
-constexpr int kSlack = 2;  // years around those shown that another calendar can still lead into
+constexpr int kSlack = 2;  // years outside those shown from which another calendar can still lead into them
 constexpr int kLongestMonth = 31;
 
 bool HasCivilYears() { return Rules().firstDayOfYear[0].from != 0; }
@@ -21,7 +21,8 @@ int WeekdayOf(const Date& date) {  // 1 Monday .. 7
   return weekday == 0 ? kDaysInWeek : weekday;
 }
 
-// The year that ends in these two digits and lies nearest to today's; the earlier of two.
+// Returns the year that ends in these two digits and lies nearest to today's; the earlier of two equally
+// near.
 int NearestYear(int twoDigits) {
   const int today = Date::Today().year;
   int nearest = today - today % kCentury + twoDigits - kCentury;
@@ -40,7 +41,7 @@ YearMonthDay GregorianDate(int dayNumber) {
 
 bool IsMonth(int month) { return 1 <= month && month <= 12; }
 
-// The last day of the month up to `day` that exists or was dropped.
+// Returns the last day of the month, at most `day`, that exists or was dropped.
 int PulledBack(const YearMonthDay& date) {
   YearMonthDay pulled = date;
   while (pulled.day > 1 && !DoesDateExist(pulled) &&
@@ -94,7 +95,8 @@ std::vector<YearChoice> CAnswer::YearsOf(const Item& number) {
   return {{value, DateNote::kNone}};
 }
 
-// The second of two years is the historical one, unless the rows say that the civil year was ahead.
+// Adds the readings of a double year. Its second year is the historical one, unless the rows say that the
+// civil year was ahead.
 int CAnswer::HistoricalOfDouble(int second, int month, int day) const {
   const int first = m_request.doubleYear;
   const bool isAhead =
@@ -170,8 +172,8 @@ void CAnswer::AddInForce(const YearMonthDay& typed, DateReading reading, bool is
   Add(DateOfDayNumber(date.DayNumber()), reading, isSpare);
 }
 
-// A date before the reform is Julian as it stands, with the leap years in force; from there on it is one of
-// the Julian calendar without their early errors (Date::JulianForm).
+// Adds a Julian date. Before the reform it is the date itself, with the leap years in force; from the reform
+// on it is one of the Julian calendar without their early errors (Date::JulianForm).
 void CAnswer::AddJulian(const YearMonthDay& typed, DateReading reading, bool isSpare) {
   const Date asItStands(typed.year, typed.month, typed.day);
   const PackedDate packed = asItStands.Packed();

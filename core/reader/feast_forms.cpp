@@ -1,4 +1,4 @@
-// Easter, and the days that hang on it.
+// Easter, and the days that depend on it.
 
 #include "core/civil_year.h"
 #include "core/easter.h"

@@ -14,13 +14,13 @@ namespace {
 constexpr int kMonths = 12;
 constexpr int kWeekdays = 7;
 constexpr int kSeptember = 9;
-constexpr int kMostWords = 4;  // of a phrase
+constexpr int kMostWords = 4;  // greatest number of words in a phrase
 constexpr std::u16string_view kAnd = u"et";
 constexpr std::u16string_view kMonthEnding = u"bre";  // "7bre" is September
 
 bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
-// Blanks and what else has no meaning of its own, beyond the first 128 characters.
+// Return whether a character is a hyphen, a blank, a point and so on, beyond ASCII too.
 bool IsHyphen(char16_t unit) {
   return unit == u'-' || unit == u'\u2212' || (unit >= 0x2010 && unit <= 0x2014);
 }
@@ -59,7 +59,7 @@ bool IsLetter(char16_t unit) {
 }
 bool IsSeparator(char16_t unit) { return unit == u'/' || unit == u'.' || unit == u',' || unit == u'('; }
 
-// The name of the user's language that a text begins with; `length` is 0 when there is none.
+// Name of the user's language with which a text begins; `length` is 0 if there is none.
 struct LocaleName {
   Word word;
   std::size_t length = 0;
@@ -94,7 +94,7 @@ class CLexer {
     ++m_at;
   }
 
-  // A sign stands right before digits and not right behind another item.
+  // A sign must be right before digits and must not be right after another item.
   void ReadHyphenOrSign() {
     const bool isFree =
         m_at == 0 || IsBlank(m_text[m_at - 1]) || IsHyphen(m_text[m_at - 1]) || IsSeparator(m_text[m_at - 1]);
@@ -214,7 +214,7 @@ class CLexer {
     AddUnknown(m_at, m_at + word.size());
   }
 
-  // Behind "an", "L" and "D" are numerals and no articles; in a remark, "DIX" is 509 and not ten.
+  // After "an", "L" and "D" are numerals, not articles; in a remark, "DIX" is 509, not ten.
   bool IsNumeralOfYear(std::u16string_view word) const {
     if (m_items.empty() || m_items.back().kind != WordKind::kYears) return false;
     const bool isRemark = m_items.size() > 1 && m_items[m_items.size() - 2].kind == WordKind::kOpen;

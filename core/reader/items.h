@@ -15,7 +15,7 @@
 
 namespace orbisol::reader {
 
-constexpr int kMostDigits = 9;  // of a number that an int holds; a longer one has the value kTooGreat
+constexpr int kMostDigits = 9;  // digits that surely fit an int; a longer number has the value kTooGreat
 constexpr int kTooGreat = 1000000000;
 
 struct Item {
@@ -31,7 +31,7 @@ struct Item {
   std::size_t begin = 0, end = 0;  // in the folded text
 };
 
-// Returns the items of a folded text. Words that nobody knows are items of their own, kUnknown.
+// Returns the items of a folded text. Unknown words are items of their own, kUnknown.
 std::vector<Item> ItemsOf(std::u16string_view folded);
 
 inline bool IsNumber(const Item& item) { return item.kind == WordKind::kNumber; }

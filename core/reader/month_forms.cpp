@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kLongestMonth = 31;
 constexpr int kYearFirst = 2;  // an order of dates
-constexpr int kShortYear = 2;  // digits
+constexpr int kShortYear = 2;  // digits of a year without its century
 
 enum RomanDay { kCalends = 1, kNones = 2, kIdes = 3 };
 

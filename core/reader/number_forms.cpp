@@ -19,7 +19,7 @@ constexpr int kLongestMonth = 31;
 constexpr int kDaysInFebruary = 28;
 constexpr std::array<int, 3> kOrders = {1, 0, kYearFirst};
 
-// Where year, month and day stand among three numbers.
+// Indices of year, month and day among three numbers.
 struct Places {
   std::size_t year, month, day;
 };
@@ -53,7 +53,7 @@ void AddInOrder(CAnswer& answer, const std::vector<Item>& numbers, int order) {
                   reading);
 }
 
-// "1789-07-14", the form of a standard that knows the Gregorian calendar alone.
+// Reads "1789-07-14", the form of a standard that knows the Gregorian calendar alone.
 bool IsIso(const std::vector<Item>& numbers) {
   return numbers[1].separator == u'-' && numbers[2].separator == u'-' &&
          (numbers[0].digits >= kMostYearDigits || HasSign(numbers[0]));
@@ -142,7 +142,7 @@ void ReadTwo(CAnswer& answer) {
     answer.AddOtherwise({request.selected.year, day.value, month.value}, exchanged);
 }
 
-// Six digits as a date in the user's order.
+// Reads six digits as a date in the user's order.
 void AddSixDigits(CAnswer& answer, const Item& number) {
   std::vector<Item> numbers(3, number);
   const std::array<int, 3> values = {number.value / 10000, number.value / 100 % 100, number.value % 100};

@@ -37,7 +37,7 @@ int LetterValue(char16_t letter) {
   }
 }
 
-// The value of letters that all are numerals, in any order; 0 where another stands between.
+// Returns the value of letters that are all numerals, in any order; 0 if another is among them.
 int SumOfLetters(std::u16string_view letters) {
   int sum = 0;
   for (std::size_t i = 0; i < letters.size(); ++i) {
@@ -56,7 +56,7 @@ int ValueOfLetters(std::u16string_view letters) {
   return value > 0 && Folded(RomanNumeral(value)) == letters ? value : 0;
 }
 
-// The value of number words, taken one by one: "quatre vingt" are eighty, "dix sept cent" seventeen hundred.
+// Value of number words, taken one by one: "quatre vingt" are eighty, "dix sept cent" seventeen hundred.
 class CSpokenNumber {
  public:
   void Take(int word) {
@@ -88,7 +88,7 @@ bool HasMonth(const std::vector<Item>& items) {
   });
 }
 
-// Settles what "sept" and "mar" are where they stand.
+// Decides what "sept" and "mar" mean by the words beside them.
 void SettleMonths(std::vector<Item>& items) {
   const bool hasMonth = HasMonth(items);
   for (std::size_t i = 0; i < items.size(); ++i) {

@@ -14,7 +14,7 @@ void AddDays(CAnswer& answer, const Date& from, std::int64_t days) {
   answer.AddDayNumber(std::int64_t{from.DayNumber()} + days, {});
 }
 
-// A step of months may lead to a date that the reform removed; the day that it counts as exists.
+// Adds a day. A step of months may end on a date that the reform removed; the day that it counts as is taken.
 void AddMonths(CAnswer& answer, std::int64_t months) {
   Date date = Date::Today();
   date.AddMonths(Saturate(months));
@@ -22,7 +22,7 @@ void AddMonths(CAnswer& answer, std::int64_t months) {
                 {});
 }
 
-// "dans 3 semaines", "il y a 2 ans"
+// Reads "dans 3 semaines" and "il y a 2 ans".
 bool ReadDistance(CAnswer& answer) {
   const std::vector<Item>& items = answer.Asked().items;
   const bool isDistance = items.size() == 3 &&
@@ -48,7 +48,7 @@ bool ReadDistance(CAnswer& answer) {
   }
 }
 
-// "lundi prochain" after today, "lundi dernier" before; "lundi" alone is the next one, today included.
+// Reads "lundi prochain" after today, "lundi dernier" before; "lundi" alone is the next one, today included.
 bool ReadWeekdayAlone(CAnswer& answer) {
   const Request& request = answer.Asked();
   if (request.weekday == 0 || request.items.size() > 1) return false;
@@ -62,7 +62,7 @@ bool ReadWeekdayAlone(CAnswer& answer) {
   return true;
 }
 
-// "-44": days from the selected date, and the year.
+// Reads "-44": days from the selected date, and the year.
 bool ReadSigned(CAnswer& answer) {
   const Request& request = answer.Asked();
   if (request.items.size() != 1 || !IsNumber(request.items[0]) || !HasSign(request.items[0])) return false;

@@ -1,4 +1,4 @@
-// How a typed date was understood, in French.
+// Sentences that tell, in French, how a typed date was understood.
 
 #include "core/civil_year.h"
 #include "core/date_reader.h"
@@ -27,7 +27,7 @@ std::u16string DayText(int day) {
   return day == 1 ? std::u16string(DatePieceText(kFirstDay)) : DecimalText(day);
 }
 
-// A year of two digits could be taken for a day, or for one of another century.
+// Returns a year so that two digits are not taken for a day or for a year of another century.
 std::u16string PlainYearText(int year) {
   const std::u16string text = YearText(year);
   return 0 <= year && year < kFirstLongYear ? FormatText(DatePieceText(kShortYear), {text}) : text;
@@ -84,7 +84,7 @@ std::u16string NoteOfReading(const DateReading& reading) {
   }
 }
 
-// The day that is not the one that the text named, of the week or of the décade.
+// Returns the day, of the week or of the décade, that differs from the one that the text named.
 std::u16string OtherDayNote(const DateReading& reading) {
   const std::u16string_view pattern = StringText(kTextReadingWeekdays);
   const Date date(reading.date);
