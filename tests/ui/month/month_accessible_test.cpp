@@ -1,4 +1,4 @@
-// What a screen reader is told of the month, without a bus in between.
+// The month as screen readers are told of it, without a bus in between.
 
 #include "ui/month/month_accessible.h"
 

@@ -1,4 +1,4 @@
-// What the tests of the month's windows begin with.
+// The fixtures of the tests of the month's windows.
 #pragma once
 
 #include <QApplication>
@@ -31,7 +31,7 @@ class SelectedDateTest : public ::testing::Test {
 
   static void Select(PackedDate date) { Selected().SetPacked(date); }
   static PackedDate Now() { return Selected().Packed(); }
-  // What was posted is delivered, what was asked for is painted.
+  // Delivers what was posted and paints what was asked for.
   static void Settle() { QApplication::processEvents(); }
 
  private:
@@ -41,7 +41,7 @@ class SelectedDateTest : public ::testing::Test {
 
 using Ranges = std::vector<std::pair<PackedDate, PackedDate>>;
 
-// A month window, and what its signals said. The 1st is a holiday in a vacation.
+// A month window, and a record of its signals. The 1st is a holiday in a vacation.
 class MonthWindowTest : public SelectedDateTest {
  protected:
   MonthWindowTest() {
@@ -92,7 +92,7 @@ class MonthWindowTest : public SelectedDateTest {
     EXPECT_NE(cell, kNoCell) << day << "/" << month;
     return ToQRect(window->Places().CellRect(cell));
   }
-  // Inside of the cell of a day that is in view.
+  // Returns a point inside the cell of a day that is in view.
   QPoint At(int month, int day) { return CellOf(month, day).center(); }
 
   int moves = 0;

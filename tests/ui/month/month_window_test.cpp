@@ -170,7 +170,7 @@ TEST_F(MonthWindowTest, ShiftWithArrowsSelectsARangeThatTheMenuKeyOpens) {
     EXPECT_FALSE(window->HasRange());
   }
   Press(Qt::Key_Up, Qt::ShiftModifier);
-  Select(17890714);  // by another hand
+  Select(17890714);  // selected elsewhere
   window->Refresh();
   EXPECT_FALSE(window->HasRange());
 }
@@ -190,10 +190,10 @@ TEST_F(MonthWindowTest, MenuKeyAndDoubleClickOpenADay) {
 
 TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
   struct Turn {
-    int eighths;  // of a degree
+    int eighths;  // turn in eighths of a degree
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
     Qt::ScrollPhase phase = Qt::NoScrollPhase;
-    quint64 time = 0;  // milliseconds
+    quint64 time = 0;  // time of the turn in milliseconds
     int aside = 0;
   };
   const struct {
@@ -224,7 +224,8 @@ TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
   }
 }
 
-// A pipe would never answer. A picture comes after the first paint, and anew after each change of settings.
+// A pipe would never answer. A picture is read after the first paint, and again after each change of
+// settings.
 TEST_F(MonthWindowTest, PicturesComeFromRegularFilesAndWithoutBeingWaitedFor) {
   const QTemporaryDir folder;
   const QString picture = folder.filePath(QStringLiteral("picture.png"));
@@ -322,7 +323,7 @@ TEST_F(MonthWindowTest, IsSharpOnAScreenOfAnotherRatioAndPaintableInAnySize) {
   EXPECT_EQ(warnings.Texts(), std::vector<std::string>());
 }
 
-// Windows begin in the middle of a device pixel there, and end in one.
+// At such a ratio windows begin and end in the middle of a device pixel.
 TEST_F(MonthWindowTest, ClosingLinesAreSeenWhereverTheWindowLiesAtAFractionalRatio) {
   QWidget parent;
   auto* const month = new CMonthWindow(&parent);

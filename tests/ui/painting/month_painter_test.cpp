@@ -22,7 +22,7 @@ namespace {
 
 constexpr Color kBlue = Rgb(0x20, 0x60, 0xE0);
 constexpr Color kYellow = Rgb(0xFF, 0xF0, 0x80);
-constexpr Color kMagenta = Rgb(0xFF, 0, 0xFF);  // stands where nothing was painted
+constexpr Color kMagenta = Rgb(0xFF, 0, 0xFF);  // color where nothing was painted
 
 // May 2024, painted as a window does. Plain and without a grid, so that a pixel has one reason for its color.
 struct Page {
@@ -79,7 +79,7 @@ Color PixelAt(const QImage& image, int x, int y) {
              static_cast<unsigned>(qBlue(pixel)));
 }
 
-// How wide the stripes of a color are that a line of the image crosses, from left to right or down.
+// Returns the widths of the stripes of a color that a line of the image crosses, from left to right or down.
 std::set<int> Widths(const QImage& image, Color color, int at, bool isDown) {
   std::set<int> widths;
   int wide = 0;
@@ -129,7 +129,7 @@ TEST(MonthPainterTest, GridLinesStandAtTheCellsEdgesAndNumbersBesideWeeksWithDay
   EXPECT_EQ(Widths(weeks.copy(701, 360, 23, 60), kWindowColor, 30, false), std::set{23}) << "a week too many";
 }
 
-// In device pixels, at ratios where those of the layout are none of the screen.
+// Lines are measured in device pixels, at ratios where these are not the pixels of the layout.
 TEST(MonthPainterTest, LinesAndFramesAreEquallyWideAtEveryRatio) {
   Page page;
   page.width = 713;

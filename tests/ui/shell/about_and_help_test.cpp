@@ -12,7 +12,7 @@
 namespace orbisol {
 namespace {
 
-// The version stands once, where the build begins.
+// The version has one home, the top CMakeLists.txt.
 TEST_F(FrameTest, TheAboutBoxSaysTheVersionOfTheBuild) {
   QFile build(QStringLiteral(ORBISOL_SOURCE_DIR "/CMakeLists.txt"));
   ASSERT_TRUE(build.open(QIODevice::ReadOnly));

@@ -33,7 +33,7 @@ class Failure(Exception):
 
 
 def wait_for(what, condition, step=lambda: time.sleep(0.05)):
-    """Returns what the condition returns as soon as that is true."""
+    """Returns the answer of the condition as soon as it is true."""
     end = time.monotonic() + WAIT
     while True:
         answer = condition()
@@ -65,7 +65,7 @@ def children_of(pid):
 
 
 def end_all_children():
-    """Ends our children and theirs, which come to us when their parents end."""
+    """Ends our processes and their children, which become ours when their parents end."""
     for number in [signal.SIGTERM] * 20 + [signal.SIGKILL] * 100:
         while True:
             try:
@@ -79,7 +79,7 @@ def end_all_children():
 
 
 def make_stage(root, program, sources, legals):
-    """The program with what it ships, as it is installed; it looks for that beside its own file."""
+    """Returns the program as it is installed, with its data beside it, where it looks for them."""
     share = os.path.join(root, "stage", "share", "orbisol")
     os.makedirs(os.path.join(root, "stage", "bin"))
     os.makedirs(share)
@@ -229,7 +229,7 @@ class Reader:
         return item.getState()
 
     def find(self, matches, item=None):
-        """The first match below the program's window, depth first; None while there is none."""
+        """Returns the first match below the program's window, depth first; None while there is none."""
         if item is None:
             desktop = self.atspi.Registry.getDesktop(0)
             items = [app for app in desktop if app is not None and app.name == "orbisol"]

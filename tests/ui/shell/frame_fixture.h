@@ -20,7 +20,7 @@ namespace orbisol {
 
 struct SpyMessages : UserMessages {
   std::vector<QString> errors, questions;
-  int choice = -1;  // the answer to every question
+  int choice = -1;  // answer to every question
   int beeps = 0;
 
   void ShowError(QWidget*, const QString& text) override { errors.push_back(text); }
@@ -64,13 +64,13 @@ class FrameTest : public ::testing::Test {
   }
   CMainDlg& Dialog() { return frame->Dialog(); }
 
-  // As if it had been changed in a view.
+  // Shows a date as if a view had changed it.
   void Show(PackedDate date) {
     Select(date);
     Dialog().Refresh();
   }
 
-  // A control of the pane by its class and its text without "&".
+  // Returns a control of the pane by its class and its text without "&".
   template <class Widget>
   Widget* Control(const char* text) {
     for (Widget* const widget : Dialog().Pane().template findChildren<Widget*>())

@@ -111,7 +111,7 @@ TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
   EXPECT_TRUE(frame->Commands().Action(kCmdTogglePane)->isChecked());
 }
 
-// Of a window, its frame around it included.
+// Returns the rectangle of a window with its frame.
 Rect WithFrame(const QWidget& window) {
   const QRect rect = window.frameGeometry();
   return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};

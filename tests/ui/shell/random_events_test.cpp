@@ -1,4 +1,5 @@
-// Finds what no list of cases would: any hand on any control of the whole window, in any order, at any size.
+// Random events on any control of the whole window, in any order and at any size, find what no list of cases
+// would.
 //
 // ORBISOL_RANDOM_EVENTS sets how many events are sent.
 
@@ -81,7 +82,7 @@ class RandomEventsTest : public FrameTest {
     return some;
   }
 
-  // Where a real hand would come through: the open menu first, else the window; sometimes just beside it.
+  // Events go where a user's would: to the open menu first, else to the window; sometimes just beside it.
   struct Spot {
     QPointer<QWidget> widget;
     QPoint inside;
@@ -118,7 +119,7 @@ class RandomEventsTest : public FrameTest {
     QApplication::sendEvent(spot.widget, &event);
   }
 
-  // Pressed and let go in one widget, as the toolkit guarantees to it.
+  // Press and release go to one widget, as the toolkit guarantees.
   void SendGesture() {
     const Spot spot = Anywhere();
     const Qt::MouseButton button = OneIn(8) ? Qt::RightButton : Qt::LeftButton;
@@ -228,7 +229,7 @@ TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
       if (HasFatalFailure()) return;
     }
   }
-  EXPECT_GT(months, events / 50);  // the hands do reach something
+  EXPECT_GT(months, events / 50);  // the events do reach something
 }
 
 }  // namespace

@@ -100,9 +100,9 @@ TEST_F(RunTest, AnEndFromOutsideLosesNoLayout) {
 
 TEST(CommandLineTest, ItAsksForATextOrIsRefusedInOneLine) {
   const struct {
-    std::vector<std::string_view> words;  // behind the name
-    std::optional<int> code;              // none: the program runs
-    std::string_view out, errors;         // beginnings
+    std::vector<std::string_view> words;  // words after the program's name
+    std::optional<int> code;              // nothing if the program is to run
+    std::string_view out, errors;         // beginnings of what is printed
   } kRows[] = {
       {{}, {}, "", ""},
       {{"--help"}, 0, "Utilisation : orbisol", ""},
