@@ -18,10 +18,10 @@ namespace orbisol {
 
 // The folders of calendars, which need not exist.
 struct CalendarFolders {
-  std::u16string calendars;      // of the user's calendars
-  std::u16string userLegals;     // public calendars that the user added
-  std::u16string shippedLegals;  // public calendars that came with the program
-  std::u16string versions;       // earlier versions of the user's calendars, one folder a calendar
+  std::u16string calendars;      // folder of the user's calendars
+  std::u16string userLegals;     // folder of public calendars that the user added
+  std::u16string shippedLegals;  // folder of public calendars that came with the program
+  std::u16string versions;       // folder of earlier versions, with one folder a calendar
 };
 
 // Tells whether a file still holds the bytes that were read. A file rewritten with the same bytes has the
@@ -46,12 +46,12 @@ enum class WriteResult {
   kFailed,     // the file is as it was
 };
 
-// Whether a reader finds the new bytes now.
+// Returns whether a reader finds the new bytes now.
 constexpr bool IsInPlace(WriteResult result) {
   return result == WriteResult::kWritten || result == WriteResult::kNotSynced;
 }
 
-// Held until it is destroyed, or the process ends.
+// Lock that is held until it is destroyed, or the process ends.
 struct FileLock {
   virtual ~FileLock() = default;
 };
@@ -63,10 +63,10 @@ struct FileSystem {
   // folder that does not exist.
   virtual std::vector<std::u16string> List(std::u16string_view folder, std::u16string_view ending) const = 0;
 
-  // Returns whether anything stands there. Where that cannot be found out the answer is yes.
+  // Returns whether a path exists; true also if that cannot be found out.
   virtual bool Exists(std::u16string_view path) const = 0;
 
-  // Returns nothing when the file is missing or cannot be read whole.
+  // Returns the bytes of a file; nothing if it is missing or cannot be read whole.
   virtual std::optional<FileBytes> Read(std::u16string_view path) const = 0;
 
   // Returns the number of bytes of a file; nothing when it is missing.

@@ -15,7 +15,7 @@
 
 namespace orbisol {
 
-// A public calendar, in whichever of the two folders it stands.
+// A public calendar, in either of the two folders.
 struct PublicCalendar {
   std::u16string name;
   std::u16string path;
@@ -31,11 +31,12 @@ class CPublicCalendars {
   // Shipped ones for first starts (IsFirstStartName) are left out.
   std::vector<PublicCalendar> List() const;
 
-  // Returns where the public calendar of that name stands, the user's before the shipped one; empty when
-  // nowhere.
+  // Returns the path of the public calendar of that name, the user's before the shipped one; empty if there
+  // is none.
   std::u16string PathOf(std::u16string_view name) const;
 
-  // Returns nothing when the file cannot be read. Its `info` says what the calendar is, or is empty.
+  // Returns a calendar; nothing if the file cannot be read. Its `info` says what the calendar is, or is
+  // empty.
   std::optional<CalendarFile> Load(std::u16string_view path) const;
 
  private:

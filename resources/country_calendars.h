@@ -1,4 +1,4 @@
-// Which of the shipped public calendars belongs to which country. The build makes the table from the sources
+// The shipped public calendar of each country. The build makes the table from the sources
 // in resources/holidays/.
 #pragma once
 

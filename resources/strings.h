@@ -186,7 +186,7 @@ enum TextId : int {
   kTextReaderRefusals = 5775,   // in the order of DateRefusal, kNone left out
 };
 
-// Empty for a number that the table does not hold.
+// Returns a text; empty for a number that the table does not hold.
 std::u16string_view StringText(int id);
 
 }  // namespace orbisol

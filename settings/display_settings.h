@@ -18,18 +18,18 @@ namespace orbisol {
 struct DisplaySettings : CalendarLook {
   WindowLayout mainLayout;
   WindowLayout printLayout;
-  bool changed = false;  // edited since the last save
+  bool changed = false;  // whether the calendar was edited since the last save
   bool showWeekNumber = false;
-  bool circleTheDay = false;        // mark the active day with a circle, not a rectangle
+  bool circleTheDay = false;        // true: the mark of the active day is a circle; false: a rectangle
   int circleWidth = 2;              // 1 thin .. 3 thick; out of range as stored, clamped where used
-  bool collapseCells = true;        // backgrounds of neighboring days touch
-  bool fullCellBackground = false;  // over the whole cell, not a band
+  bool collapseCells = true;        // whether backgrounds of neighboring days touch
+  bool fullCellBackground = false;  // true: a background fills the whole cell; false: a band
   int backgroundAlpha = 128;        // 0 invisible .. 255 opaque; out of range as stored, clamped where used
   bool grid = true;
   bool tipsForEventsOnly = true;
   FixedText<kMaxPathUnits + 1> calendarName;  // empty reads as "Calendar"
-  bool magnetMouse = false;                   // the pointer stays on the active cell
-  std::u16string calendarPath;                // the file of the calendar, empty before it is known
+  bool magnetMouse = false;                   // whether the pointer stays on the active cell
+  std::u16string calendarPath;                // file of the calendar, empty before it is known
 
   CalendarLook& Look() { return *this; }
   const CalendarLook& Look() const { return *this; }
@@ -40,7 +40,7 @@ struct DisplaySettings : CalendarLook {
   bool operator==(const DisplaySettings&) const = default;
 };
 
-// The settings in force.
+// Returns the settings in force.
 DisplaySettings& Display();
 
 }  // namespace orbisol

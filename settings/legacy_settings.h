@@ -6,8 +6,9 @@
 
 namespace orbisol {
 
-// Called by ReadSettings when the key holds no calendar name. `values` is the key as it was read; `stored`
-// holds the calendar "Calendar" as it was loaded, or the content of the first start where it has no file.
+// Migrates the settings, for ReadSettings, when the key holds no calendar name. `values` is the key as it was
+// read; `stored` holds the calendar "Calendar" as it was loaded, or the content of the first start where it
+// has no file.
 //
 // The old values go into `stored` and the calendar is written. Only when that succeeded, the copies of public
 // calendars that older releases made (IsFirstStartCopy) go to the trash, and the old values are

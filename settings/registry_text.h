@@ -28,7 +28,7 @@
 
 namespace orbisol {
 
-// A file with more bytes is no readable key: short lines take far more room in memory than in the file.
+// Greatest size of a file that is a readable key: short lines take far more room in memory than in the file.
 constexpr std::size_t kMaxKeyBytes = std::size_t{1} << 20;
 
 class CRegistryText {
@@ -36,7 +36,7 @@ class CRegistryText {
   explicit CRegistryText(std::string_view bytes);
 
   // Returns whether every character was well-formed. Otherwise Bytes() has U+FFFD where the file had
-  // something else: back it up before they take its place.
+  // something else: back the file up before they replace it.
   bool IsLossless() const { return m_isLossless; }
 
   // Returns the values of our key; of two lines with one name the later counts. A line whose value is
@@ -59,7 +59,7 @@ class CRegistryText {
 
     std::string text;  // one line, or the lines of one value, without the last line end
     Kind kind = kOther;
-    std::string name;                  // of a value
+    std::string name;                  // name of the value
     std::optional<StoredValue> value;  // nothing when malformed
   };
 

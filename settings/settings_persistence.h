@@ -27,10 +27,10 @@ namespace orbisol {
 struct StoredSettings {
   bool keyFound = false;      // without a key the installation is broken
   bool layoutStored = false;  // false until the main window was closed once
-  DisplaySettings display;    // with name and path of the calendar
+  DisplaySettings display;    // settings, with name and path of the calendar
   CalendarRules rules;
   CalendarContent content;
-  LoadResult file = LoadResult::kMissing;  // of the calendar, before a migration wrote it
+  LoadResult file = LoadResult::kMissing;  // state of the calendar's file before a migration wrote it
 };
 
 // Returns the stored settings. A value that is missing, of another type or malformed takes its default, and
@@ -43,8 +43,8 @@ StoredSettings ReadSettings(SettingsStore& store, CCalendarStore& calendars,
                             const Rect& screen);
 
 struct SaveOutcome {
-  WriteResult calendar = WriteResult::kFailed;  // of the calendar's file
-  std::u16string name;                          // under which the calendar was saved, or was to be
+  WriteResult calendar = WriteResult::kFailed;  // result for the calendar's file
+  std::u16string name;                          // name under which it was saved, or was to be saved
   bool key = false;                             // whether the values of the key were stored too
 };
 

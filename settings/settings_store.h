@@ -27,7 +27,7 @@ constexpr char kCalendarNameValue[] = "CalendarName";
 
 struct StoredValue {
   ValueType type = kRegBinary;
-  std::string bytes;  // as they are stored, whatever the type
+  std::string bytes;  // bytes as stored, whatever the type
 
   bool operator==(const StoredValue&) const = default;
 };
@@ -46,7 +46,7 @@ using StoredValues = std::map<std::string, StoredValue, NameLess>;  // names in 
 // Returns the text of UTF-16LE bytes; half a unit at the end is left out.
 std::u16string FromUtf16Le(std::string_view bytes);
 
-// Return the value of that name; nothing when there is none or it has another type.
+// Return the value of that name; nothing if there is none or it has another type.
 //
 // A number needs four bytes. A text of either kind needs an even number of bytes and a zero at its end, or no
 // byte at all, which is the empty text; it has at most `maxUnits` units before its last zero and ends at its
@@ -57,14 +57,15 @@ std::optional<std::vector<std::uint8_t>> BinaryOf(const StoredValues& values, st
 
 struct StoreChange {
   std::string name;                  // not empty, without control characters
-  std::optional<StoredValue> value;  // nothing: the value is deleted; one that is missing is no error
+  std::optional<StoredValue> value;  // nothing deletes the value, which need not exist
 };
 
 struct SettingsStore {
   virtual ~SettingsStore() = default;
 
-  // Returns nothing when the key does not exist. One that exists and cannot be read holds the name of the
-  // default calendar alone: the program goes on with that calendar and takes nothing for an older release's.
+  // Returns the values; nothing when the key does not exist. A key that exists and cannot be read holds the
+  // name of the default calendar alone: the program goes on with that calendar and takes nothing for an older
+  // release's.
   virtual std::optional<StoredValues> Read() const = 0;
 
   // Makes all changes, in their order, or none. Returns false when that is not sure: there is no key, it

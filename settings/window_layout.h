@@ -1,5 +1,5 @@
-// Where a top-level window stands: the record, its bytes under the key, and its place on the screens of
-// today.
+// The layout of a top-level window: the record, its bytes under the key, and its place on the present
+// screens.
 //
 //   WindowLayout layout;
 //   LayoutFromBytes(bytes, layout);
@@ -15,12 +15,12 @@
 namespace orbisol {
 
 struct WindowLayout {
-  Rect rect{50, 50, 900, 450};  // screen coordinates with the frame; of the main window always with its pane
+  Rect rect{50, 50, 900, 450};  // rectangle on the screen, with the frame and, shown or not, the pane
   bool maximized = false;
   bool statusBarShown = true;
-  std::uint8_t reserved = 1;    // carried along
+  std::uint8_t reserved = 1;    // byte without a meaning, kept as it was
   bool rightPaneShown = false;  // a fresh window shows the month alone
-  int rightPaneWidth = 0;       // pixels; informative, measured anew at every start
+  int rightPaneWidth = 0;       // width in pixels, for information; computed anew at every start
 
   bool operator==(const WindowLayout&) const = default;
 };
@@ -30,7 +30,7 @@ constexpr std::size_t kWindowLayoutBytes = 24;
 // Returns the fields in little-endian order: four integers, four bytes, one integer. A flag is 0 or 1.
 std::array<std::uint8_t, kWindowLayoutBytes> LayoutToBytes(const WindowLayout& layout);
 
-// Takes as many whole fields as there are bytes; the others keep their value. Any byte but 0 sets a flag.
+// Sets as many whole fields as there are bytes; the others keep their value. Any byte but 0 sets a flag.
 // Bytes past the 24th are ignored.
 void LayoutFromBytes(std::span<const std::uint8_t> bytes, WindowLayout& layout);
 
