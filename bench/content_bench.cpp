@@ -8,6 +8,7 @@
 #include <random>
 #include <string>
 
+#include "content/content_search.h"
 #include "content/import_holidays.h"
 #include "content/month_model.h"
 #include "core/date_reader.h"
@@ -130,6 +131,20 @@ void ReadLargeFile(benchmark::State& state) {
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 BENCHMARK(ReadLargeFile)->Arg(45000)->Arg(90000)->Unit(benchmark::kMillisecond);
+
+// Finds a word that several rules and a period hold, in all years.
+void SearchAllYears(benchmark::State& state) {
+  CalendarContent content = France();
+  content.vacations.push_back({20240706, 20240831, NameText(u"Fête de l'été")});
+  for ([[maybe_unused]] auto _ : state) {
+    const CContentSearch search(content, u"fete");
+    std::size_t hits = 0;
+    for (int year = search.FirstYear(); year <= search.LastYear(); ++year)
+      hits += search.HitsInYear(year).size();
+    benchmark::DoNotOptimize(hits);
+  }
+}
+BENCHMARK(SearchAllYears)->Unit(benchmark::kMillisecond);
 
 // Reads typed dates of all forms, and says how the best reading was understood. One item is one text.
 void ReadTypedDates(benchmark::State& state) {

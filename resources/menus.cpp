@@ -5,15 +5,20 @@ namespace {
 
 constexpr MenuItem kFileMenu[] = {
     {kCmdChooseCalendar, u"Autre calendrier...", u""},
-    {kCmdPrint, u"&Imprimer...", u""},
+    {kCmdPrint, u"&Imprimer...", u"Ctrl+P"},
     {kNoCommand, u"", u""},
-    {kCmdQuit, u"&Quitter", u""},
+    {kCmdQuit, u"&Quitter", u"Ctrl+Q"},
 };
 
 constexpr MenuItem kEditMenu[] = {
     {kCmdCopyDate, u"Co&pier la date", u"Ctrl+C"},
     {kCmdCopyJulianDate, u"Copier la date julienne", u""},
     {kCmdCopyRepublicanDate, u"Copier la date républicaine", u""},
+    {kNoCommand, u"", u""},
+    {kCmdGoToDate, u"&Aller à une date...", u"Ctrl+G"},
+    {kCmdFind, u"&Rechercher...", u"Ctrl+F"},
+    {kCmdFindNext, u"Rechercher le &suivant", u"F3"},
+    {kCmdFindPrevious, u"Rechercher le p&récédent", u"Shift+F3"},
 };
 
 constexpr MenuItem kViewMenu[] = {
@@ -49,6 +54,7 @@ constexpr ToolItem kMainToolBar[] = {
     {kCmdGoBack, "back"},
     {kCmdGoForward, "forward"},
     {kCmdGoToToday, "today"},
+    {kCmdGoToDate, "goto"},
     {kNoCommand, ""},
     {kCmdEditEvents, "events"},
     {kCmdEditVacations, "vacations"},

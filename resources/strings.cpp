@@ -171,6 +171,11 @@ constexpr Entry kStrings[] = {
     {kCmdGoBack, u"Revenir à la date affichée auparavant\nDate précédente (Alt+Gauche)"},
     {kCmdGoForward, u"Retourner à la date affichée ensuite\nDate suivante (Alt+Droite)"},
     {kCmdGoToToday, u"Revenir à la date d'aujourd'hui\nAujourd'hui (Alt+Début)"},
+    {kCmdGoToDate, u"Aller à une date, écrite comme vous en avez l'habitude\nAller à une date (Ctrl+G)"},
+    {kCmdFind, u"Chercher les jours dont le texte contient un mot\nRechercher (Ctrl+F)"},
+    {kCmdFindNext, u"Aller au prochain jour dont le texte contient le mot cherché\nSuivant (F3)"},
+    {kCmdFindPrevious,
+     u"Aller au dernier jour, avant celui-ci, dont le texte contient le mot cherché\nPrécédent (Maj+F3)"},
     {kTextCalendarChanged,
      u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
      u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"
@@ -251,6 +256,12 @@ constexpr Entry kStrings[] = {
      u"Tombe le 28 novembre en 2024, le 27 novembre en 2025, le 26 novembre en 2026 et en d'autres années."},
     {kTextLongestLength,
      u"Du mercredi 30 septembre 2026 au mercredi 30 décembre 2026 : 100 jours.\nChevauche « Vacances ».\n"},
+    {kTextGoToDate, u"Cette date est comprise ainsi :|Cette date peut être :|Vouliez-vous dire :"},
+    {kTextReadingLine, u"%s — %s"},
+    {kTextFindDay,
+     u"Aucun jour ne contient ce texte.|1 résultat.|%s résultats.|Recherche arrêtée : %s résultats.|"
+     u"%s premiers résultats ; « Suivant » et « Précédent » trouvent les autres.|"
+     u"Aucun autre jour ensuite.|Aucun autre jour auparavant."},
     {kTextRuleDays,
      u"le %s|le %s, ou le lundi suivant s'il tombe un week-end|le %s, ou le lendemain s'il tombe un "
      u"dimanche"},
@@ -322,7 +333,7 @@ constexpr Entry kStrings[] = {
     {kTextReadingDate, u"%s %s %s %s| (%d av. J.-C.)| (année civile %s)|, julien|, grégorien|1er|de l'an %s"},
     {kTextReadingNotes,
      u"lu dans l'ordre %s|siècle le plus proche|%s %s %s, julien|%s %s %s, grégorien|"
-     u"le %s %s %s n'existe pas ; lu comme date julienne|jour julien n° %d|%de jour de l'année|"
+     u"le %s %s %s n'existe pas ; lu comme date julienne|jour julien n° %d|%de jour de l'année|"
      u"semaine %d de %s|%s %s an %s"},
     {kTextReadingWeekdays, u"le %s est un %s"},
     {kTextReadingOrders, u"mois/jour/année|jour/mois/année|année/mois/jour"},

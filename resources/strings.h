@@ -131,6 +131,9 @@ enum TextId : int {
   kTextLongestFallsOn = 5362,  // that there is room for
   kTextLongestLength = 5363,
   kTextDateLabels = 5361,  // of the fields for a date, for a month
+  kTextGoToDate = 5370,  // over one reading, over several, behind a reason before the dates that are offered
+  kTextReadingLine = 5371,  // a reading, and how it was understood
+  kTextFindDay = 5380,      // no hit, one, many; stopped; too many; none after, none before
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

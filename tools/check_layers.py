@@ -23,7 +23,7 @@ LAYERS = [
     [("ui/toolkit", True, ["ui/toolkit/"])],
     [("ui/painting", True, ["ui/painting/"]), ("ui/window", True, ["ui/window/"])],
     [(name, True, [name + "/"]) for name in (
-        "ui/month", "ui/header", "ui/converter", "ui/editors", "ui/calendars", "ui/preferences", "ui/print")],
+        "ui/month", "ui/header", "ui/converter", "ui/editors", "ui/find", "ui/calendars", "ui/preferences", "ui/print")],
     [("ui/shell", True, ["ui/shell/"])],
 ]
 

@@ -35,5 +35,6 @@ void TakeMonths(CPictureFolder& folder);   // the month alone, in what the setti
 void TakeHelp(CPictureFolder& folder);     // the help and the about box
 void TakeEditors(CPictureFolder& folder);  // of events and vacation periods
 void TakeFields(CPictureFolder& folder);   // the fields that dialogs share
+void TakeFind(CPictureFolder& folder);     // going to a date, and searching
 
 }  // namespace orbisol

@@ -26,6 +26,7 @@ constexpr struct {
     {"main_window", TakeMainWindow},
     {"months", TakeMonths},
     {"fields", TakeFields},
+    {"find", TakeFind},
     {"help", TakeHelp},
     {"editors", TakeEditors},
 };

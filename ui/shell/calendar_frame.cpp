@@ -231,10 +231,12 @@ void CCalendarFrame::OnGoBack() { m_dialog->GoBack(); }
 
 void CCalendarFrame::OnGoForward() { m_dialog->GoForward(); }
 
-void CCalendarFrame::OnGoToToday() {
-  Selected().SetPacked(Date::Today().Packed());
+void CCalendarFrame::GoTo(PackedDate date) {
+  Selected().SetPacked(date);
   m_dialog->Refresh();
 }
+
+void CCalendarFrame::OnGoToToday() { GoTo(Date::Today().Packed()); }
 
 void CCalendarFrame::OnQuit() { close(); }
 

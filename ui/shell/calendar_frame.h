@@ -57,6 +57,9 @@ class CCalendarFrame : public QMainWindow {
   // Shows the calendar in use anew, after its name, its look, its rules or its content were changed.
   void CalendarChanged();
 
+  // Selects and shows a day that was named, a leap in the history of dates.
+  void GoTo(PackedDate date);
+
   CMainDlg& Dialog() { return *m_dialog; }
   const FrameServices& Services() const { return m_services; }
   CCommandTable& Commands() { return *m_commands; }

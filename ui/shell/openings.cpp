@@ -8,6 +8,8 @@
 #include "ui/editors/events_dialog.h"
 #include "ui/editors/import_holidays_dlg.h"
 #include "ui/editors/vacations_dialog.h"
+#include "ui/find/find_day_dialog.h"
+#include "ui/find/go_to_date_dialog.h"
 #include "ui/shell/about.h"
 #include "ui/shell/calendar_frame.h"
 #include "ui/window/help.h"
@@ -37,11 +39,47 @@ void OpenVacations(const OpeningRequest& request) {
   request.frame.CalendarChanged();
 }
 
+void OpenGoToDate(const OpeningRequest& request) {
+  CGoToDateDialog dialog(&request.frame, Selected().Packed());
+  if (dialog.exec() == QDialog::Accepted && dialog.Date() != 0) request.frame.GoTo(dialog.Date());
+}
+
+// Returns the one window of a frame that searches, made when first needed.
+CFindDayDialog& FindDialogOf(CCalendarFrame& frame) {
+  if (auto* const made = frame.findChild<CFindDayDialog*>()) return *made;
+  auto* const dialog = new CFindDayDialog(&frame);
+  QObject::connect(dialog, &CFindDayDialog::dayFound, &frame, &CCalendarFrame::GoTo);
+  QObject::connect(&frame.Dialog(), &CMainDlg::dateShown, dialog,
+                   [dialog] { dialog->SetSelected(Selected().Packed()); });
+  dialog->SetContent(Content());
+  dialog->SetSelected(Selected().Packed());
+  return *dialog;
+}
+
+void OpenFind(const OpeningRequest& request) {
+  FindDialogOf(request.frame).Open(Content(), Selected().Packed());
+}
+
+void FindNext(const OpeningRequest& request) {
+  CFindDayDialog& dialog = FindDialogOf(request.frame);
+  dialog.SetContent(Content());
+  dialog.FindNext();
+}
+
+void FindPrevious(const OpeningRequest& request) {
+  CFindDayDialog& dialog = FindDialogOf(request.frame);
+  dialog.SetContent(Content());
+  dialog.FindPrevious();
+}
+
 // clang-format off: a row each, so that windows made side by side change lines of their own.
 constexpr Opening kOpenings[] = {
-    {kCmdChooseCalendar, nullptr},      {kCmdPrint, nullptr},       {kCmdEditEvents, OpenEvents},
-    {kCmdEditVacations, OpenVacations}, {kCmdPreferences, nullptr}, {kCmdHelpContents, OpenHelpContents},
-    {kCmdHelpIndex, OpenHelpIndex},     {kCmdAbout, OpenAbout},
+    {kCmdChooseCalendar, nullptr},  {kCmdPrint, nullptr},
+    {kCmdEditEvents, OpenEvents},   {kCmdEditVacations, OpenVacations},
+    {kCmdPreferences, nullptr},     {kCmdHelpContents, OpenHelpContents},
+    {kCmdHelpIndex, OpenHelpIndex}, {kCmdAbout, OpenAbout},
+    {kCmdGoToDate, OpenGoToDate},   {kCmdFind, OpenFind},
+    {kCmdFindNext, FindNext},       {kCmdFindPrevious, FindPrevious},
 };
 // clang-format on
 

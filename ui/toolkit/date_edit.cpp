@@ -84,7 +84,8 @@ void CDateEdit::ReadText() {
     Take(0, {});
     return;
   }
-  const TypedDate date = ReadTypedDate(Utf16View(typed), UserOrder());
+  const PackedDate selected = m_date != 0 ? m_date : orbisol::Date::Today().Packed();
+  const TypedDate date = ReadFieldDate(Utf16View(typed), UserOrder(), selected);
   const bool isBeginningOfNone = m_noneText.startsWith(typed, Qt::CaseInsensitive);
   m_isUnfinished = date.fault == DateFault::kIncomplete || isBeginningOfNone;
   Take(date.ymd, ToQString(DateFaultText(date, UserOrder())));

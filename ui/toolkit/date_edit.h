@@ -1,4 +1,5 @@
-// An edit field for one date, typed and shown in the user's order: "14/07/1789".
+// An edit field for one date, shown in the user's order: "14/07/1789". It is typed in that order or in words,
+// where these have one meaning ("14 juillet 1789").
 //
 //   auto* const from = new CDateEdit;
 //   from->SetNoneText(u"toujours");            // no date is an answer too

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "content/selected_date.h"
 #include "core/calendar_config.h"
 #include "core/date.h"
+#include "core/date_reader.h"
 #include "core/date_text.h"
 #include "core/text.h"
 #include "resources/strings.h"
@@ -84,6 +86,15 @@ TypedDate ReadTypedDate(std::u16string_view text, int order) {
   if (typed.fault == DateFault::kNone)
     typed.ymd = Pack(typed.fields.year, typed.fields.month, typed.fields.day);
   return typed;
+}
+
+TypedDate ReadFieldDate(std::u16string_view text, int order, PackedDate selected) {
+  const TypedDate typed = ReadTypedDate(text, order);
+  if (typed.fault != DateFault::kNotADate) return typed;
+  const std::vector<DateReading> readings = ReadDates(text, selected).readings;
+  const bool isOne =
+      readings.size() == 1 && readings[0].note != DateNote::kMissing && !readings[0].isOtherWeekday;
+  return isOne ? TypedDate{readings[0].date, DateFault::kNone, Unpack(readings[0].date)} : typed;
 }
 
 std::u16string FieldDate(PackedDate ymd, int order) {

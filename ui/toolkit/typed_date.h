@@ -42,6 +42,10 @@ TypedDate ReadTypedDate(std::u16string_view text, int order);
 // are.
 std::u16string FieldDate(PackedDate ymd, int order);
 
+// Reads the same, and a date in words ("14 juillet 1789", "18 brumaire an VIII", core/date_reader.h) where
+// that has one meaning alone and contradicts itself in nothing. `selected` gives what the words leave out.
+TypedDate ReadFieldDate(std::u16string_view text, int order, PackedDate selected);
+
 // Returns the reason in French, one sentence; empty for a date that was read.
 std::u16string DateFaultText(const TypedDate& typed, int order);
 

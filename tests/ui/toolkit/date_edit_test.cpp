@@ -144,6 +144,31 @@ TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
   EXPECT_EQ(edit.text(), QStringLiteral("toujours"));
 }
 
+TEST_F(DateEditTest, ADateInWordsIsTakenWhereItHasOneMeaning) {
+  const struct {
+    const char* text;
+    PackedDate date;  // 0 where the field refuses it
+  } kTexts[] = {{"14 juillet 1789", 17890714},
+                {"18 brumaire an VIII", 17991109},
+                {"15 mars 44 av. J.-C.", -430315},
+                {"24 mars 44", 0},
+                {"10 octobre 1582", 0},
+                {"31 avril 2024", 0},
+                {"lundi 9 novembre 1799", 0},
+                {"bonjour", 0}};
+  for (const auto& row : kTexts) {
+    SCOPED_TRACE(row.text);
+    edit.SetDate(20240515);
+    Type(row.text);
+    EXPECT_EQ(edit.IsValid(), row.date != 0);
+    if (row.date == 0) continue;
+    EXPECT_EQ(edit.Date(), row.date);
+    other.setFocus();
+    EXPECT_FALSE(edit.text().contains(QLatin1Char(' '))) << "it is shown in the form of the field";
+    edit.setFocus();
+  }
+}
+
 TEST_F(DateEditTest, ArrowsStepThePartAtTheCursor) {
   const struct {
     PackedDate from;

@@ -1,0 +1,110 @@
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "core/date_range.h"
+#include "tests/support/fakes.h"
+#include "tests/support/rules.h"
+#include "ui/find/find_day_dialog.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+DayEvent EveryYear(int month, int day, std::u16string_view name) {
+  DayEvent rule;
+  rule.isPublic = true;
+  rule.month = month;
+  rule.day = day;
+  rule.ymdFrom = kAlwaysFrom;
+  rule.ymdTo = kAlwaysTo;
+  rule.name.Set(name);
+  return rule;
+}
+
+class FindDayTest : public testing::Test {
+ protected:
+  void Open(const CalendarContent& content) {
+    dialog.Open(content, 20240515);
+    QApplication::processEvents();
+  }
+  void Type(const QString& text) {
+    field->setText(text);
+    while (dialog.IsSearching()) QApplication::processEvents();
+  }
+  QString Line(int row) const { return list->model()->index(row, 0).data().toString(); }
+  int Count() const { return list->model()->rowCount(); }
+
+  const ScopedRules rules{CalendarRules{}};
+  const ScopedPlatform pinned{FakeLocale(), FakeClock({2024, 5, 15})};
+  CFindDayDialog dialog;
+  QLineEdit* field = dialog.findChild<QLineEdit*>();
+  QListView* list = dialog.findChild<QListView*>();
+  QLabel* message = dialog.findChild<QLabel*>(QStringLiteral("message"));
+  QPushButton* stop = dialog.findChild<QPushButton*>(QStringLiteral("stop"));
+  QSignalSpy found{&dialog, &CFindDayDialog::dayFound};
+};
+
+TEST_F(FindDayTest, TheListGoesFromYearToYearAndStandsAtTheSelectedDate) {
+  CalendarContent content;
+  content.dayEvents = {EveryYear(5, 1, u"Fête du Travail"), EveryYear(7, 14, u"Fête nationale")};
+  content.vacations = {{20240706, 20240709, NameText(u"Fêtes")}};
+  Open(content);
+  Type(QString::fromUtf8("fete"));
+  EXPECT_EQ(Count(), 2 * (kLastYearShown - kFirstYearShown + 1) + 1);
+  EXPECT_EQ(message->text(), QString::fromUtf8("15 999 résultats."));
+  EXPECT_EQ(list->currentIndex().data().toString(),
+            QString::fromUtf8("Du 6 juillet 2024 au 9 juillet 2024, 4 jours : Fêtes"));
+  EXPECT_EQ(Line(Count() - 1), QString::fromUtf8("Mercredi 14 juillet 3999 : Fête nationale"));
+
+  QTest::keyClick(&dialog, Qt::Key_F3);
+  QTest::keyClick(field, Qt::Key_Return);
+  QTest::keyClick(&dialog, Qt::Key_F3, Qt::ShiftModifier);
+  QTest::keyClick(&dialog, Qt::Key_F3, Qt::ShiftModifier);
+  ASSERT_EQ(found.size(), 4);
+  const PackedDate kDays[] = {20240706, 20240707, 20240706, 20240501};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(found[i][0].toInt(), kDays[i]);
+}
+
+TEST_F(FindDayTest, ASearchNeverHoldsTheWindowAndCanBeStopped) {
+  CalendarContent content;
+  for (int i = 0; i < 300; ++i) content.dayEvents.push_back(EveryYear(1 + i % 12, 1 + i % 28, u"Fête"));
+  Open(content);
+  field->setText(QStringLiteral("f"));
+  ASSERT_TRUE(dialog.IsSearching());
+  QApplication::processEvents();
+  EXPECT_TRUE(stop->isVisible());
+  EXPECT_TRUE(dialog.findChild<QProgressBar*>()->isVisible());
+  ASSERT_TRUE(dialog.IsSearching()) << "the first slice is not the whole search";
+  QTest::mouseClick(stop, Qt::LeftButton);
+  EXPECT_FALSE(dialog.IsSearching());
+  EXPECT_FALSE(stop->isVisible());
+  EXPECT_TRUE(message->text().startsWith(QString::fromUtf8("Recherche arrêtée")));
+  Type(QStringLiteral("fe"));
+  EXPECT_GE(Count(), kMostHits);
+  EXPECT_TRUE(message->text().contains(QStringLiteral("premiers")));
+  field->setText(QStringLiteral("f"));
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_FALSE(dialog.IsSearching());
+}
+
+TEST_F(FindDayTest, NothingFoundIsSaid) {
+  Open({});
+  Type(QStringLiteral("<b>fête</b>"));
+  EXPECT_EQ(Count(), 0);
+  EXPECT_EQ(message->text(), QStringLiteral("Aucun jour ne contient ce texte."));
+  Type({});
+  EXPECT_TRUE(message->text().isEmpty());
+  EXPECT_FALSE(dialog.findChild<QPushButton*>(QStringLiteral("next"))->isEnabled());
+}
+
+}  // namespace
+}  // namespace orbisol
