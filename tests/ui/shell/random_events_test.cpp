@@ -8,7 +8,6 @@
 #include <QDialog>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
@@ -32,7 +31,7 @@ namespace orbisol {
 namespace {
 
 constexpr unsigned kSeed = 1792;
-constexpr int kEvents = 20000;
+constexpr int kEvents = 10000;
 constexpr int kEventsBetweenLooks = 100;
 
 int EventsToSend() {
@@ -40,9 +39,8 @@ int EventsToSend() {
   return asked == nullptr ? kEvents : std::atoi(asked);
 }
 
-// Returns how far two pictures differ where they differ most, in levels of a color; -1 for other sizes.
+// Returns how far two pictures of one size differ where they differ most, in levels of a color.
 int Difference(const QImage& one, const QImage& other) {
-  if (one.size() != other.size()) return -1;
   int most = 0;
   for (int y = 0; y < one.height(); ++y) {
     if (std::memcmp(one.constScanLine(y), other.constScanLine(y),
@@ -166,36 +164,38 @@ class RandomEventsTest : public FrameTest {
   }
 
   void SendSomething() {
-    const int share = UpTo(11);
-    if (share < 4) {
-      SendKey();
-    } else if (share < 7) {
-      SendGesture();
-    } else if (share < 8) {
-      SendMove();
-    } else if (share < 10) {
-      SendWheel();
-    } else if (share < 11) {
-      SendTip();
-    } else if (OneIn(4)) {
-      SendResize();
-    }
+    using Hand = void (RandomEventsTest::*)();
+    constexpr Hand kKey = &RandomEventsTest::SendKey, kPress = &RandomEventsTest::SendGesture;
+    constexpr Hand kWheel = &RandomEventsTest::SendWheel, kMove = &RandomEventsTest::SendMove;
+    constexpr Hand kTip = &RandomEventsTest::SendTip;
+    constexpr Hand kHands[] = {kKey, kKey, kKey, kKey, kPress, kPress, kPress, kWheel, kWheel, kMove, kTip};
+    const int hand = UpTo(4 * static_cast<int>(std::size(kHands)));
+    if (hand == 0) return SendResize();
+    (this->*kHands[(hand - 1) / 4])();
   }
 
-  QImage OnScreen() {
-    for (int rounds = 0; rounds < 3; ++rounds) Settle();  // one event brings another
-    return frame->screen()->grabWindow(frame->winId()).toImage();
+  // Help and menus take the keyboard away; without it no key reaches the part that has the focus.
+  void ComeBack() {
+    if (frame->isActiveWindow() || QApplication::activePopupWidget() != nullptr) return;
+    frame->activateWindow();
+    Settle();
   }
 
   // The law of all that is painted: parts painted anew leave a window that looks as if all had been painted
-  // anew. The same digits may differ by a few levels, by where their painting began.
+  // anew. The same digits may differ by a few levels, by where their painting began. What a timer has just
+  // changed is painted in the next round; what is stale stays so.
   void ExpectThatNothingStaleIsShown(int event) {
-    const QImage before = OnScreen();
-    frame->update();
-    const QImage anew = OnScreen();
-    const int difference = Difference(before, anew);
     constexpr int kSameInk = 16;
-    ASSERT_TRUE(difference >= 0 && difference <= kSameInk) << difference << " after event " << event;
+    int difference = 0;
+    for (int round = 0; round < 9; ++round) {
+      Settle();
+      if (round < 2) continue;  // one event brings another
+      const QImage shown = frame->screen()->grabWindow(frame->winId()).toImage();
+      const QImage anew = frame->grab().toImage().convertToFormat(shown.format());
+      difference = shown.size() == anew.size() ? Difference(shown, anew) : 255;
+      if (difference <= kSameInk) return;
+    }
+    FAIL() << difference << " after event " << event;
   }
 
   std::mt19937 m_random;
@@ -207,12 +207,13 @@ TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
   const CWarnings warnings;
   QApplication::setCursorFlashTime(0);  // a cursor that blinks would differ from itself
   Open();
-  // A menu that runs an event loop of its own would wait for its user for ever.
-  QTimer closesMenus;
-  closesMenus.callOnTimeout([] {
-    if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+  // A menu or a dialog that runs an event loop of its own would wait for its user for ever.
+  QTimer closes;
+  closes.callOnTimeout([] {
+    QWidget* const popup = QApplication::activePopupWidget();
+    if (QWidget* const open = popup != nullptr ? popup : QApplication::activeModalWidget()) open->close();
   });
-  closesMenus.start(20);
+  closes.start(20);
 
   int months = 0;
   PackedDate before = 0;
@@ -220,6 +221,7 @@ TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
     SendSomething();
     if (OneIn(4)) Settle();
     if (!frame->isVisible()) Open();  // the menu or the keyboard closed it, as they may
+    ComeBack();
     if (Now() / 100 != before / 100) ++months;
     before = Now();
     ASSERT_TRUE(IsWithinBounds(Selected())) << Now() << " after event " << i;
