@@ -2,25 +2,12 @@
 
 #include <algorithm>
 #include <functional>
-#include <string_view>
 #include <unordered_set>
+
+#include "content/record_hash.h"
 
 namespace orbisol {
 namespace {
-
-// Return hashes of the fields in which the records of one list differ most; equality compares all fields.
-std::size_t Mixed(std::size_t hash, int number) { return hash * 1000003 + static_cast<unsigned>(number); }
-
-struct RecordHash {
-  std::size_t operator()(const DayEvent& event) const {
-    const std::size_t hash = std::hash<std::u16string_view>()(event.name.View());
-    return Mixed(Mixed(Mixed(Mixed(hash, event.month), event.day), event.ymdFrom), event.ymdTo);
-  }
-  std::size_t operator()(const HolidayPeriod& period) const {
-    const std::size_t hash = std::hash<std::u16string_view>()(period.title.View());
-    return Mixed(Mixed(hash, period.ymdFrom), period.ymdTo);
-  }
-};
 
 template <typename Record>
 void AddMissing(std::vector<Record>& list, const std::vector<Record>& added) {

@@ -130,14 +130,17 @@ bool CCalendarStore::AddName(std::u16string_view name, std::u16string_view newNa
   return true;
 }
 
-bool CCalendarStore::DropName(std::u16string_view name, std::u16string_view newName) {
+bool CCalendarStore::DropName(std::u16string_view name, std::u16string_view otherName) {
   const auto lock = m_files.LockFolderOf(PathOf(name));
   const std::optional<FileBytes> file = m_files.Read(PathOf(name));
-  const std::optional<FileBytes> renamed = m_files.Read(PathOf(newName));
-  if (!renamed || (file && file->stamp != renamed->stamp) || !m_files.Remove(PathOf(name))) return false;
+  const std::optional<FileBytes> other = m_files.Read(PathOf(otherName));
+  if (!other || (file && file->stamp != other->stamp) || !m_files.Remove(PathOf(name))) return false;
   m_stamps.erase(PathOf(name));
-  m_versions.Rename(name, newName);
   return true;
+}
+
+void CCalendarStore::MoveVersions(std::u16string_view name, std::u16string_view newName) {
+  m_versions.Rename(name, newName);
 }
 
 bool CCalendarStore::Export(std::u16string_view path, std::string_view bytes) {

@@ -95,14 +95,15 @@ class CCalendarStore {
   //
   //   if (store.AddName(u"Famille", u"Maison")) {
   //     …  // the settings say "Maison" from now on
-  //     store.DropName(u"Famille", u"Maison");
+  //     if (store.DropName(u"Famille", u"Maison")) store.MoveVersions(u"Famille", u"Maison");
   //   }
   //
   // AddName() gives the file a second name. Returns false when there is no such file, or one of the new name.
-  // DropName() removes the first name and moves the versions. Returns false when the two names no longer have
-  // the same bytes: somebody saves under the old one, and both stay.
+  // DropName() removes a name. Returns false when the two no longer have the same bytes: somebody saves under
+  // the first, and both stay. MoveVersions() moves the versions to a calendar that has none of its own.
   bool AddName(std::u16string_view name, std::u16string_view newName);
-  bool DropName(std::u16string_view name, std::u16string_view newName);
+  bool DropName(std::u16string_view name, std::u16string_view otherName);
+  void MoveVersions(std::u16string_view name, std::u16string_view newName);
 
   // Writes bytes to a file outside the calendars' folder, in the place of one that may stand there. Returns
   // false when that is as it was.

@@ -25,6 +25,7 @@ enum CommandId : int {
   kCmdFind = 5211,
   kCmdFindNext = 5212,
   kCmdFindPrevious = 5213,
+  kCmdNewCalendar = 5230,
   kCmdEditVacations = 40027,
   kCmdChooseCalendar = 40036,
   kCmdHelpIndex = 57666,

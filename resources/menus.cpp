@@ -4,7 +4,8 @@ namespace orbisol {
 namespace {
 
 constexpr MenuItem kFileMenu[] = {
-    {kCmdChooseCalendar, u"Autre calendrier...", u""},
+    {kCmdChooseCalendar, u"Autre calendrier...", u"Ctrl+O"},
+    {kCmdNewCalendar, u"Nouveau calendrier...", u"Ctrl+N"},
     {kCmdPrint, u"&Imprimer...", u"Ctrl+P"},
     {kNoCommand, u"", u""},
     {kCmdQuit, u"&Quitter", u"Ctrl+Q"},

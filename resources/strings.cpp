@@ -176,6 +176,7 @@ constexpr Entry kStrings[] = {
     {kCmdFindNext, u"Aller au prochain jour dont le texte contient le mot cherché\nSuivant (F3)"},
     {kCmdFindPrevious,
      u"Aller au dernier jour, avant celui-ci, dont le texte contient le mot cherché\nPrécédent (Maj+F3)"},
+    {kCmdNewCalendar, u"Créer un calendrier\nNouveau calendrier (Ctrl+N)"},
     {kTextCalendarChanged,
      u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
      u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"
@@ -206,6 +207,63 @@ constexpr Entry kStrings[] = {
      u"Ils seront ajoutés aux vôtres ; « Annuler » dans la fenêtre des événements les retire d'un seul "
      u"coup."},
     {kTextManyPersonalEventsButton, u"Importer"},
+    {kTextDifference,
+     u"Revient : %s|Disparaît : %s|jour férié « %s », %s|événement « %s », %s|vacances « %s », %s|"
+     u"vacances %s|L'ordre des événements et des vacances change.|"
+     u"L'apparence change : couleurs, police ou image.|"
+     u"Les règles du calendrier changent : réforme, années civiles ou semaines.|"
+     u"La description du calendrier change.|Aucune différence avec le calendrier actuel."},
+    {kTextNameFaults,
+     u"Donnez un nom au calendrier.|Ce nom contient un caractère invisible.|"
+     u"Ce nom ne convient pas : il est trop long, ou contient « / », « \\ » ou un caractère de commande.|"
+     u"Les noms qui finissent par « _public » sont réservés aux calendriers fournis.|"
+     u"Un calendrier porte déjà ce nom."},
+    {kTextCalendarGone,
+     u"Le calendrier « %s » n'existe plus.\n\nLe fichier %s a été supprimé ou renommé par un autre "
+     u"programme."},
+    {kTextCalendarUnreadable,
+     u"Le calendrier « %s » ne peut pas être lu.\n\nVérifiez les droits du fichier %s."},
+    {kTextCalendarExists,
+     u"Un calendrier « %s » existe déjà ; il est resté tel qu'il était.\n\nSon fichier : %s"},
+    {kTextChoiceNotStored,
+     u"Le calendrier « %s » est ouvert, mais ce choix n'a pas pu être enregistré dans les réglages.\n\n"
+     u"Au prochain démarrage, Orbisol ouvrira encore le calendrier précédent."},
+    {kTextCalendarNotRenamed,
+     u"Le calendrier « %s » n'a pas été renommé.\n\nLe fichier %s est resté tel qu'il était."},
+    {kTextOldNameStays,
+     u"Le calendrier a son nouveau nom, mais « %s » existe encore.\n\n"
+     u"Un autre programme a modifié le fichier %s, ou il ne peut pas être supprimé."},
+    {kTextCalendarNotDeleted,
+     u"Le calendrier « %s » n'a pas été supprimé.\n\nLe fichier %s n'a pas pu être mis à la corbeille."},
+    {kTextDeleteCalendar, u"Mettre le calendrier « %s » à la corbeille ?"},
+    {kTextDeleteCalendarAndVersions,
+     u"Mettre le calendrier « %s » à la corbeille ?\n\nSes versions précédentes y vont avec lui."},
+    {kTextDeleteCalendarButton, u"Mettre à la corbeille"},
+    {kTextCopyAmongCalendars,
+     u"Ce dossier est celui des calendriers : une copie y deviendrait un calendrier de plus.\n\n"
+     u"Choisissez un autre dossier. Rien n'a été écrit dans %s."},
+    {kTextCopyNotWritten, u"La copie n'a pas pu être écrite.\n\nFichier : %s"},
+    {kTextVersionGone, u"Cette version du calendrier « %s » n'existe plus."},
+    {kTextVersionNotRestored,
+     u"La version n'a pas été restaurée.\n\nLe calendrier « %s » est resté tel qu'il était ; son fichier, "
+     u"%s, "
+     u"ne peut pas être remplacé."},
+    {kTextChangedMeanwhile,
+     u"Le calendrier « %s » a été modifié entre-temps par un autre programme ; rien n'a été remplacé.\n\n"
+     u"Les différences sont maintenant celles avec le nouvel état du fichier %s."},
+    {kTextNotKeptBeforeRestore,
+     u"Vos modifications non enregistrées n'ont pas pu être conservées parmi les versions précédentes.\n\n"
+     u"Si vous restaurez cette version du calendrier « %s », elles sont perdues."},
+    {kTextRestoreAllTheSame, u"Restaurer quand même"},
+    {kTextVersions,
+     u"&Versions précédentes de « %s » :|%s, %d h %s|"
+     u"Aucune version précédente.\n\nUne version est conservée chaque fois que le calendrier est "
+     u"enregistré."},
+    {kTextVersionHolds,
+     u"aucun jour férié|1 jour férié|%d jours fériés|aucun événement|1 événement|%d événements|"
+     u"aucune période|1 période|%d périodes"},
+    {kTextChooseCalendar, u"Calendrier ouvert|Le calendrier ouvert ne peut pas être supprimé."},
+    {kTextExportCopy, u"Exporter une copie|Calendriers (*.xml)"},
     {kTextEventRefusals,
      u"Donnez un intitulé à cet événement.|%s n'a que %d jours.|La date doit être au plus tôt le 2 du mois.|"
      u"La fin précède le début."},
@@ -351,7 +409,7 @@ constexpr Entry kStrings[] = {
      u"Les mois républicains ont 30 jours, suivis de 5 ou 6 jours complémentaires.|"
      u"L'an %d n'a que cinq jours complémentaires.|Cette date n'existe pas : %s %s a %d jours."},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
-    {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier"},
+    {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier (Ctrl+O)"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},
     {kCmdHelpContents, u"Afficher le sommaire de l'aide\nAide (F1)"},
     {kCmdToggleToolBar, u"Afficher ou masquer la barre d'outils\nBarre d'outils"},

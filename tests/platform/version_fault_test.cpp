@@ -84,8 +84,10 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
   const Step step = [&] {
     CCalendarStore calendars(files, CalendarFoldersOf(folders));
     if (!calendars.AddName(u"A", u"B")) return false;
-    return ReplaceFile(remembered, "B", nullptr, nullptr) == WriteResult::kWritten &&
-           calendars.DropName(u"A", u"B");
+    if (ReplaceFile(remembered, "B", nullptr, nullptr) != WriteResult::kWritten) return false;
+    if (!calendars.DropName(u"A", u"B")) return false;
+    calendars.MoveVersions(u"A", u"B");
+    return true;
   };
   ForEachFault({EIO, EPERM, kKillFault}, 1, step, prepare, check);
 }

@@ -27,6 +27,7 @@ constexpr struct {
     {"months", TakeMonths},
     {"fields", TakeFields},
     {"find", TakeFind},
+    {"calendars", TakeCalendars},
     {"help", TakeHelp},
     {"editors", TakeEditors},
 };

@@ -130,6 +130,7 @@ void CEvtImportDlg::ShowChosen() {
     row->setToolTip(1, TipMarkup(ToQString(day.name)));
   }
   m_form->days->resizeColumnToContents(0);
+  m_form->days->setColumnWidth(0, m_form->days->columnWidth(0) + fontMetrics().averageCharWidth());
 }
 
 void CEvtImportDlg::accept() {

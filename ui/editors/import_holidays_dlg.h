@@ -17,7 +17,7 @@
 #include "content/calendar_content.h"
 #include "files/public_calendars.h"
 
-namespace Ui {
+namespace Ui {  // NOLINT(readability-identifier-naming): as the forms are generated
 class ImportHolidays;
 }
 

@@ -5,6 +5,7 @@
 
 #include "content/calendar_content.h"
 #include "content/selected_date.h"
+#include "ui/calendars/choose_calendar_dlg.h"
 #include "ui/editors/events_dialog.h"
 #include "ui/editors/import_holidays_dlg.h"
 #include "ui/editors/vacations_dialog.h"
@@ -17,6 +18,14 @@
 namespace orbisol {
 namespace {
 
+void OpenCalendars(CCalendarFrame& frame, CalendarTask task) {
+  CChooseCalendarDlg dialog({frame.Services().store, frame.Services().calendars}, task, &frame);
+  QObject::connect(&dialog, &CChooseCalendarDlg::calendarChanged, &frame, &CCalendarFrame::CalendarChanged);
+  dialog.exec();
+}
+
+void ChooseCalendar(const OpeningRequest& request) { OpenCalendars(request.frame, CalendarTask::kOpen); }
+void MakeCalendar(const OpeningRequest& request) { OpenCalendars(request.frame, CalendarTask::kCreate); }
 void OpenHelpContents(const OpeningRequest&) { ShowHelpContents(); }
 void OpenHelpIndex(const OpeningRequest&) { ShowHelpIndex(); }
 void OpenAbout(const OpeningRequest& request) { CAboutBox(&request.frame).exec(); }
@@ -74,12 +83,19 @@ void FindPrevious(const OpeningRequest& request) {
 
 // clang-format off: a row each, so that windows made side by side change lines of their own.
 constexpr Opening kOpenings[] = {
-    {kCmdChooseCalendar, nullptr},  {kCmdPrint, nullptr},
-    {kCmdEditEvents, OpenEvents},   {kCmdEditVacations, OpenVacations},
-    {kCmdPreferences, nullptr},     {kCmdHelpContents, OpenHelpContents},
-    {kCmdHelpIndex, OpenHelpIndex}, {kCmdAbout, OpenAbout},
-    {kCmdGoToDate, OpenGoToDate},   {kCmdFind, OpenFind},
-    {kCmdFindNext, FindNext},       {kCmdFindPrevious, FindPrevious},
+    {kCmdChooseCalendar, ChooseCalendar},
+    {kCmdNewCalendar, MakeCalendar},
+    {kCmdPrint, nullptr},
+    {kCmdEditEvents, OpenEvents},
+    {kCmdEditVacations, OpenVacations},
+    {kCmdPreferences, nullptr},
+    {kCmdHelpContents, OpenHelpContents},
+    {kCmdHelpIndex, OpenHelpIndex},
+    {kCmdAbout, OpenAbout},
+    {kCmdGoToDate, OpenGoToDate},
+    {kCmdFind, OpenFind},
+    {kCmdFindNext, FindNext},
+    {kCmdFindPrevious, FindPrevious},
 };
 // clang-format on
 

@@ -1,0 +1,43 @@
+#include "ui/calendars/name_check.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "files/calendar_name.h"
+#include "resources/strings.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+
+CNameCheck::CNameCheck(QLineEdit& field, QLabel& note) : QObject(&field), m_field(field), m_note(note) {
+  note.setTextFormat(Qt::PlainText);
+  note.setVisible(false);
+  // An empty field is no fault while somebody begins to type.
+  connect(&field, &QLineEdit::textEdited, this,
+          [this] { Say(m_field.text().isEmpty() ? QString() : Fault()); });
+}
+
+std::u16string CNameCheck::Name() const { return std::u16string(Utf16View(m_field.text())); }
+
+QString CNameCheck::Fault() const {
+  const NameFault fault = FaultOfNewName(Utf16View(m_field.text()), m_taken);
+  return fault == NameFault::kNone ? QString() : TablePiece(kTextNameFaults, static_cast<int>(fault) - 1);
+}
+
+bool CNameCheck::Accepts() {
+  const QString fault = Fault();
+  Say(fault);
+  if (!fault.isEmpty()) {
+    m_field.setFocus(Qt::OtherFocusReason);
+    m_field.selectAll();
+  }
+  return fault.isEmpty();
+}
+
+void CNameCheck::Say(const QString& fault) {
+  m_note.setText(fault.isEmpty() ? fault : QStringLiteral("\u26A0 ") + fault);
+  m_note.setVisible(!fault.isEmpty());
+  m_field.setAccessibleDescription(fault);
+}
+
+}  // namespace orbisol
