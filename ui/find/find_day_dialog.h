@@ -19,7 +19,7 @@
 
 #include "content/content_search.h"
 
-namespace Ui {
+namespace Ui {  // NOLINT(readability-identifier-naming): as the forms are generated
 class FindDayDialog;
 }
 

@@ -18,7 +18,7 @@
 
 class QListWidget;
 
-namespace Ui {
+namespace Ui {  // NOLINT(readability-identifier-naming): as the forms are generated
 class GoToDateDialog;
 }
 
