@@ -99,6 +99,9 @@ TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
   EXPECT_TRUE(list->hasFocus());
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
   EXPECT_EQ(Now(), 20240508);
+  EXPECT_NE(list->grab().toImage().pixel(list->visualItemRect(list->item(0)).topRight() - QPoint(1, 0)),
+            list->grab().toImage().pixel(list->visualItemRect(list->item(1)).topRight() - QPoint(1, 0)))
+      << "the line of the day is tinted";
 
   // Kinds are told by color and weight: holiday, event, moon.
   std::set<QRgb> inks;
@@ -128,7 +131,7 @@ TEST_F(ConverterTest, ARepublicanDateIsEnteredAndShown) {
   EXPECT_EQ(Month()->count(), 13);
   EXPECT_EQ(Day()->currentText() + Month()->currentText() + Year()->text(), QStringLiteral("11nivose232"));
 
-  EnterRepublican(18, 1, "8");
+  EnterRepublican(18, 1, "a8");  // a letter is not taken
   EXPECT_EQ(Now(), 17991109);
   EnterRepublican(1, 0, "0");  // years count from 1
   EXPECT_EQ(Now(), 17920922);
@@ -174,6 +177,10 @@ TEST_F(ConverterTest, ADateBeforeTheEraEndsTheEntry) {
 TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
   Show(20240515);
   EXPECT_EQ(Difference()->text(), QString());
+  EXPECT_EQ(Difference()->placeholderText(), QStringLiteral("jours"));
+  const QString toKeep = QStringLiteral("Retenez une date avec le signet");
+  EXPECT_EQ(Kept()->placeholderText(), toKeep);
+  EXPECT_GT(Kept()->width(), Kept()->fontMetrics().horizontalAdvance(toKeep));
   QTest::mouseClick(Kept(), Qt::LeftButton);
   EXPECT_EQ(Now(), 20240515);  // nothing is remembered yet
 

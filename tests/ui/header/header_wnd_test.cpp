@@ -130,9 +130,11 @@ TEST_F(HeaderWndTest, TheWheelStepsByMonthsAndWithCtrlByYears) {
   for (const auto& [turned, modifiers, to] : {std::tuple{-120, Qt::NoModifier, 20240329},
                                               {240, Qt::NoModifier, 20240129},
                                               {-120, Qt::ControlModifier, 20250129}}) {
+    OpenYear();
     QWheelEvent event({300, 30}, {300, 30}, {}, {0, turned}, {}, modifiers, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&header, &event);
     EXPECT_EQ(Now(), to);
+    EXPECT_FALSE(header.IsEditingYear());
   }
   EXPECT_EQ(changes, 3);
 }
@@ -222,9 +224,10 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
   Rect previous = places.previous;
   Rect next = places.next;
   for (const QRect& place :
-       {ToQRect(previous.Shrunk(previous.Width() / 4)), ToQRect(next.Shrunk(next.Width() / 4)),
-        ToQRect(places.month), ToQRect(places.year), half(places.topBand, true),
-        half(places.bottomBand, false), half(places.bottomBand, true)}) {
+       {QRect(previous.left, previous.top + previous.Height() / 2 - 1, 6, 3),  // they point outward
+        QRect(next.right - 6, next.top + next.Height() / 2 - 1, 6, 3), ToQRect(places.month),
+        ToQRect(places.year), half(places.topBand, true), half(places.bottomBand, false),
+        half(places.bottomBand, true)}) {
     int inked = 0;
     for (int y = place.top(); y <= place.bottom(); ++y)
       for (int x = place.left(); x <= place.right(); ++x) inked += image.pixelColor(x, y) == ink;
@@ -238,6 +241,10 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
   for (const Rect& part : {previous, places.month, places.year, next})
     EXPECT_NE(point(ToQRect(part).center()), image) << part.left;
   EXPECT_EQ(point(QPoint(100, 3)), image);
+  point(ToQRect(next).center());
+  QEvent left(QEvent::Leave);
+  QApplication::sendEvent(&header, &left);
+  EXPECT_EQ(header.grab().toImage(), image);
 }
 
 TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
@@ -312,6 +319,7 @@ TEST_F(HeaderWndTest, EveryTitleFitsBetweenTheArrows) {
   header.resize(900, header.minimumSizeHint().height());
   const QFontMetrics texts(large);
   EXPECT_GE(header.Places().title.Height(), texts.height());
+  header.resize(900, header.height() - 20);
   EXPECT_GE(header.Places().month.Width(), texts.horizontalAdvance(QStringLiteral("Septembre")));
 }
 

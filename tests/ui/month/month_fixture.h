@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -81,6 +82,13 @@ class MonthWindowTest : public SelectedDateTest {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, at, window->mapToGlobal(at), button, held, modifiers);
+    QApplication::sendEvent(window.get(), &event);
+  }
+  // Turns the wheel by eighths of a degree, 120 for a notch away from the user.
+  void Wheel(QPoint turned, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+             Qt::ScrollPhase phase = Qt::NoScrollPhase, quint64 time = 0) {
+    QWheelEvent event({350, 200}, {350, 200}, {}, turned, {}, modifiers, phase, false);
+    event.setTimestamp(time);
     QApplication::sendEvent(window.get(), &event);
   }
   void Down(QPoint at) { Mouse(QEvent::MouseButtonPress, at); }

@@ -6,7 +6,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
-#include <QWheelEvent>
 #include <QWindow>
 
 #include <sys/stat.h>
@@ -170,6 +169,9 @@ TEST_F(MonthWindowTest, ShiftWithArrowsSelectsARangeThatTheMenuKeyOpens) {
     EXPECT_FALSE(window->HasRange());
   }
   Press(Qt::Key_Up, Qt::ShiftModifier);
+  Wheel({0, 120});
+  EXPECT_FALSE(window->HasRange());
+  Press(Qt::Key_Up, Qt::ShiftModifier);
   Select(17890714);  // selected elsewhere
   window->Refresh();
   EXPECT_FALSE(window->HasRange());
@@ -215,10 +217,7 @@ TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
     Select(20240131);
     for (const Turn& turn : row.turns) {
       const Qt::ScrollPhase phase = &turn == &row.turns.front() ? Qt::ScrollBegin : turn.phase;
-      QWheelEvent event({350, 200}, {350, 200}, {}, {turn.aside, turn.eighths}, {}, turn.modifiers, phase,
-                        false);
-      event.setTimestamp(turn.time);
-      QApplication::sendEvent(window.get(), &event);
+      Wheel({turn.aside, turn.eighths}, turn.modifiers, phase, turn.time);
     }
     EXPECT_EQ(Now(), row.to) << row.what;
   }
@@ -312,6 +311,11 @@ TEST_F(MonthWindowTest, IsSharpOnAScreenOfAnotherRatioAndPaintableInAnySize) {
     EXPECT_EQ(picture.pixelColor(line - QPoint(1, 0)), QColor(Qt::white));
     EXPECT_EQ(picture.pixelColor(line + QPoint(1, 0)), QColor(Qt::white));
   }
+  const QImage plain = window->grab().toImage();
+  QFont large;
+  large.setPixelSize(40);
+  window->setFont(large);
+  EXPECT_NE(window->grab().toImage(), plain) << "names are abbreviated rather than small";
   Display().showWeekNumber = true;
   Display().backgroundImage = true;
   Display().fontName.Set(u"No Such Font 42");

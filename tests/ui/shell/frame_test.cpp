@@ -16,9 +16,11 @@
 #include <QWindow>
 
 #include <functional>
+#include <set>
 
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/header/year_edit.h"
+#include "ui/toolkit/colors.h"
 
 namespace orbisol {
 namespace {
@@ -84,6 +86,39 @@ TEST_F(FrameTest, TheStatusBarNamesTheNextHolidayWhereNoListDoes) {
   EXPECT_EQ(frame->StatusText(), next);
   Show(20240508);
   EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QStringLiteral("Victoire 1945"));
+}
+
+// The line that says where the keyboard is, the remark over Julian months, the line beside the pane, the
+// status.
+TEST_F(FrameTest, WhatStandsAroundTheMonthIsPaintedWhereItBelongs) {
+  Open();
+  const QRect month = Dialog().Month().geometry();
+  const QRect remark(month.center().x(), 0, month.width() / 2, Dialog().Header().y());
+  const auto colorsIn = [](QWidget& widget, const QRect& place) {
+    const QImage picture = widget.grab(place).toImage();
+    std::set<QRgb> colors;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x) colors.insert(picture.pixel(x, y));
+    return colors;
+  };
+  const QRect line(month.left() - 1, month.center().y(), 1, 1);
+  EXPECT_EQ(colorsIn(Dialog(), line), std::set{ToQColor(kHighlightColor).rgb()});
+  const auto plain = colorsIn(Dialog(), remark);
+  const auto status = colorsIn(*frame->statusBar(), frame->statusBar()->rect()).size();
+  EXPECT_EQ(plain.count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 0U);
+  Show(15821004);
+  EXPECT_EQ(colorsIn(Dialog(), remark).count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 1U);
+  Show(15821131);
+  EXPECT_EQ(colorsIn(Dialog(), remark), plain);
+  EXPECT_GT(colorsIn(*frame->statusBar(), frame->statusBar()->rect()).size(), status + 5) << "no such date";
+  Control<QPushButton>("julien")->setFocus();
+  EXPECT_EQ(colorsIn(Dialog(), line).count(ToQColor(kHighlightColor).rgb()), 0U);
+  const auto beside = [&] {
+    return colorsIn(Dialog(), {Dialog().Header().geometry().right() + 20, month.center().y(), 8, 1}).size();
+  };
+  EXPECT_GT(beside(), 1U);
+  frame->RunCommand(kCmdTogglePane);
+  EXPECT_EQ(colorsIn(Dialog(), {Dialog().width() - 5, month.center().y(), 5, 1}).size(), 1U);
 }
 
 TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
@@ -368,8 +403,13 @@ TEST_F(FrameTest, AtEveryFontTheWindowFitsOnItsScreenAndItsTextsStayWhole) {
     EXPECT_GT(Dialog().PaneWidth(), narrower);
     narrower = Dialog().PaneWidth() - 1;  // on a narrow screen it cannot grow for ever
     auto* const button = Control<QPushButton>("julien");
-    button->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());  // the pane has scrolled there
+    Dialog().setMinimumHeight(0);
+    frame->setFixedHeight(static_cast<int>(300 * times));  // as on a low screen: the pane scrolls there
+    Settle();
+    button->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+    frame->setMinimumHeight(0);
+    frame->setMaximumHeight(QWIDGETSIZE_MAX);
   }
   QApplication::setFont(font);
 }

@@ -37,6 +37,15 @@ TEST_F(RunTest, WithoutASettingsKeyTheInstallationIsBroken) {
   EXPECT_EQ(Window(), nullptr);
 }
 
+// The whole of it, in an empty home: the program speaks French, dates are those of the desktop.
+TEST_F(RunTest, TheProgramSpeaksFrenchAndItsDatesAreThoseOfTheDesktop) {
+  setenv("LC_ALL", "de_DE.UTF-8", 1);
+  EXPECT_EQ(orbisol::Run(*qApp), 0) << "there is no installation";
+  EXPECT_EQ(CurrentPlatform().locale->MonthName(1), u"Januar");
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
+  EXPECT_FALSE(QApplication::windowIcon().isNull());
+}
+
 TEST_F(RunTest, ASecondStartRaisesTheWindowOfTheFirst) {
   InstanceRole role = InstanceRole::kFirst;
   std::thread second;

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -16,6 +17,7 @@
 
 #include "resources/menus.h"
 #include "resources/strings.h"
+#include "ui/toolkit/colors.h"
 #include "ui/toolkit/french_toolkit.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/space_key.h"
@@ -40,6 +42,13 @@ TEST(PlainTextTest, MarkupIsShownAsItWasWritten) {
   EXPECT_FALSE(tip.contains(QStringLiteral("<b>")));
   EXPECT_TRUE(tip.contains(QStringLiteral("&lt;b&gt;")));
   EXPECT_TRUE(tip.contains(QStringLiteral("<br")));
+}
+
+TEST(ColorsTest, InksAreMadeLegibleAndLegibleOnesStay) {
+  for (const QColor ground : {QColor(Qt::white), QColor(0xF1, 0xF3, 0xF5), QColor(0x2B, 0x2E, 0x32)})
+    for (const QColor ink : {QColor(Qt::yellow), QColor(Qt::darkBlue), ground})
+      EXPECT_GE(Contrast(LegibleOn(ground, ink), ground), 4.5) << qPrintable(ground.name() + ink.name());
+  EXPECT_EQ(LegibleOn(Qt::white, Qt::darkBlue), QColor(Qt::darkBlue));
 }
 
 TEST(CommandTableTest, EveryCommandHasItsTextsAndTheToolBarItsIcons) {
@@ -124,9 +133,11 @@ TEST(SpaceKeyTest, FieldsThatUseSpaceKeepIt) {
   auto* const box = new QCheckBox;
   auto* const button = new QPushButton;
   auto* const field = new QLineEdit;
+  auto* const choice = new QComboBox;
+  choice->addItem(QStringLiteral("one"));
   auto* const plain = new QWidget;
   plain->setFocusPolicy(Qt::StrongFocus);
-  for (QWidget* const widget : std::initializer_list<QWidget*>{box, button, field, plain})
+  for (QWidget* const widget : std::initializer_list<QWidget*>{box, button, field, choice, plain})
     column->addWidget(widget);
   window.setCentralWidget(page);
   QAction action;
@@ -149,6 +160,9 @@ TEST(SpaceKeyTest, FieldsThatUseSpaceKeepIt) {
   EXPECT_EQ(pressed, 1);
   space(field);
   EXPECT_EQ(field->text(), QStringLiteral(" "));
+  space(choice);
+  EXPECT_TRUE(choice->view()->isVisible());
+  choice->hidePopup();
   EXPECT_EQ(triggered, 0);
   space(plain);
   EXPECT_EQ(triggered, 1);
