@@ -353,10 +353,32 @@ def check_header(reader, month):
     reader.wait_for("September", lambda: reader.name_of(month) == "Septembre 1792")
 
 
+def check_program(reader, month):
+    """Parts of the start that no test inside the process sees: the filter of Space, the end."""
+    atspi = reader.atspi
+    month.queryComponent().grabFocus()
+    reader.key("space")
+    today = reader.wait_for("the pane's button for today", lambda: reader.find(
+        lambda item: item.name == "Aujourd'hui" and item.getRole() == atspi.ROLE_PUSH_BUTTON
+        and item.getState().contains(atspi.STATE_FOCUSABLE)))
+    before = reader.name_of(month)
+    today.queryComponent().grabFocus()
+    reader.wait_for("the keyboard on the button", lambda: reader.states_of(today).contains(atspi.STATE_FOCUSED))
+    reader.key("space")
+    reader.wait_for("the month of today", lambda: reader.name_of(month) != before)
+
+    reader.program.terminate()
+    same("the exit code after a signal", reader.program.wait(timeout=WAIT), 0)
+    with open(os.path.join(os.environ["XDG_CONFIG_HOME"], "Corvalen", "Calendar.reg"), encoding="utf-8") as file:
+        same("the layout is stored after a signal", "WindowLayout" in file.read(), True)
+
+
 def run_inside(program, log_path):
     reader = Reader(program, log_path)
     try:
-        check_header(reader, check_month(reader))
+        month = check_month(reader)
+        check_header(reader, month)
+        check_program(reader, month)
     except Failure as failure:
         print(failure)
         return 1
