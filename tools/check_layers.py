@@ -112,13 +112,18 @@ def sources(root):
                 yield os.path.relpath(os.path.join(folder, name), root).replace(os.sep, "/")
 
 
-def faults(root):
+def text_of(root, path):
+    with open(os.path.join(root, path), encoding="utf-8", errors="replace") as source:
+        return source.read()
+
+
+def faults(root, read=None):
+    """Yields the faults of the files below `root`, whose texts come from read(path) where that is given."""
     def exists(target):
         return os.path.isfile(os.path.join(root, target))
 
     for path in sources(root):
-        with open(os.path.join(root, path), encoding="utf-8", errors="replace") as source:
-            text = source.read()
+        text = read(path) if read else text_of(root, path)
         for match in INCLUDE.finditer(text):
             what = fault(path, match[1], match[2], exists)
             if what:

@@ -27,6 +27,8 @@ import sys
 import tempfile
 import time
 
+from desktop_session import start_x_server
+
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
 START_SECONDS = 60
 CLOSE_SECONDS = 60
@@ -70,15 +72,8 @@ class Display:
 
     def __init__(self, mode, screen, scratch):
         self.processes = []
-        read_end, write_end = os.pipe()
-        self.spawn(["Xvfb", "-displayfd", str(write_end), "-screen", "0", screen + "x24", "-nolisten", "tcp",
-                    "-noreset"], pass_fds=(write_end,))
-        os.close(write_end)
-        with os.fdopen(read_end) as number:
-            name = ":" + number.readline().strip()
-        if name == ":":
-            raise SystemExit("fresh-starts: no X server")
-        os.environ["DISPLAY"] = name
+        server, os.environ["DISPLAY"] = start_x_server(screen + "x24", os.environ, subprocess.DEVNULL)
+        self.processes.append(server)
         os.environ.pop("WAYLAND_DISPLAY", None)
         nice = ["nice", "-n", "15"] if mode == "loaded" else []
         environment = {**os.environ, "XDG_CACHE_HOME": scratch, "XDG_CONFIG_HOME": scratch}

@@ -16,21 +16,11 @@
 namespace orbisol {
 namespace {
 
-constexpr const char* kRefusalNames[] = {"kNone",
-                                         "kEmpty",
-                                         "kNotADate",
-                                         "kUnknownWord",
-                                         "kContradiction",
-                                         "kNoYearZero",
-                                         "kOutOfBounds",
-                                         "kNoMonth",
-                                         "kNoEaster",
-                                         "kNoWeek",
-                                         "kNoDayOfYear",
-                                         "kNoRepublicanYear",
-                                         "kNoDayOfRepublicanMonth",
-                                         "kNoRepublicanDay",
-                                         "kNoDay"};
+// The names of DateRefusal in their order.
+const auto kRefusalNames = Split(
+    u"kNone|kEmpty|kNotADate|kUnknownWord|kContradiction|kNoYearZero|kOutOfBounds|kNoMonth|"
+    u"kNoEaster|kNoWeek|kNoDayOfYear|kNoRepublicanYear|kNoDayOfRepublicanMonth|kNoRepublicanDay|kNoDay",
+    u'|');
 
 FakeLocale English() {
   FakeLocale locale;
@@ -78,7 +68,7 @@ struct Scene {
 std::string Shown(const DateReadings& read) {
   std::string text;
   if (read.refusal != DateRefusal::kNone)
-    text = std::string("! ") + kRefusalNames[static_cast<int>(read.refusal)];
+    text = "! " + ToUtf8(kRefusalNames[static_cast<std::size_t>(read.refusal)]);
   for (const DateReading& reading : read.refusal == DateRefusal::kNone ? read.readings : read.offers) {
     text += (text.empty() ? "" : " ") + std::to_string(reading.date);
     if (reading.note == DateNote::kMissing) text += 'm';

@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
-#include <functional>
 #include <set>
 
 #include "platform/desktop_files.h"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 #include "settings/window_layout.h"
 
@@ -17,6 +18,13 @@ TEST(DisplaySettingsTest, StoredNumbersOutOfRangeAreClampedWhereTheyAreUsed) {
     EXPECT_EQ(settings.CircleWidth(), row.width);
     EXPECT_EQ(settings.BackgroundAlpha(), row.alpha);
   }
+}
+
+TEST(CalendarLookTest, EveryColorHasItsOwnCaption) {
+  std::set<std::u16string_view> captions = {u""};
+  for (const ColorInfo& info : ColorTable()) captions.insert(info.text);
+  EXPECT_EQ(captions.size(), 1 + 15u);
+  EXPECT_EQ(ColorTable()[kVacationBack].text, u"Couleur d'arrière-plan du jour de vacances");
 }
 
 TEST(WindowLayoutTest, IsStoredLittleEndianAndFewerBytesFillTheFieldsTheyHold) {

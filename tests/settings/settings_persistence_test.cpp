@@ -64,8 +64,10 @@ TEST_F(SettingsTest, WhatIsMissingOrMalformedTakesItsDefault) {
     EXPECT_TRUE(Read().keyFound);
     EXPECT_EQ(Read().display, expected);
   }
-  store.Write({{"WindowLayout", BinaryValue(LayoutToBytes({.rect = {50, 50, 50, 50}}))}});
-  EXPECT_EQ(Read().display, expected) << "no window has no room";
+  for (const Rect& noRoom : {Rect{50, 50, 50, 90}, Rect{50, 50, 90, 50}}) {
+    store.Write({{"WindowLayout", BinaryValue(LayoutToBytes({.rect = noRoom}))}});
+    EXPECT_EQ(Read().display, expected);
+  }
   store.written.clear();
   store.text = Known("wrong_types.reg");
   EXPECT_EQ(Read().display, expected);

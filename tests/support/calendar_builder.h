@@ -5,19 +5,14 @@
 #include <string_view>
 
 #include "files/calendar_file.h"
+#include "tests/content/rule_builder.h"
 
 namespace orbisol {
 
 // Returns a calendar with one public rule, on 1 January of every year.
 inline CalendarFile CalendarWith(std::u16string_view ruleName) {
   CalendarFile calendar;
-  DayEvent rule;
-  rule.isPublic = true;
-  rule.month = rule.day = 1;
-  rule.ymdFrom = kAlwaysFrom;
-  rule.ymdTo = kAlwaysTo;
-  rule.name.Set(ruleName);
-  calendar.content.dayEvents.push_back(rule);
+  calendar.content.dayEvents = {Rule(kFixedDate, {.month = 1, .day = 1, .name = ruleName})};
   return calendar;
 }
 

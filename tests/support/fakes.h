@@ -15,9 +15,9 @@ namespace orbisol {
 // Locale that is French except where its fields are set.
 struct FakeLocale : FrenchLocale {
   int dateOrder = 1;
-  int firstDay = 0;                                                            // 0 Monday .. 6 Sunday
-  int firstWeek = 2;                                                           // as Locale::FirstWeekOfYear
-  std::vector<std::u16string> months, monthAbbrevs, weekdays, weekdayAbbrevs;  // empty: the French ones
+  int firstDay = 0;                              // 0 Monday .. 6 Sunday
+  int firstWeek = 2;                             // as Locale::FirstWeekOfYear
+  std::vector<std::u16string> months, weekdays;  // empty: the French ones
 
   int ShortDateOrder() const override { return dateOrder; }
   int FirstDayOfWeek() const override { return firstDay; }
@@ -25,14 +25,8 @@ struct FakeLocale : FrenchLocale {
   std::u16string MonthName(int month) const override {
     return months.empty() ? FrenchLocale::MonthName(month) : Item(months, month);
   }
-  std::u16string MonthAbbrev(int month) const override {
-    return monthAbbrevs.empty() ? FrenchLocale::MonthAbbrev(month) : Item(monthAbbrevs, month);
-  }
   std::u16string WeekdayName(int weekday) const override {
     return weekdays.empty() ? FrenchLocale::WeekdayName(weekday) : Item(weekdays, weekday);
-  }
-  std::u16string WeekdayAbbrev(int weekday) const override {
-    return weekdayAbbrevs.empty() ? FrenchLocale::WeekdayAbbrev(weekday) : Item(weekdayAbbrevs, weekday);
   }
 
  private:

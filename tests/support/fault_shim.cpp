@@ -11,7 +11,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
-#include <cstdio>
 #include <utility>
 
 namespace {

@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
 #include <system_error>
 
@@ -29,62 +28,31 @@ constexpr char kScreens[] = R"({"screens": [{"name": "one", "x": 0, "y": 0, "wid
   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}, {"name": "two", "x": 1920, "y": 0, "width": 1920,
   "height": 1080, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1.5}]})";
 
-class CPrivateFolders {
- public:
-  // Makes the folders and points the environment to them. If that fails, Made() is false.
-  CPrivateFolders() {
-    std::error_code error;
-    const fs::path common = fs::temp_directory_path(error);
-    std::random_device random;
-    for (int attempt = 0; attempt < 100 && m_root.empty(); ++attempt) {
-      const fs::path root = common / ("orbisol-test-" + std::to_string(random()));
-      if (fs::create_directory(root, error)) m_root = root;
-    }
-    if (m_root.empty()) return;
-    fs::permissions(m_root, fs::perms::owner_all, error);
-
-    struct {
-      const char* variable;
-      const char* folder;
-    } const kFolders[] = {
-        {"HOME", "home"},
-        {"XDG_CONFIG_HOME", "home/.config"},
-        {"XDG_DATA_HOME", "home/.local/share"},
-        {"XDG_CACHE_HOME", "home/.cache"},
-        {"XDG_STATE_HOME", "home/.local/state"},
-        {"XDG_RUNTIME_DIR", "run"},
-        {"XDG_CONFIG_DIRS", "etc"},
-        {"XDG_DATA_DIRS", "share"},
-        {"TMPDIR", "tmp"},
-    };
-    m_made = true;
-    for (const auto& [variable, folder] : kFolders) {
-      const fs::path path = m_root / folder;
-      fs::create_directories(path, error);
-      m_made = m_made && fs::is_directory(path, error);
-      SetVariable(variable, path.string());
-    }
-    fs::permissions(m_root / "run", fs::perms::owner_all, error);  // Qt asks for 0700.
-
-    const fs::path screens = m_root / "screens.json";
-    m_made = m_made && (std::ofstream(screens) << kScreens).flush().good();
-    SetVariable("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.string());
+// Makes the folders and points the environment to them. Returns their root, empty when that failed.
+std::string MakePrivateFolders() {
+  std::error_code error;
+  std::string root = fs::temp_directory_path(error) / "orbisol-test-XXXXXX";
+  if (mkdtemp(root.data()) == nullptr) return {};
+  constexpr const char* kFolders[][2] = {
+      {"HOME", "home"},
+      {"XDG_CONFIG_HOME", "home/.config"},
+      {"XDG_DATA_HOME", "home/.local/share"},
+      {"XDG_CACHE_HOME", "home/.cache"},
+      {"XDG_STATE_HOME", "home/.local/state"},
+      {"XDG_RUNTIME_DIR", "run"},
+      {"XDG_CONFIG_DIRS", "etc"},
+      {"XDG_DATA_DIRS", "share"},
+      {"TMPDIR", "tmp"},
+  };
+  for (const auto& [variable, folder] : kFolders) {
+    fs::create_directories(root + "/" + folder, error);
+    if (error) return {};
+    SetVariable(variable, root + "/" + folder);
   }
-
-  ~CPrivateFolders() {
-    std::error_code error;
-    if (!m_root.empty()) fs::remove_all(m_root, error);
-  }
-
-  CPrivateFolders(const CPrivateFolders&) = delete;
-  CPrivateFolders& operator=(const CPrivateFolders&) = delete;
-
-  bool Made() const { return m_made; }
-
- private:
-  fs::path m_root;
-  bool m_made = false;
-};
+  fs::permissions(root + "/run", fs::perms::owner_all, error);  // Qt asks for 0700.
+  SetVariable("QT_QPA_PLATFORM", "offscreen:configfile=" + root + "/screens.json");
+  return std::ofstream(root + "/screens.json") << kScreens ? root : std::string();
+}
 
 // Variables of a desktop session, which a test must not depend on.
 void ForgetTheDesktop() {
@@ -95,6 +63,13 @@ void ForgetTheDesktop() {
     unsetenv(name);
   SetVariable("LC_ALL", "C");
   SetVariable("TZ", "UTC0");
+}
+
+int RunTests([[maybe_unused]] int& argc, [[maybe_unused]] char** argv) {
+#ifdef QT_WIDGETS_LIB
+  const QApplication application(argc, argv);
+#endif
+  return RUN_ALL_TESTS();
 }
 
 }  // namespace
@@ -109,13 +84,13 @@ int main(int argc, char** argv) {
   if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();  // no test runs, so nothing is prepared
 
   ForgetTheDesktop();
-  const CPrivateFolders folders;
-  if (!folders.Made()) {
+  const std::string root = MakePrivateFolders();
+  if (root.empty()) {
     std::fputs("No private folder could be made for this test.\n", stderr);
     return EXIT_FAILURE;
   }
-#ifdef QT_WIDGETS_LIB
-  QApplication application(argc, argv);
-#endif
-  return RUN_ALL_TESTS();
+  const int result = RunTests(argc, argv);
+  std::error_code error;
+  fs::remove_all(root, error);
+  return result;
 }

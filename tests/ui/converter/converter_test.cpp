@@ -11,8 +11,9 @@
 #include <QPushButton>
 #include <QToolButton>
 
-#include <set>
+#include <algorithm>
 
+#include "tests/content/rule_builder.h"
 #include "tests/ui/shell/frame_fixture.h"
 
 namespace orbisol {
@@ -67,16 +68,9 @@ TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
 
 TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
   frame->resize(1280, 720);
-  DayEvent event;
-  event.ymdFrom = kAlwaysFrom;
-  event.ymdTo = kAlwaysTo;
-  event.month = 5;
-  for (const auto& [day, name] : {std::pair(8, u"Victoire & <b>"), std::pair(20, u"Anniversaire")}) {
-    event.day = day;
-    event.isPublic = day == 8;
-    event.name.Set(name);
-    Content().dayEvents.push_back(event);
-  }
+  Content().dayEvents = {
+      Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire & <b>"}),
+      Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 20, .name = u"Anniversaire"})};
   Dialog().SettingsChanged();
   Settle();
   auto* const list = Named<QListWidget>("Ce mois-ci");
@@ -99,24 +93,26 @@ TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
   EXPECT_TRUE(list->hasFocus());
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
   EXPECT_EQ(Now(), 20240508);
-  EXPECT_NE(list->grab().toImage().pixel(list->visualItemRect(list->item(0)).topRight() - QPoint(1, 0)),
-            list->grab().toImage().pixel(list->visualItemRect(list->item(1)).topRight() - QPoint(1, 0)))
-      << "the line of the day is tinted";
+  const auto colorsOf = [&](int line) {
+    const QRect place = list->visualItemRect(list->item(line));
+    return ColorsIn(*list->viewport(), place.adjusted(place.width() / 8, 0, 0, 0));
+  };
+  EXPECT_EQ(colorsOf(0).count(list->palette().color(QPalette::HighlightedText).rgb()), 1U) << "has the keys";
 
   // Kinds are told by color and weight: holiday, event, moon.
   std::set<QRgb> inks;
   Show(20240530);
   Dialog().FocusMonth();
-  const QImage picture = list->viewport()->grab().toImage();
   for (const int line : {0, 1, 2}) {
-    const QRect place = list->visualItemRect(list->item(line));
-    QRgb darkest = qRgb(255, 255, 255);
-    for (int y = place.top(); y <= place.bottom(); ++y)
-      for (int x = place.width() / 8; x < place.width(); ++x)
-        if (qGray(picture.pixel(x, y)) < qGray(darkest)) darkest = picture.pixel(x, y);
-    inks.insert(darkest);
+    const std::set<QRgb> colors = colorsOf(line);
+    inks.insert(
+        *std::min_element(colors.begin(), colors.end(), [](QRgb a, QRgb b) { return qGray(a) < qGray(b); }));
   }
   EXPECT_EQ(inks.size(), 3U);
+  Show(20240508);
+  const std::set<QRgb> marked = colorsOf(0);
+  Show(20240509);
+  EXPECT_NE(colorsOf(0), marked) << "the line of the day is tinted";
 
   frame->resize(1280, 100);  // as low as it goes: the groups need the room
   Settle();

@@ -12,33 +12,16 @@
 #include "tests/support/fakes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/rules.h"
+#include "tests/support/spy_messages.h"
 #include "ui/editors/import_holidays_dlg.h"
-#include "ui/toolkit/messages.h"
 
 namespace orbisol {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-struct SpyMessages : UserMessages {
-  QStringList questions;
-  int answer = -1;
-  int beeps = 0;
-
-  void ShowError(QWidget*, const QString&) override {}
-  int Choose(QWidget*, const QString& text, const QStringList&) override {
-    questions.append(text);
-    return answer;
-  }
-  void Beep() override { ++beeps; }
-};
-
-DayEvent Rule(int month, int day, std::u16string_view name, bool isPublic = true) {
-  DayEvent rule = CalendarWith(name).content.dayEvents[0];
-  rule.month = month;
-  rule.day = day;
-  rule.isPublic = isPublic;
-  return rule;
+DayEvent Yearly(int month, int day, std::u16string_view name, bool isPublic = true) {
+  return Rule(kFixedDate, {.isPublic = isPublic, .month = month, .day = day, .name = name});
 }
 
 class ImportHolidaysTest : public testing::Test {
@@ -47,14 +30,14 @@ class ImportHolidaysTest : public testing::Test {
       : m_platform(FakeLocale(), FakeClock({2026, 5, 13})),
         m_rules(RulesWith(kRomanReform)),
         m_scope(messages) {
-    Put(u"/share/Legals/France.xml", {Rule(7, 14, u"Fête nationale"), Rule(1, 1, u"Jour de l'an")},
+    Put(u"/share/Legals/France.xml", {Yearly(7, 14, u"Fête nationale"), Yearly(1, 1, u"Jour de l'an")},
         u"expédié");
-    Put(u"/user/Legals/France.xml", {Rule(7, 14, u"<b>Fête</b>"), Rule(1, 1, u"Jour de l'an")},
+    Put(u"/user/Legals/France.xml", {Yearly(7, 14, u"<b>Fête</b>"), Yearly(1, 1, u"Jour de l'an")},
         u"<i>le mien</i>");
-    Put(u"/share/Legals/États-Unis.xml", {Rule(7, 4, u"Independence Day")}, u"");
-    Put(u"/share/Legals/Zambie.xml", {Rule(10, 24, u"Independence Day")}, u"");
-    mine.dayEvents = {Rule(7, 14, u"Ancienne fête"), Rule(3, 3, u"Anniversaire", false),
-                      Rule(1, 1, u"Jour de l'an")};
+    Put(u"/share/Legals/États-Unis.xml", {Yearly(7, 4, u"Independence Day")}, u"");
+    Put(u"/share/Legals/Zambie.xml", {Yearly(10, 24, u"Independence Day")}, u"");
+    mine.dayEvents = {Yearly(7, 14, u"Ancienne fête"), Yearly(3, 3, u"Anniversaire", false),
+                      Yearly(1, 1, u"Jour de l'an")};
     mine.vacations.push_back({20260704, 20260831, NameText(u"Été")});
   }
 
@@ -141,7 +124,7 @@ TEST_F(ImportHolidaysTest, ManyPersonalEventsAreAskedForFirst) {
   for (const int count : {100, 101}) {
     std::vector<DayEvent> rules;
     for (int i = 0; i < count; ++i)
-      rules.push_back(Rule(1 + i % 12, 1 + i / 12, u"n° " + DecimalText(i), false));
+      rules.push_back(Yearly(1 + i % 12, 1 + i / 12, u"n° " + DecimalText(i), false));
     Put(u"/user/Legals/Beaucoup.xml", rules, u"");
     const auto choose = [](CEvtImportDlg& dialog) {
       QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"beau"_s);
@@ -149,11 +132,11 @@ TEST_F(ImportHolidaysTest, ManyPersonalEventsAreAskedForFirst) {
     };
     mine = {};
     EXPECT_EQ(Import(choose), count == 100);
-    EXPECT_EQ(messages.questions.size(), count - 100);
-    messages.answer = 0;
+    EXPECT_EQ(messages.questions.size(), static_cast<std::size_t>(count - 100));
+    messages.choice = 0;
     EXPECT_EQ(Import(choose), count == 101);
     EXPECT_EQ(mine.dayEvents.size(), static_cast<std::size_t>(count));
-    messages.answer = -1;
+    messages.choice = -1;
     messages.questions.clear();
   }
 }

@@ -99,6 +99,7 @@ TEST_F(HeaderWndTest, TheMonthMenuKeepsTheDay) {
   Show(20240531);
   Click(header.Places().month);
   ASSERT_NE(OpenMenu(), nullptr);
+  EXPECT_EQ(OpenMenu()->x(), header.mapToGlobal(QPoint(header.Places().month.left, 0)).x());
   const QList<QAction*> months = OpenMenu()->actions();
   EXPECT_EQ(months[7]->text(), QStringLiteral("Mois && co"));
   EXPECT_EQ(months[7]->data().toInt(), 1058);
@@ -319,8 +320,14 @@ TEST_F(HeaderWndTest, EveryTitleFitsBetweenTheArrows) {
   header.resize(900, header.minimumSizeHint().height());
   const QFontMetrics texts(large);
   EXPECT_GE(header.Places().title.Height(), texts.height());
+  EXPECT_GE(header.minimumSizeHint().width(),
+            texts.horizontalAdvance(header.LeftText() + header.RightText()));
   header.resize(900, header.height() - 20);
-  EXPECT_GE(header.Places().month.Width(), texts.horizontalAdvance(QStringLiteral("Septembre")));
+  const int inSans = header.Places().month.Width();
+  EXPECT_GE(inSans, texts.horizontalAdvance(QStringLiteral("Septembre")));
+  Display().fontName.Set(u"DejaVu Sans Mono");
+  header.Refresh();
+  EXPECT_NE(header.Places().month.Width(), inSans) << "the title has the face of the calendar";
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "content/calendar_content.h"
 #include "content/selected_date.h"
 #include "settings/display_settings.h"
+#include "tests/content/rule_builder.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
 #include "ui/month/month_window.h"
@@ -47,16 +48,8 @@ class MonthWindowTest : public SelectedDateTest {
  protected:
   MonthWindowTest() {
     Display().backgroundImage = false;
-    DayEvent holiday;
-    holiday.isPublic = true;
-    holiday.month = 5;
-    holiday.day = 1;
-    holiday.ymdFrom = kAlwaysFrom;
-    holiday.ymdTo = kAlwaysTo;
-    holiday.name.Set(u"Fête <b>du</b> travail");
-    HolidayPeriod vacation{20240429, 20240501, {}};
-    vacation.title.Set(u"Vacances");
-    Content() = {{holiday}, {vacation}};
+    Content() = {{Rule(kFixedDate, {.month = 5, .day = 1, .name = u"Fête <b>du</b> travail"})},
+                 {Period(20240429, 20240501, u"Vacances")}};
     window = std::make_unique<CMonthWindow>();
     QObject::connect(window.get(), &CMonthWindow::dateMoved, window.get(), [this] { ++moves; });
     QObject::connect(window.get(), &CMonthWindow::dateDragged, window.get(), [this] { ++drags; });

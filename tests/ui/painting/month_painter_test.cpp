@@ -7,10 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
 
 #include "core/calendar_config.h"
+#include "tests/content/rule_builder.h"
 #include "tests/support/rules.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/painting/month_texts.h"
@@ -246,13 +246,7 @@ bool Holds(const QImage& image, Color color) {
 TEST(MonthPainterTest, NumbersHaveTheirDaysColorAndNeighborsAreItalic) {
   Page page;
   page.moon = MonthModel::kWithoutMoon;
-  DayEvent holiday;
-  holiday.isPublic = true;
-  holiday.month = 5;
-  holiday.day = 8;
-  holiday.ymdFrom = kAlwaysFrom;
-  holiday.ymdTo = kAlwaysTo;
-  page.content.dayEvents = {holiday};
+  page.content.dayEvents = {Rule(kFixedDate, {.month = 5, .day = 8})};
   page.settings.colors[kHolidayText] = kMagenta;
   page.settings.colors[kHolidayBack] = kWindowColor;
   page.settings.colors[kGrayTextColor] = page.settings.colors[kStandardTextColor];

@@ -1,7 +1,7 @@
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTimer>
@@ -36,16 +36,21 @@ TEST_F(FrameTest, TheAboutBoxSaysTheVersionOfTheBuild) {
       << qPrintable(texts.join(u'|'));
 }
 
-TEST_F(FrameTest, F1OpensTheHelpWhichDoesNotOutliveTheProgram) {
+TEST_F(FrameTest, HelpIsOpenedByItsKeyAndCommandsAndDoesNotOutliveTheProgram) {
   Open();
+  const auto help = [] {
+    CHelpWindow* found = nullptr;
+    for (QWidget* const widget : QApplication::topLevelWidgets())
+      if (auto* const window = dynamic_cast<CHelpWindow*>(widget)) found = window;
+    return found;
+  };
   QTest::keyClick(&Dialog().Month(), Qt::Key_F1);
-  CHelpWindow* help = nullptr;
-  for (QWidget* const widget : QApplication::topLevelWidgets())
-    if (auto* const found = dynamic_cast<CHelpWindow*>(widget)) help = found;
-  ASSERT_TRUE(help != nullptr && help->isVisible());
-  EXPECT_TRUE(help->Browser().toPlainText().startsWith(QString::fromUtf8("La fenêtre principale")));
-  EXPECT_FALSE(help->testAttribute(Qt::WA_QuitOnClose));
-  help->close();
+  ASSERT_TRUE(help() != nullptr && help()->isVisible());
+  EXPECT_TRUE(help()->Browser().toPlainText().startsWith(QString::fromUtf8("La fenêtre principale")));
+  EXPECT_FALSE(help()->testAttribute(Qt::WA_QuitOnClose));
+  frame->RunCommand(kCmdHelpIndex);
+  EXPECT_NE(qobject_cast<QLineEdit*>(help()->focusWidget()), nullptr) << "the words are looked for";
+  help()->close();
 }
 
 }  // namespace

@@ -7,15 +7,16 @@ Needs the packages of the `test` group (tools/install-packages.sh); with one mis
 Everything runs in folders of its own, and all that was started ends with it.
 """
 
-import ctypes
 import os
-import select
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "..", "tools"))
+from desktop_session import WAIT, Failure, adopt_orphans, end_all_children, environment_in, start_display, wait_for  # noqa: E402
 
 TOOLS = {
     "Xvfb": "xvfb",
@@ -25,23 +26,6 @@ TOOLS = {
     "dbus-run-session": "dbus-daemon",
     "/usr/libexec/at-spi-bus-launcher": "at-spi2-core",
 }
-WAIT = 90  # seconds for any one answer, on a machine that is busy with other things
-
-
-class Failure(Exception):
-    pass
-
-
-def wait_for(what, condition, step=lambda: time.sleep(0.05)):
-    """Returns the answer of the condition as soon as it is true."""
-    end = time.monotonic() + WAIT
-    while True:
-        answer = condition()
-        if answer:
-            return answer
-        if time.monotonic() > end:
-            raise Failure(f"{what}: not within {WAIT} s")
-        step()
 
 
 # --- Outside: the display, the session and their end -----------------------------------------------------
@@ -56,28 +40,6 @@ def missing_packages():
     return missing
 
 
-def children_of(pid):
-    try:
-        with open(f"/proc/{pid}/task/{pid}/children") as file:
-            return [int(child) for child in file.read().split()]
-    except OSError:
-        return []
-
-
-def end_all_children():
-    """Ends our processes and their children, which become ours when their parents end."""
-    for number in [signal.SIGTERM] * 20 + [signal.SIGKILL] * 100:
-        while True:
-            try:
-                if os.waitpid(-1, os.WNOHANG)[0] == 0:
-                    break
-            except ChildProcessError:
-                return
-        for child in children_of(os.getpid()):
-            os.kill(child, number)
-        time.sleep(0.05)
-
-
 def make_stage(root, program, sources, legals):
     """Returns the program as it is installed, with its data beside it, where it looks for them."""
     share = os.path.join(root, "stage", "share", "orbisol")
@@ -88,66 +50,13 @@ def make_stage(root, program, sources, legals):
     return shutil.copy2(program, os.path.join(root, "stage", "bin", "orbisol"))
 
 
-def environment_in(root):
-    kept = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH") if name in os.environ}
-    folders = {
-        "HOME": "home",
-        "XDG_CONFIG_HOME": "home/.config",
-        "XDG_DATA_HOME": "home/.local/share",
-        "XDG_CACHE_HOME": "home/.cache",
-        "XDG_STATE_HOME": "home/.local/state",
-        "XDG_RUNTIME_DIR": "run",
-        "TMPDIR": "tmp",
-    }
-    for name, folder in folders.items():
-        kept[name] = os.path.join(root, folder)
-        os.makedirs(kept[name], mode=0o700, exist_ok=True)
-    kept.update(
-        LC_ALL="C.UTF-8",
-        TZ="UTC0",
-        QT_QPA_PLATFORM="xcb",
-        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-        GIO_USE_VFS="local",
-        GSETTINGS_BACKEND="memory",
-        ASAN_OPTIONS="detect_leaks=0",
-        PYTHONDONTWRITEBYTECODE="1",
-    )
-    return kept
-
-
-def start_display(root, environment, log):
-    read, write = os.pipe()
-    subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
-        env=environment, stdout=log, stderr=log, pass_fds=[write])
-    os.close(write)
-    # The number and the end of its line come one after the other; who hangs up in between ends the server.
-    number = b""
-    while not number.endswith(b"\n"):
-        part = os.read(read, 20) if select.select([read], [], [], WAIT)[0] else b""
-        if not part:
-            raise Failure("no X server")
-        number += part
-    os.close(read)
-    environment["DISPLAY"] = ":" + number.decode().strip()
-    subprocess.Popen(["openbox"], env=environment, stdout=log, stderr=log)
-
-    def has_manager():
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=environment, text=True,
-                                capture_output=True, check=False)
-        return "window id" in answer.stdout
-
-    wait_for("the window manager", has_manager)
-
-
 def run_outside(program, sources, legals):
     missing = missing_packages()
     if missing:
         print("Cannot listen to the accessibility bus: missing here " + ", ".join(missing)
               + " (tools/install-packages.sh test installs them for /usr/bin/python3).")
         return 1
-    become_parent_of_orphans = 36  # PR_SET_CHILD_SUBREAPER
-    ctypes.CDLL(None).prctl(become_parent_of_orphans, 1, 0, 0, 0)
+    adopt_orphans()
     for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
         signal.signal(number, lambda *_: sys.exit(1))
     root = tempfile.mkdtemp(prefix="orbisol-reader-")
@@ -157,7 +66,7 @@ def run_outside(program, sources, legals):
         with open(log_path, "w") as log:
             environment = environment_in(root)
             staged = make_stage(root, program, sources, legals)
-            start_display(root, environment, log)
+            start_display(environment, log)
             inside = subprocess.Popen(
                 ["dbus-run-session", "--", sys.executable, os.path.abspath(__file__), "--inside", staged, log_path],
                 env=environment, stderr=log)

@@ -1,59 +1,30 @@
 // A main frame of its own for each test, on a store and a folder of calendars in memory.
 #pragma once
 
-#include <QApplication>
 #include <QTest>
 
-#include <gtest/gtest.h>
+#include <set>
 
-#include <memory>
-
-#include "content/selected_date.h"
-#include "tests/support/fakes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "tests/support/rules.h"
+#include "tests/support/spy_messages.h"
+#include "tests/ui/month/month_fixture.h"
 #include "ui/shell/calendar_frame.h"
-#include "ui/toolkit/messages.h"
 
 namespace orbisol {
 
-struct SpyMessages : UserMessages {
-  std::vector<QString> errors, questions;
-  int choice = -1;  // answer to every question
-  int beeps = 0;
+// Returns the colors that a part of a widget is painted in.
+inline std::set<QRgb> ColorsIn(QWidget& widget, const QRect& place) {
+  const QImage picture = widget.grab(place).toImage();
+  std::set<QRgb> colors;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) colors.insert(picture.pixel(x, y));
+  return colors;
+}
 
-  void ShowError(QWidget*, const QString& text) override { errors.push_back(text); }
-  int Choose(QWidget*, const QString& text, const QStringList&) override {
-    questions.push_back(text);
-    return choice;
-  }
-  void Beep() override { ++beeps; }
-};
-
-class FrameTest : public ::testing::Test {
+class FrameTest : public SelectedDateTest {
  protected:
-  FrameTest()
-      : m_platform(FakeLocale(), FakeClock({2024, 5, 15})),
-        m_rules(RulesWith(kRomanReform)),
-        m_messages(messages),
-        store("\"CalendarName\"=\"Calendar\"\n"),
-        calendars(files, kMemoryFolders),
-        publicCalendars(files, kMemoryFolders) {
-    Select(20240515);
-    WindowLayout layout;
-    layout.rightPaneShown = true;
-    StoreLayout(layout);
-  }
-  ~FrameTest() override {
-    frame.reset();
-    Display() = DisplaySettings();
-    Content() = CalendarContent();
-  }
-
-  static void Select(PackedDate date) { Selected().SetPacked(date); }
-  static PackedDate Now() { return Selected().Packed(); }
-  static void Settle() { QApplication::processEvents(); }
+  FrameTest() { StoreLayout({.rightPaneShown = true}); }
 
   void Open() {
     frame =
@@ -95,14 +66,12 @@ class FrameTest : public ::testing::Test {
     return layout;
   }
 
-  ScopedPlatform m_platform;
-  ScopedRules m_rules;
   SpyMessages messages;
-  ScopedMessages m_messages;
-  CMemoryStore store;
+  ScopedMessages m_messages{messages};
+  CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
   CMemoryFiles files;
-  CCalendarStore calendars;
-  CPublicCalendars publicCalendars;
+  CCalendarStore calendars{files, kMemoryFolders};
+  CPublicCalendars publicCalendars{files, kMemoryFolders};
   std::unique_ptr<CCalendarFrame> frame;
 };
 

@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -16,8 +15,8 @@
 #include <QWindow>
 
 #include <functional>
-#include <set>
 
+#include "tests/content/rule_builder.h"
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/header/year_edit.h"
 #include "ui/toolkit/colors.h"
@@ -26,14 +25,7 @@ namespace orbisol {
 namespace {
 
 DayEvent EveryYear(int month, int day, const char16_t* name) {
-  DayEvent event;
-  event.month = month;
-  event.day = day;
-  event.isPublic = true;
-  event.ymdFrom = kAlwaysFrom;
-  event.ymdTo = kAlwaysTo;
-  event.name.Set(name);
-  return event;
+  return Rule(kFixedDate, {.month = month, .day = day, .name = name});
 }
 
 TEST_F(FrameTest, DatesAreCopiedAsTheyAreShownAlsoFromTheHiddenPane) {
@@ -93,32 +85,25 @@ TEST_F(FrameTest, TheStatusBarNamesTheNextHolidayWhereNoListDoes) {
 TEST_F(FrameTest, WhatStandsAroundTheMonthIsPaintedWhereItBelongs) {
   Open();
   const QRect month = Dialog().Month().geometry();
-  const QRect remark(month.center().x(), 0, month.width() / 2, Dialog().Header().y());
-  const auto colorsIn = [](QWidget& widget, const QRect& place) {
-    const QImage picture = widget.grab(place).toImage();
-    std::set<QRgb> colors;
-    for (int y = 0; y < picture.height(); ++y)
-      for (int x = 0; x < picture.width(); ++x) colors.insert(picture.pixel(x, y));
-    return colors;
-  };
+  const QRect remark(month.right() - 100, 0, 100, Dialog().Header().y());
   const QRect line(month.left() - 1, month.center().y(), 1, 1);
-  EXPECT_EQ(colorsIn(Dialog(), line), std::set{ToQColor(kHighlightColor).rgb()});
-  const auto plain = colorsIn(Dialog(), remark);
-  const auto status = colorsIn(*frame->statusBar(), frame->statusBar()->rect()).size();
+  EXPECT_EQ(ColorsIn(Dialog(), line), std::set{ToQColor(kHighlightColor).rgb()});
+  const auto plain = ColorsIn(Dialog(), remark);
+  const auto status = ColorsIn(*frame->statusBar(), frame->statusBar()->rect()).size();
   EXPECT_EQ(plain.count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 0U);
   Show(15821004);
-  EXPECT_EQ(colorsIn(Dialog(), remark).count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 1U);
+  EXPECT_EQ(ColorsIn(Dialog(), remark).count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 1U);
   Show(15821131);
-  EXPECT_EQ(colorsIn(Dialog(), remark), plain);
-  EXPECT_GT(colorsIn(*frame->statusBar(), frame->statusBar()->rect()).size(), status + 5) << "no such date";
+  EXPECT_EQ(ColorsIn(Dialog(), remark), plain);
+  EXPECT_GT(ColorsIn(*frame->statusBar(), frame->statusBar()->rect()).size(), status + 5) << "no such date";
   Control<QPushButton>("julien")->setFocus();
-  EXPECT_EQ(colorsIn(Dialog(), line).count(ToQColor(kHighlightColor).rgb()), 0U);
+  EXPECT_EQ(ColorsIn(Dialog(), line).count(ToQColor(kHighlightColor).rgb()), 0U);
   const auto beside = [&] {
-    return colorsIn(Dialog(), {Dialog().Header().geometry().right() + 20, month.center().y(), 8, 1}).size();
+    return ColorsIn(Dialog(), {Dialog().Header().geometry().right() + 20, month.center().y(), 8, 1}).size();
   };
   EXPECT_GT(beside(), 1U);
   frame->RunCommand(kCmdTogglePane);
-  EXPECT_EQ(colorsIn(Dialog(), {Dialog().width() - 5, month.center().y(), 5, 1}).size(), 1U);
+  EXPECT_EQ(ColorsIn(Dialog(), {Dialog().width() - 5, month.center().y(), 5, 1}).size(), 1U);
 }
 
 TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
@@ -209,27 +194,15 @@ TEST_F(FrameTest, WhatThePaneTookWhileTheFrameWasMaximizedIsGivenBackAfterwards)
   EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() == 900 - Dialog().PaneWidth(); }));
 }
 
-TEST_F(FrameTest, AMinimizedFrameStoresNothing) {
-  Open();
-  frame->showMinimized();
-  Settle();
-  const std::size_t before = store.written.size();
-  frame->close();
-  EXPECT_EQ(store.written.size(), before);
-}
-
 TEST_F(FrameTest, AWindowStoredWhereNobodySeesItComesBackOntoTheScreen) {
   constexpr int kMost = 2147483647;
   for (const Rect& rect :
        {Rect{4000, 3000, 4900, 3500}, Rect{-9000, -9000, -8000, -8500}, Rect{kMost, kMost, -kMost, -kMost}}) {
     WindowLayout far;
     far.rect = rect;
-    far.statusBarShown = false;
     StoreLayout(far);
     Open();
     EXPECT_TRUE(frame->screen()->availableGeometry().contains(frame->geometry())) << rect.left;
-    EXPECT_FALSE(frame->statusBar()->isVisible());
-    EXPECT_FALSE(frame->Commands().Action(kCmdToggleStatusBar)->isChecked());
     EXPECT_FALSE(Dialog().IsPaneShown());
   }
 }
@@ -241,10 +214,16 @@ TEST_F(FrameTest, BarsAreHiddenAndShownAndOnlyTheStatusBarIsRemembered) {
   EXPECT_FALSE(frame->findChild<QToolBar*>()->isVisible());
   EXPECT_FALSE(frame->statusBar()->isVisible());
   EXPECT_FALSE(frame->Commands().Action(kCmdToggleToolBar)->isChecked());
+  EXPECT_FALSE(frame->Commands().Action(kCmdToggleStatusBar)->isChecked());
   frame->close();
   Open();
   EXPECT_TRUE(frame->findChild<QToolBar*>()->isVisible());
   EXPECT_FALSE(frame->statusBar()->isVisible());
+  frame->showMinimized();
+  Settle();
+  const std::size_t before = store.written.size();
+  frame->close();
+  EXPECT_EQ(store.written.size(), before) << "a minimized frame stores nothing";
 }
 
 TEST_F(FrameTest, AltAndArrowsGoThroughTheDatesVisited) {
@@ -255,25 +234,15 @@ TEST_F(FrameTest, AltAndArrowsGoThroughTheDatesVisited) {
     Settle();
   };
   EXPECT_FALSE(frame->Commands().Action(kCmdGoBack)->isEnabled());
-  QTest::keyClick(&month, Qt::Key_Right);
-  Settle();
-  QTest::keyClick(&month, Qt::Key_End);
-  Settle();
-  QTest::keyClick(&month, Qt::Key_J);
-  Settle();
-  QTest::keyClick(&month, Qt::Key_PageUp);
-  Settle();
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_End, Qt::Key_J, Qt::Key_PageUp}) {
+    QTest::keyClick(&month, key);
+    Settle();
+  }
   Control<QPushButton>("julien")->click();  // as near as a step, yet not one
-  for (const PackedDate date : {-451201, -440101}) {
+  for (const PackedDate date : {-451201, -440101, kLastDateShown, 20240516, 20240515}) {
     alt(Qt::Key_Left);
     EXPECT_EQ(Now(), date);
   }
-  alt(Qt::Key_Left);
-  EXPECT_EQ(Now(), kLastDateShown);
-  alt(Qt::Key_Left);
-  EXPECT_EQ(Now(), 20240516);
-  alt(Qt::Key_Left);
-  EXPECT_EQ(Now(), 20240515);
   EXPECT_FALSE(frame->Commands().Action(kCmdGoBack)->isEnabled());
   alt(Qt::Key_Right);
   EXPECT_EQ(Now(), 20240516);
@@ -283,12 +252,6 @@ TEST_F(FrameTest, AltAndArrowsGoThroughTheDatesVisited) {
   alt(Qt::Key_Home);
   EXPECT_EQ(Now(), 20240515);
   EXPECT_EQ(Dialog().Header().TitleText(), QStringLiteral("Mai 2024"));
-}
-
-TEST_F(FrameTest, QuitEndsTheWindow) {
-  Open();
-  frame->Commands().Action(kCmdQuit)->trigger();
-  EXPECT_FALSE(frame->isVisible());
 }
 
 TEST_F(FrameTest, ViewsFollowOneAnother) {
@@ -370,12 +333,15 @@ TEST_F(FrameTest, TheEditorsOpenOnTheDaysThatWerePointedAt) {
   EXPECT_EQ(messages.beeps, 0);
 }
 
-TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOne) {
+TEST_F(FrameTest, TheTitleNamesAnotherCalendarThanTheUsualOneAndQuitEndsTheWindow) {
   Open();
   EXPECT_EQ(frame->windowTitle(), QStringLiteral("Orbisol"));
   store.Write({{"CalendarName", TextValue(u"Été & <b> [*]")}});
   Open();
   EXPECT_EQ(frame->windowHandle()->title(), QString::fromUtf8("Orbisol - Été & <b> [*]"));
+  EXPECT_TRUE(frame->testAttribute(Qt::WA_AlwaysShowToolTips)) << "tips of inactive windows";
+  frame->Commands().Action(kCmdQuit)->trigger();
+  EXPECT_FALSE(frame->isVisible());
 }
 
 TEST_F(FrameTest, AtEveryFontTheWindowFitsOnItsScreenAndItsTextsStayWhole) {

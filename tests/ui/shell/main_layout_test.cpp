@@ -6,14 +6,12 @@ namespace orbisol {
 namespace {
 
 MainMeasures Measures(int width, int height, bool weekNumbers, bool paneShown) {
-  MainMeasures measures;
-  measures.width = width;
-  measures.height = height;
-  measures.headerTop = 24;
-  measures.weekNumbers = weekNumbers;
-  measures.paneShown = paneShown;
-  measures.paneWidth = 336;
-  return measures;
+  return {.width = width,
+          .height = height,
+          .headerTop = 24,
+          .weekNumbers = weekNumbers,
+          .paneShown = paneShown,
+          .paneWidth = 336};
 }
 
 TEST(MainLayoutTest, SevenColumnsComeOutEqualAtEveryWidth) {

@@ -2,36 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "tests/support/calendar_builder.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "ui/toolkit/messages.h"
+#include "tests/support/spy_messages.h"
 
 namespace orbisol {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-// Gives the answers of a user, one after the other, and keeps the questions.
-struct ScriptedMessages : UserMessages {
-  std::vector<int> answers;
-  std::function<void()> whileAsking;  // act of another program during a question
-  QStringList shown, buttons;
-
-  void ShowError(QWidget* /*parent*/, const QString& text) override { shown.append(text); }
-  int Choose(QWidget* /*parent*/, const QString& text, const QStringList& names) override {
-    shown.append(text);
-    buttons = names;
-    if (whileAsking) whileAsking();
-    if (answers.empty()) return -1;
-    const int answer = answers.front();
-    answers.erase(answers.begin());
-    return answer;
-  }
-  void Beep() override {}
-};
 
 class SaveCalendarTest : public testing::Test {
  protected:
@@ -67,7 +46,7 @@ class SaveCalendarTest : public testing::Test {
   CCalendarStore calendars{files, kMemoryFolders};
   CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
   DisplaySettings display;
-  ScriptedMessages messages;
+  SpyMessages messages;
 
  private:
   ScopedMessages m_scope;

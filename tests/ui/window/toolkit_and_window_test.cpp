@@ -1,4 +1,3 @@
-#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -9,11 +8,10 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolBar>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <map>
 
 #include "resources/menus.h"
 #include "resources/strings.h"
@@ -127,44 +125,33 @@ TEST(ToolIconsTest, StraightLinesAreSharpAtSmallSizesAndDoubledScale) {
 TEST(SpaceKeyTest, FieldsThatUseSpaceKeepIt) {
   CSpaceKeyFilter filter;
   QApplication::instance()->installEventFilter(&filter);
-  QMainWindow window;
-  auto* const page = new QWidget;
-  auto* const column = new QVBoxLayout(page);
-  auto* const box = new QCheckBox;
-  auto* const button = new QPushButton;
-  auto* const field = new QLineEdit;
-  auto* const choice = new QComboBox;
-  choice->addItem(QStringLiteral("one"));
-  auto* const plain = new QWidget;
-  plain->setFocusPolicy(Qt::StrongFocus);
-  for (QWidget* const widget : std::initializer_list<QWidget*>{box, button, field, choice, plain})
-    column->addWidget(widget);
-  window.setCentralWidget(page);
+  QWidget window;
+  QCheckBox box(&window);
+  QPushButton button(&window);
+  QLineEdit field(&window);
+  QComboBox choice(&window);
+  QWidget plain(&window);
+  choice.addItem(QStringLiteral("one"));
+  plain.setFocusPolicy(Qt::StrongFocus);
   QAction action;
   action.setShortcut(Qt::Key_Space);
   window.addAction(&action);
   int triggered = 0;
   int pressed = 0;
   QObject::connect(&action, &QAction::triggered, &window, [&] { ++triggered; });
-  QObject::connect(button, &QPushButton::clicked, &window, [&] { ++pressed; });
+  QObject::connect(&button, &QPushButton::clicked, &window, [&] { ++pressed; });
   window.show();
   window.activateWindow();
   QApplication::processEvents();
-  const auto space = [&](QWidget* widget) {
+  for (QWidget* const widget : std::initializer_list<QWidget*>{&box, &button, &field, &choice, &plain}) {
+    EXPECT_EQ(triggered, 0);
     widget->setFocus();
     QTest::keyClick(window.windowHandle(), Qt::Key_Space);
-  };
-  space(box);
-  EXPECT_TRUE(box->isChecked());
-  space(button);
+    choice.hidePopup();
+  }
+  EXPECT_TRUE(box.isChecked());
   EXPECT_EQ(pressed, 1);
-  space(field);
-  EXPECT_EQ(field->text(), QStringLiteral(" "));
-  space(choice);
-  EXPECT_TRUE(choice->view()->isVisible());
-  choice->hidePopup();
-  EXPECT_EQ(triggered, 0);
-  space(plain);
+  EXPECT_EQ(field.text(), QStringLiteral(" "));
   EXPECT_EQ(triggered, 1);
 }
 
