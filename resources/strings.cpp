@@ -19,7 +19,7 @@ constexpr Entry kStrings[] = {
     {kCmdQuit, u"Quitter le programme\nQuitter"},
     {kTextPrevious, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
     {kTextNext, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
-    {135, u"Installation incorrecte - réinstallez le programme."},
+    {kTextBrokenInstallation, u"Installation incorrecte - réinstallez le programme."},
     {kTextRuleKinds,
      u"À date fixe|Relatif à Pâques romain|Relatif à Pâques orthodoxe|Jour semaine donné|"
      u"Jour sem. avant date (incluse)|Jour sem. après date (incluse)|Bank Holiday (ni sam. ni dim.)|"
@@ -50,17 +50,17 @@ constexpr Entry kStrings[] = {
      u"Couleur d'arrière-plan du jour de vacances|Couleur du cadre actif|Couleur du texte grisé|"
      u"Couleur du texte du titre du mois|Couleur d'arrière-plan du calendrier|"
      u"Couleur du numéro de semaine"},
-    {299,
+    {kTextCenturies,
      u"premier|deuxième|troisième|quatrième|cinquième|sixième|septième|huitième|neuvième|dixième|"
      u"onzième|douzième|treizième|quatorzième|quinzième|seizième|dix-septième|dix-huitième|"
      u"dix-neuvième"},
-    {300, u"vingtième|trentième|quarantième"},
-    {301, u"vingt|trente|quarante"},
-    {302, u"et-unième"},
-    {303, u"siècle"},
-    {304, u"siècle avant notre ère"},
+    {kTextTenthCenturies, u"vingtième|trentième|quarantième"},
+    {kTextCenturyTens, u"vingt|trente|quarante"},
+    {kTextCenturyFirst, u"et-unième"},
+    {kTextCentury, u"siècle"},
+    {kTextCenturyBeforeEra, u"siècle avant notre ère"},
     {kTextOpenPicture, u"Ouvrir le fichier image"},
-    {309, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
+    {kTextDatePatterns, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
     {kCmdAbout, u"Afficher la version du programme\nÀ propos"},
     {kTextFrenchMonths,
      u"janvier|février|mars|avril|mai|juin|juillet|août|septembre|octobre|novembre|décembre"},
@@ -108,6 +108,7 @@ constexpr Entry kStrings[] = {
     {kTextCountsInWords,
      u"%de jour de l'année, il en reste %d|1er jour de l'année, il en reste %d|Dernier jour de l'année, le "
      u"%de"},
+    {kTextErasInWords, u"An %d depuis la fondation de Rome (ab Urbe condita)|%d avant Jésus-Christ"},
     {kTextToolkitSource,
      u"Double Sided Printing|Off|Long side binding|Short side binding|Pages|"
      u"Specify pages or ranges separated by commas. Ranges are specified by two numbers separated by a "

@@ -18,6 +18,7 @@ enum TextId : int {
   kTextRuleKinds = 137,      // one for each kind of rule
   kTextLongOrdinals = 138,   // from the first to the fourth, and the last
   kTextShortOrdinals = 139,  // the same
+  kTextBrokenInstallation = 135,
   kTextPictureFilter = 279,  // of a file dialog: caption, patterns
   kTextEras = 280,           // of a year before the first
   kTextNewMoon = 281,        // the other phases follow
@@ -70,6 +71,7 @@ enum TextId : int {
   kTextSilentInstance = 5126,  // at a start, when the first program does not answer
   kTextOpenAnyway = 5127,      // the button of that question
   kTextCountsInWords = 5128,   // of a day: its number in the civil year and what is left; number 1; one left
+  kTextErasInWords = 5129,     // of a year before the first: since the foundation of Rome, before the era
   kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
   kTextDayOfMonth = 5140,        // by day and month, by month for its first day

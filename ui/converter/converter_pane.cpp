@@ -124,6 +124,10 @@ void CConverterPane::ShowMonth(const MonthModel& month) {
 
 bool CConverterPane::ListsMonth() const { return !m_month->isHidden(); }
 
+bool CConverterPane::NamesHolidayFrom(PackedDate date) const {
+  return ListsMonth() && m_month->NamesHolidayFrom(date);
+}
+
 void CConverterPane::GoTo(PackedDate date) {
   Selected().SetPacked(date);
   ClampToBounds(Selected());

@@ -32,6 +32,8 @@ class CConverterPane : public QScrollArea {
   void ShowMonth(const MonthModel& month);
   // Returns whether the window has room for that list.
   bool ListsMonth() const;
+  // Returns whether that list is shown with a public holiday on or after `date`.
+  bool NamesHolidayFrom(PackedDate date) const;
   // Takes over colors and calendar rules that were changed; Refresh() then shows the dates by them.
   void SettingsChanged();
 

@@ -32,6 +32,6 @@ QLabel* MakeDateLabel();
 QPushButton* MakeButton(int textId);
 
 // Indices of the pieces of kTextConverterNames.
-enum { kNameDay, kNameMonth, kNameYear, kNameKept, kNameDifference };
+enum { kFieldDay, kFieldMonth, kFieldYear, kFieldKept, kFieldDifference };
 
 }  // namespace orbisol

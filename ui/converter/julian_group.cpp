@@ -19,7 +19,7 @@ namespace {
 int ProlepticWidth(const QFontMetrics& metrics) {
   int widest = 0;
   for (int month = 1; month <= 12; ++month) {
-    const std::u16string date = DayMonthYear(Selected().dateOrder, 30, MonthName(month), -3999);
+    const std::u16string date = DayMonthYear(Selected().dateOrder, 30, MonthName(month), kFirstYearShown);
     widest = std::max(widest, metrics.horizontalAdvance(TableText(kTextProlepticGregorian, {date})));
   }
   return widest;

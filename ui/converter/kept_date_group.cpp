@@ -23,12 +23,11 @@ CKeptDateGroup::CKeptDateGroup(QWidget* parent)
       m_kept(new CReadOnlyField),
       m_difference(new CReadOnlyField) {
   m_keep->setCheckable(true);
-  m_kept->setAlignment(Qt::AlignCenter);
   m_kept->setPlaceholderText(TablePiece(kTextKeptPlaceholders, 0));
-  NameField(m_kept, kNameKept);
+  NameField(m_kept, kFieldKept);
   m_difference->setAlignment(Qt::AlignRight);
   m_difference->setPlaceholderText(TablePiece(kTextKeptPlaceholders, 1));
-  NameField(m_difference, kNameDifference);
+  NameField(m_difference, kFieldDifference);
   auto* const row = new QHBoxLayout;
   row->addWidget(m_keep);
   row->addWidget(m_kept, 1);
@@ -70,6 +69,8 @@ void CKeptDateGroup::ColorsChanged() {
 
 // Shows the date. It is written anew each time, because other calendar rules may write it differently.
 void CKeptDateGroup::Refresh() {
+  // The toolkit hides a centred placeholder while the field has the keyboard.
+  m_kept->setAlignment(m_keptDate == 0 ? Qt::AlignLeft : Qt::AlignCenter);
   if (m_keptDate == 0) {
     m_kept->clear();
     m_difference->clear();

@@ -74,6 +74,7 @@ void CMonthList::Show(const MonthModel& month) {
   if (highlights == m_highlights) return;
   m_highlights = std::move(highlights);
   Fill();
+  if (!m_lines->hasFocus()) GoToTop();
 }
 
 void CMonthList::SettingsChanged() { Fill(); }
@@ -104,6 +105,19 @@ void CMonthList::MarkDate(PackedDate date) {
     m_lines->item(i)->setData(CMonthLine::kMarkedRole, isMarked);
     if (isMarked && !m_lines->hasFocus()) m_lines->setCurrentRow(i);
   }
+  if (!isFound && !m_lines->hasFocus()) GoToTop();
+}
+
+// Brings the holidays back into view, which stand before the phases of the moon.
+void CMonthList::GoToTop() {
+  m_lines->setCurrentRow(0);
+  m_lines->scrollToTop();
+}
+
+bool CMonthList::NamesHolidayFrom(PackedDate date) const {
+  return std::any_of(m_highlights.begin(), m_highlights.end(), [&](const Highlight& highlight) {
+    return highlight.kind == HighlightKind::kHoliday && DayOrder(highlight.date) >= DayOrder(date);
+  });
 }
 
 void CMonthList::Choose(int line) {

@@ -31,6 +31,8 @@ class CMonthList : public CCalendarGroup {
   void Show(const MonthModel& month);
   // Tints the first line of a date and makes it the current line; without such a line no line is tinted.
   void MarkDate(PackedDate date);
+  // Returns whether a public holiday on or after `date` is listed.
+  bool NamesHolidayFrom(PackedDate date) const;
   // Returns the greatest height of the group, at most `height`, at which no line is cut; at least that of
   // kLeastLines lines.
   int HeightWithin(int height) const;
@@ -46,6 +48,7 @@ class CMonthList : public CCalendarGroup {
 
  private:
   void Fill();
+  void GoToTop();
   void FitToFont();
   int LineHeight() const;
   void Choose(int line);

@@ -28,14 +28,14 @@ CRepublicanEntry::CRepublicanEntry(QWidget* parent)
       m_month(new QComboBox),
       m_year(new QLineEdit),
       m_go(MakeButton(kTextGo)) {
-  NameField(m_day, kNameDay);
+  NameField(m_day, kFieldDay);
   m_day->setMinimumContentsLength(2);
   m_day->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  NameField(m_month, kNameMonth);
+  NameField(m_month, kFieldMonth);
   for (int month = 0; month <= kComplementaryMonth; ++month)
     m_month->addItem(ToQString(RepublicanMonthName(month)));
   m_month->setMaxVisibleItems(kComplementaryMonth + 1);
-  NameField(m_year, kNameYear);
+  NameField(m_year, kFieldYear);
   m_year->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[+-]?[0-9]{0,9}")), m_year));
   m_year->setAlignment(Qt::AlignRight);

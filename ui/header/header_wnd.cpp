@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 #include "content/selected_date.h"
 #include "content/spoken_text.h"
@@ -263,16 +264,25 @@ void CHeaderWnd::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
-// Returns the place of RightText().
-QRect CHeaderWnd::CountsRect() const {
-  QRect place = ToQRect(m_layout.bottomBand);
-  place.setLeft(place.right() + 1 - QFontMetrics(font()).horizontalAdvance(RightText()));
+// Returns the place of a text at the right end of a band.
+QRect CHeaderWnd::RightEnd(const Rect& band, const QString& text) const {
+  QRect place = ToQRect(band);
+  place.setLeft(place.right() + 1 - QFontMetrics(font()).horizontalAdvance(text));
   return place;
+}
+
+// Returns in words what EraText() says in short.
+QString CHeaderWnd::EraTip() const {
+  const int year = CivilYearOf(Selected());
+  if (year > 0) return {};
+  const std::u16string_view forms = StringText(kTextErasInWords);
+  return ToQString(FormatText(Piece(forms, u'|', 0), {YearOfRome(year)}) + u'\n' +
+                   FormatText(Piece(forms, u'|', 1), {YearBeforeEra(year)}));
 }
 
 QString CHeaderWnd::YearTip() const {
   QStringList lines{ToQString(CenturyText(CivilYearOf(Selected())))};
-  lines << EraText() << CivilYearText() << TablePiece(kTextHeaderTips, 1);
+  lines << EraTip() << CivilYearText() << TablePiece(kTextHeaderTips, 1);
   lines.removeAll(QString());
   return lines.join(QLatin1Char('\n'));
 }
@@ -299,10 +309,13 @@ QString CHeaderWnd::TipAt(QPoint position, QRect* area) const {
   if (isIn(m_layout.year)) return YearTip();
   if (isIn(m_layout.previousTip)) return TableText(kTextPrevious);
   if (isIn(m_layout.nextTip)) return TableText(kTextNext);
-  const QRect counts = CountsRect();
-  if (!counts.contains(position)) return {};
-  *area = counts;
-  return CountsTip();
+  for (const auto& [place, tip] : {std::pair(RightEnd(m_layout.topBand, EraText()), EraTip()),
+                                   std::pair(RightEnd(m_layout.bottomBand, RightText()), CountsTip())}) {
+    if (!place.contains(position)) continue;
+    *area = place;
+    return tip;
+  }
+  return {};
 }
 
 bool CHeaderWnd::event(QEvent* event) {

@@ -86,7 +86,8 @@ class CHeaderWnd : public QWidget {
   void Changed(DateMove move);
   QString YearTip() const;
   QString CountsTip() const;
-  QRect CountsRect() const;
+  QString EraTip() const;
+  QRect RightEnd(const Rect& band, const QString& text) const;
   QString TipAt(QPoint position, QRect* area) const;
   void UpdateNames();
 

@@ -24,7 +24,7 @@ CYearEdit::CYearEdit(QWidget* parent) : QAbstractSpinBox(parent) {
     const bool hasDigit =
         std::any_of(entered.begin(), entered.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!hasDigit) return;
-    emit YearEntered(std::clamp(ParseDecimal(Utf16View(entered)), -kLastYear, kLastYear));
+    emit YearEntered(std::clamp(ParseDecimal(Utf16View(entered)), kFirstYearShown, kLastYearShown));
   });
 }
 
@@ -43,10 +43,10 @@ void CYearEdit::SetPosition(int year) {
   QAccessible::updateAccessibility(&event);
 }
 
-void CYearEdit::stepBy(int steps) { Enter(m_position + std::clamp(steps, -kLastYear, kLastYear)); }
+void CYearEdit::stepBy(int steps) { Enter(m_position + std::clamp(steps, kFirstYearShown, kLastYearShown)); }
 
 void CYearEdit::Enter(int year) {
-  emit YearEntered(std::clamp(year, -kLastYear, kLastYear));
+  emit YearEntered(std::clamp(year, kFirstYearShown, kLastYearShown));
   // The owner has set the position to the year that it shows now.
   lineEdit()->setText(QString::number(m_position));
   selectAll();
@@ -54,8 +54,8 @@ void CYearEdit::Enter(int year) {
 
 QAbstractSpinBox::StepEnabled CYearEdit::stepEnabled() const {
   StepEnabled enabled = StepNone;
-  if (m_position > -kLastYear) enabled |= StepDownEnabled;
-  if (m_position < kLastYear) enabled |= StepUpEnabled;
+  if (m_position > kFirstYearShown) enabled |= StepDownEnabled;
+  if (m_position < kLastYearShown) enabled |= StepUpEnabled;
   return enabled;
 }
 

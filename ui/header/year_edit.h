@@ -6,6 +6,8 @@
 
 #include <QAbstractSpinBox>
 
+#include "core/date_range.h"
+
 namespace orbisol {
 
 // Edit field for a sign and digits, which is never rewritten while the user types.
@@ -25,8 +27,8 @@ class CYearEdit : public QAbstractSpinBox {
   // Returns the year that the spin control steps from.
   int Position() const { return m_position; }
   void SetPosition(int year);
-  int Minimum() const { return -kLastYear; }
-  int Maximum() const { return kLastYear; }
+  int Minimum() const { return kFirstYearShown; }
+  int Maximum() const { return kLastYearShown; }
   // Enters a year, clamped, as if it had been typed.
   void Enter(int year);
   QString Text() const { return text(); }
@@ -47,8 +49,6 @@ class CYearEdit : public QAbstractSpinBox {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  static constexpr int kLastYear = 3999;
-
   int m_position = 0;
 };
 

@@ -141,16 +141,17 @@ void CMonthWindow::mousePressEvent(QMouseEvent* event) {
   CancelRange();
   const int cell = CellAt(PixelAt(event->position()));
   m_range.Press(cell);
-  if (cell != kNoCell) SelectCell(cell, event->modifiers() & Qt::ControlModifier);
+  m_isDayPressed = cell != kNoCell && SelectCell(cell, event->modifiers() & Qt::ControlModifier);
 }
 
-void CMonthWindow::SelectCell(int cell, bool byYear) {
+bool CMonthWindow::SelectCell(int cell, bool byYear) {
   CancelRange();
-  if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return;
+  if (Month().cells[static_cast<std::size_t>(cell)].day == 0) return false;
   const Date before = Selected();
   const DateMove move = TakeCell(cell, byYear);
   ShowMove(before);
   emit dateMoved(move);
+  return move == DateMove::kLeap;
 }
 
 // Selects the day of a cell. With `byYear` a day of a neighboring month makes a step of a year instead.
@@ -198,11 +199,10 @@ void CMonthWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   }
   CancelRange();
   m_range.Release();
-  const int cell = CellAt(PixelAt(event->position()));
-  if (cell == kNoCell) return;
+  // The first press has selected the day, also one whose month was not shown: another day lies there now.
+  if (!m_isDayPressed) return;
   UpdateCell(SelectedCell());
-  if (Month().cells[static_cast<std::size_t>(cell)].month == Selected().month)
-    emit dayOpened(Date(Selected()));
+  emit dayOpened(Date(Selected()));
 }
 
 // Opens the range selected with keys, else the selected day. While an editor is open the selected date can

@@ -55,8 +55,8 @@ class CMonthWindow : public QWidget {
   PackedDate Today() const { return m_today; }  // 0 while the clock stands outside the years shown
 
   // Selects a cell's day like a click on it; with `byYear` a day of a neighboring month makes a step of a
-  // year instead.
-  void SelectCell(int cell, bool byYear = false);
+  // year instead. Returns whether the selected date is the cell's now.
+  bool SelectCell(int cell, bool byYear = false);
 
   QSize sizeHint() const override { return {560, 392}; }
 
@@ -115,6 +115,7 @@ class CMonthWindow : public QWidget {
   CTodayTimer m_midnight{[this] { CheckToday(); }};
   CFocusLine m_focusLine;
   CRangeDrag m_range;
+  bool m_isDayPressed = false;  // whether the last press of the left button selected the day under it
   CWheelSteps m_wheel;
 };
 

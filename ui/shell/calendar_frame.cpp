@@ -133,7 +133,10 @@ void CCalendarFrame::Open() {
   const int hidden = m_dialog->IsPaneShown() ? 0 : pane;  // the stored rectangle always holds the pane
   layout.rightPaneWidth = pane;
   if (m_isFirst) {
-    m_placement->OpenCentred(FirstSize());
+    // All rows of the month are equally high in the first window.
+    const int bars = minimumSizeHint().height() - m_dialog->minimumHeight();
+    m_placement->OpenCentred(FirstSize(),
+                             [this, bars](int height) { return m_dialog->EvenHeight(height - bars) + bars; });
   } else {
     m_placement->Open({layout.rect.left, layout.rect.top, layout.rect.Width() - hidden, layout.rect.Height()},
                       layout.maximized);

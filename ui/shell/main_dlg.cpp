@@ -149,7 +149,7 @@ QString CMainDlg::Description() {
   StatusFacts facts{.date = Selected(),
                     .range = m_month->RangeText(),
                     .withoutDate = Display().tipsForEventsOnly,
-                    .namesNextHoliday = !m_isPaneShown || !m_pane->ListsMonth()};
+                    .namesNextHoliday = !m_isPaneShown || !m_pane->NamesHolidayFrom(Selected().Packed())};
   if (const int cell = m_month->SelectedCell(); cell != kNoCell)
     facts.day = &m_month->Month().cells[static_cast<std::size_t>(cell)];
   return ToQString(StatusText(facts, Content().dayEvents));

@@ -22,12 +22,6 @@
 #include "ui/window/tool_icons.h"
 
 namespace orbisol {
-namespace {
-
-constexpr int kTextBrokenInstallation = 135;
-
-}  // namespace
-
 int Run(const StartUp& startUp) {
   if (!startUp.store.Read()) {
     Messages().ShowError(nullptr, TableText(kTextBrokenInstallation));

@@ -74,8 +74,9 @@ CFramePlacement::CFramePlacement(QWidget& window) : QObject(&window), m_window(w
 
 void CFramePlacement::Open(const QRect& frame, bool isMaximized) { Show(frame, isMaximized); }
 
-void CFramePlacement::OpenCentred(const QSize& frame) {
+void CFramePlacement::OpenCentred(const QSize& frame, std::function<int(int)> fitHeight) {
   m_isCentred = true;
+  m_fitHeight = std::move(fitHeight);
   Show({QPoint(), frame}, false);
 }
 
@@ -110,12 +111,15 @@ QRect CFramePlacement::Target(const QMargins& margins) const {
   const QSize least = LeastSize(m_window).grownBy(margins);
   QRect frame(m_wanted.topLeft(), m_wanted.size().expandedTo(least));
   if (m_isCentred) {
+    const int around = margins.top() + margins.bottom();
+    if (m_fitHeight) frame.setHeight(std::max(least.height(), m_fitHeight(frame.height() - around) + around));
     const QScreen* const screen = QGuiApplication::primaryScreen();
     const QRect area = screen == nullptr ? frame : screen->availableGeometry();
     frame.moveTo(area.x() + (area.width() - frame.width()) / 2,
                  area.y() + (area.height() - frame.height()) / 2);
   }
-  if (frame.size() != m_wanted.size() || !IsWithinReach(frame)) {
+  const bool isEnlarged = frame.width() > m_wanted.width() || frame.height() > m_wanted.height();
+  if (isEnlarged || !IsWithinReach(frame)) {
     const Rect fitted = FitRectToScreen(ToRect(frame), ToRect(FreeArea(frame)));
     frame = QRect(QPoint(fitted.left, fitted.top), QSize(fitted.Width(), fitted.Height()).expandedTo(least));
   }

@@ -16,6 +16,8 @@
 #include <QObject>
 #include <QRect>
 
+#include <functional>
+
 #include "settings/settings_persistence.h"
 
 class QWidget;
@@ -34,8 +36,9 @@ class CFramePlacement : public QObject {
   // screen.
   void Open(const QRect& frame, bool isMaximized);
 
-  // Shows the window in the middle of the free area of the primary screen.
-  void OpenCentred(const QSize& frame);
+  // Shows the window in the middle of the free area of the primary screen. `fitHeight`, where given, returns
+  // the height of the inside that suits the window best, at most the one it gets.
+  void OpenCentred(const QSize& frame, std::function<int(int)> fitHeight = {});
 
   // Makes the window wider by `change` pixels, narrower when negative. Maximized, minimized or on the full
   // screen it keeps its size, and its normal size changes instead.
@@ -66,9 +69,10 @@ class CFramePlacement : public QObject {
   void Resize(int change);
 
   QWidget& m_window;
-  QRect m_wanted;              // rectangle, with the frame, where the window should be
-  bool m_isCentred = false;    // whether m_wanted has a size alone
-  QPoint m_askedPlace;         // place that was asked for, of the frame
+  QRect m_wanted;                       // rectangle, with the frame, where the window should be
+  bool m_isCentred = false;             // whether m_wanted has a size alone
+  std::function<int(int)> m_fitHeight;  // of OpenCentred; null for none
+  QPoint m_askedPlace;                  // place that was asked for, of the frame
   QList<QSize> m_asked;        // sizes that were asked for, of the inside; any of them may still arrive
   QMargins m_margins;          // margins last seen at the normal size
   bool m_isCorrected = false;  // whether the margins have been taken off

@@ -114,6 +114,12 @@ TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
   Show(20240509);
   EXPECT_NE(colorsOf(0), marked) << "the line of the day is tinted";
 
+  // Low, so that the list scrolls: the last line of a month leaves the next one at its first.
+  frame->resize(1280, frame->height() - list->height() + 4 * list->sizeHintForRow(0));
+  Show(20240530);
+  Show(20240611);
+  EXPECT_EQ(list->indexAt(QPoint(5, 5)).row(), 0);
+
   frame->resize(1280, 100);  // as low as it goes: the groups need the room
   Settle();
   EXPECT_FALSE(list->isVisible());

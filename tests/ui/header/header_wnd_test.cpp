@@ -251,13 +251,15 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
 TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
   Show(101);
   const HeaderLayout& places = header.Places();
-  for (const auto& [point, text] : {std::pair{QPoint(3, 3), "Clic=mois précédent"},
-                                    {QPoint(597, 3), "Clic=mois suivant"},
-                                    {ToQRect(places.year).center(), "753 AUC | 1 av. JC"},
-                                    {ToQRect(places.year).center(), "siècle"},
-                                    {QPoint(ToQRect(places.bottomBand).bottomRight() - QPoint(4, 2)),
-                                     "1er jour de l'année, il en reste 36"},
-                                    {QPoint(100, 3), "none"}})
+  for (const auto& [point, text] :
+       {std::pair{QPoint(3, 3), "Clic=mois précédent"},
+        {QPoint(597, 3), "Clic=mois suivant"},
+        {ToQRect(places.year).center(), "An 753 depuis la fondation de Rome"},
+        {ToQRect(places.year).center(), "siècle"},
+        {QPoint(ToQRect(places.bottomBand).bottomRight() - QPoint(4, 2)),
+         "1er jour de l'année, il en reste 36"},
+        {QPoint(603 - header.fontMetrics().horizontalAdvance(header.EraText()), 3), "1 avant Jésus-Christ"},
+        {QPoint(100, 3), "none"}})
     EXPECT_NE(TipAt(point).find(text), std::string::npos) << TipAt(point);
 
   for (const auto& [point, isHand] : {std::pair{QPointF(0, 20), true},

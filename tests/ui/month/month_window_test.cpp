@@ -188,6 +188,13 @@ TEST_F(MonthWindowTest, MenuKeyAndDoubleClickOpenADay) {
     Up(at);
   }
   EXPECT_EQ(opened, (std::vector<PackedDate>{20240515, 20240515, 20240520, 20240430}));
+  // April's own first day lies where the grey 27 April was, and is grey too.
+  Select(20260513);
+  window->Refresh();
+  Down(At(4, 27));
+  Up(At(4, 27));
+  Mouse(QEvent::MouseButtonDblClick, At(4, 27));
+  EXPECT_EQ(opened.back(), 20260427);
 }
 
 TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
