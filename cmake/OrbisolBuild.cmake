@@ -91,6 +91,7 @@ endfunction()
 # Silences warnings about the inside of std::string that g++ 12 gives only with a precompiled header.
 function(orbisol_quiet_precompiled name)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
+    target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow
+      -Wno-stringop-overread)
   endif()
 endfunction()

@@ -17,7 +17,8 @@ bool DoesDateExist(const YearMonthDay& date) {
   if (date.month < 1 || date.month > 12 || date.day < 1 || date.day > 31) return false;
   const Date asked(date.year, date.month, date.day);
   const int number = asked.DayNumber();
-  return asked.SameDay(DateOfDayNumber(number)) || asked.SameDay(DateOfDayNumber(number - 1));
+  return asked.SameDay(DateOfDayNumber(number)) ||
+         asked.SameDay(DateOfDayNumber(Saturate(std::int64_t{number} - 1)));
 }
 
 void ClampToBounds(Date& date) {

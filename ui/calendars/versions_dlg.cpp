@@ -1,6 +1,7 @@
 #include "ui/calendars/versions_dlg.h"
 
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -66,6 +67,8 @@ CVersionsDlg::CVersionsDlg(CCalendarActions& actions, std::u16string_view name, 
 CVersionsDlg::~CVersionsDlg() = default;
 
 void CVersionsDlg::Fill() {
+  // A list that is emptied goes from row to row, which would compare with versions that are gone.
+  const QSignalBlocker comparesOnce(m_form->versions);
   m_state = m_actions.StateOf(m_name);
   m_rows.clear();
   m_form->versions->clear();
