@@ -142,10 +142,14 @@ def least_size(window):
     return (int(found[1]) + left + right, int(found[2]) + top + bottom) if found else (0, 0)
 
 
-def wanted_rectangle(window):
+def wanted_rectangle(window, height_now):
+    """Returns the rectangle of a first window. It is up to six pixels lower, so that the seven rows of the month
+    are equally high; `height_now` within that is right."""
     x, y, width, height = numbers(["-root"], "_NET_WORKAREA")[:4]
     least = least_size(window)
     size = (max(min(width * 2 // 3, 1280), least[0]), max(min(height * 2 // 3, 800), least[1]))
+    if 0 <= size[1] - height_now < 7:
+        size = (size[0], height_now)
     return (x + (width - size[0]) // 2, y + (height - size[1]) // 2, *size)
 
 
@@ -180,7 +184,7 @@ class Start:
             if not self.window:
                 raise Fault("no window came")
             self.real = self.settle(SETTLED_SECONDS[mode])
-            self.wanted = wanted_rectangle(self.window)
+            self.wanted = wanted_rectangle(self.window, self.real[3])
         except BaseException:
             self.end()
             raise
