@@ -1,0 +1,169 @@
+// Size and place of the main window: what opens it, what changes it, what is stored.
+
+#include <QPushButton>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QWindow>
+
+#include "tests/content/rule_builder.h"
+#include "tests/ui/shell/frame_fixture.h"
+
+namespace orbisol {
+namespace {
+
+// Returns the rectangle of a window with its frame.
+Rect WithFrame(const QWidget& window) {
+  const QRect rect = window.frameGeometry();
+  return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
+}
+
+TEST_F(FrameTest, ThePaneTakesItsWidthWithIt) {
+  Open();
+  frame->resize(900, 500);
+  Settle();
+  const int grid = Dialog().Month().width();
+  const int pane = Dialog().PaneWidth();
+  EXPECT_EQ(pane % 7, 0);
+  QTest::keyClick(frame->windowHandle(), Qt::Key_Space);
+  EXPECT_FALSE(Dialog().IsPaneShown());
+  EXPECT_EQ(frame->size(), QSize(900 - pane, 500));
+  EXPECT_EQ(Dialog().Month().width(), grid);
+  EXPECT_TRUE(Dialog().Month().hasFocus());
+  EXPECT_FALSE(frame->Commands().Action(kCmdTogglePane)->isChecked());
+  EXPECT_FALSE(Dialog().Pane().isVisible());
+
+  frame->resize(0, 0);  // as small as it goes: the month is not cut
+  Settle();
+  EXPECT_GE(Dialog().Month().width(), 7 * 56);
+  const int least = frame->width();
+  frame->RunCommand(kCmdTogglePane);
+  Settle();
+  EXPECT_EQ(frame->width(), least + pane);
+  EXPECT_TRUE(frame->Commands().Action(kCmdTogglePane)->isChecked());
+}
+
+TEST_F(FrameTest, TheStoredRectangleAlwaysHoldsThePaneAndTheFrame) {
+  Open();
+  const int pane = Dialog().PaneWidth();
+  frame->setGeometry(100, 80, 900, 520);
+  Settle();
+  const Rect whole = WithFrame(*frame);
+  frame->RunCommand(kCmdTogglePane);
+  frame->close();
+  EXPECT_EQ(Stored().rect, whole);
+  EXPECT_EQ(Stored().rightPaneShown, 0);
+  EXPECT_EQ(Stored().rightPaneWidth, pane);
+
+  for (int again = 0; again < 3; ++again) {  // it does not grow from start to start
+    Open();
+    EXPECT_EQ(frame->geometry(), QRect(100, 80, 900 - pane, 520));
+    frame->close();
+    EXPECT_EQ(Stored().rect, whole);
+  }
+}
+
+TEST_F(FrameTest, AFrameWithoutASizeOfItsOwnKeepsItsNormalRectangle) {
+  for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+    SCOPED_TRACE(state);
+    Open();
+    frame->setWindowState(Qt::WindowNoState);
+    frame->setGeometry(100, 80, 900, 520);
+    Settle();
+    const Rect whole = WithFrame(*frame);
+    frame->setWindowState(state);
+    Settle();
+    frame->RunCommand(kCmdTogglePane);
+    frame->close();
+    EXPECT_EQ(Stored().maximized, state == Qt::WindowMaximized ? 1 : 0);
+    EXPECT_EQ(Stored().rect, whole);
+
+    Open();
+    EXPECT_EQ(frame->isMaximized(), state == Qt::WindowMaximized);
+    frame->RunCommand(kCmdTogglePane);
+    frame->close();
+    EXPECT_EQ(Stored().rect, whole);
+  }
+}
+
+TEST_F(FrameTest, WhatThePaneTookWhileTheFrameWasMaximizedIsGivenBackAfterwards) {
+  Open();
+  frame->setGeometry(100, 80, 900, 520);
+  frame->showMaximized();
+  Settle();
+  frame->RunCommand(kCmdTogglePane);
+  frame->showFullScreen();
+  frame->RunCommand(kCmdTogglePane);
+  frame->RunCommand(kCmdTogglePane);
+  EXPECT_TRUE(frame->isFullScreen());  // nothing resizes it out of that state
+  frame->showNormal();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() == 900 - Dialog().PaneWidth(); }));
+}
+
+TEST_F(FrameTest, AWindowStoredWhereNobodySeesItComesBackOntoTheScreen) {
+  constexpr int kMost = 2147483647;
+  for (const Rect& rect :
+       {Rect{4000, 3000, 4900, 3500}, Rect{-9000, -9000, -8000, -8500}, Rect{kMost, kMost, -kMost, -kMost}}) {
+    WindowLayout far;
+    far.rect = rect;
+    StoreLayout(far);
+    Open();
+    EXPECT_TRUE(frame->screen()->availableGeometry().contains(frame->geometry())) << rect.left;
+    EXPECT_FALSE(Dialog().IsPaneShown());
+  }
+}
+
+TEST_F(FrameTest, AtEveryFontTheWindowFitsOnItsScreenAndItsTextsStayWhole) {
+  Open();
+  const QFont font = Dialog().font();
+  const QSize screen = frame->screen()->availableSize();
+  int narrower = 0;
+  for (const double times : {1.0, 1.5, 2.0, 2.7}) {
+    SCOPED_TRACE(times);
+    QFont large = font;
+    large.setPointSizeF(font.pointSizeF() * times);
+    QApplication::setFont(large);
+    Settle();
+    for (const bool isPaneShown : {false, true}) {
+      Dialog().ShowPane(isPaneShown);
+      frame->resize(1, 1);  // as small as it goes
+      Settle();
+      EXPECT_TRUE(frame->width() <= screen.width() && frame->height() <= screen.height());
+      const CHeaderWnd& header = Dialog().Header();
+      const QFontMetrics metrics(header.font());
+      EXPECT_LT(metrics.horizontalAdvance(header.LeftText() + header.RightText()), header.width());
+      EXPECT_GE(Dialog().Month().geometry().bottom(), Dialog().height() / 2);
+      EXPECT_LT(Dialog().Month().geometry().bottom(), Dialog().height());
+    }
+    EXPECT_GT(Dialog().PaneWidth(), narrower);
+    narrower = Dialog().PaneWidth() - 1;  // on a narrow screen it cannot grow for ever
+    auto* const button = Control<QPushButton>("julien");
+    Dialog().setMinimumHeight(0);
+    frame->setFixedHeight(static_cast<int>(300 * times));  // as on a low screen: the pane scrolls there
+    Settle();
+    button->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+    frame->setMinimumHeight(0);
+    frame->setMaximumHeight(QWIDGETSIZE_MAX);
+  }
+  QApplication::setFont(font);
+}
+
+TEST_F(FrameTest, TheFirstStartShowsTheHolidaysOfTheCountry) {
+  CalendarFile france;
+  france.content.dayEvents = {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"Fête du Travail"})};
+  files.Put(u"/share/Legals/France.xml", WriteCalendar(france, CalendarForm::kPublic));
+  store.Write({{"WindowLayout", {}}});  // the window was never closed
+  Open();
+  EXPECT_TRUE(Dialog().IsPaneShown());
+  EXPECT_EQ(frame->frameGeometry().size(), QSize(1280, 720));  // two thirds of the screen
+  EXPECT_EQ(frame->frameGeometry().topLeft(), QPoint(320, 180));
+  EXPECT_EQ(Dialog().Month().height() % 7, 0);
+  Show(20240501);
+  EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QString::fromUtf8("Fête du Travail"));
+  frame->close();
+  EXPECT_EQ(files.files.size(), 1U);  // opening and closing writes no calendar
+}
+
+}  // namespace
+}  // namespace orbisol
