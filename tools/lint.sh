@@ -3,7 +3,7 @@
 #
 #   tools/lint.sh         all of them
 #   tools/lint.sh --ci    all without Qt, and those with Qt that the last 20 commits touched: a source
-#                         with Qt takes ten times as long
+#                         with Qt takes ten times as long; these without the slowest checks
 
 set -u
 cd "$(dirname "$0")/.." || exit 1
@@ -29,7 +29,7 @@ build=build/$preset
 
 python3 tools/lint_sources.py "$build/compile_commands.json" build/lint "$@" >build/lint-sources || exit 1
 echo "clang-tidy: $(wc -l <build/lint-sources) sources"
-xargs -r -P 2 -n 1 clang-tidy --quiet -p build/lint <build/lint-sources 2>build/lint-tidy.log ||
+xargs -r -P 2 -n 2 clang-tidy --quiet -p build/lint <build/lint-sources 2>build/lint-tidy.log ||
   { status=1; grep -v ' warnings\? generated\|warnings treated as errors' build/lint-tidy.log; }
 [ "$status" = 0 ] && echo "Nothing to complain about."
 exit "$status"

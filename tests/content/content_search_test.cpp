@@ -43,7 +43,7 @@ std::vector<std::pair<PackedDate, std::u16string>> ShownInYear(const CalendarCon
     for (const DayCell& cell : model.cells) {
       if (cell.day == 0 || cell.month != month) continue;
       for (const std::u16string* text : {&cell.holidayText, &cell.eventText, &cell.vacationTitle})
-        if (HoldsWord(*text)) shown.push_back({cell.ymd, *text});
+        if (HoldsWord(*text)) shown.emplace_back(cell.ymd, *text);
     }
   }
   return shown;
@@ -54,7 +54,7 @@ std::vector<std::pair<PackedDate, std::u16string>> DaysOf(const std::vector<Sear
   std::vector<std::pair<PackedDate, std::u16string>> days;
   for (const SearchHit& hit : hits)
     for (int n = Date(hit.date).DayNumber(); n <= Date(hit.lastDate).DayNumber(); ++n)
-      days.push_back({DateOfDayNumber(n).Packed(), hit.text});
+      days.emplace_back(DateOfDayNumber(n).Packed(), hit.text);
   std::stable_sort(days.begin(), days.end(),
                    [](const auto& a, const auto& b) { return DayOrder(a.first) < DayOrder(b.first); });
   return days;
