@@ -24,7 +24,8 @@ class CQuietList : public QListWidget {
     if (hasFocus()) {
       QListWidget::currentChanged(current, previous);
     } else {
-      QAbstractItemView::currentChanged(current, previous);  // On purpose: all but that report.
+      // On purpose: the grandparent does all but that report.
+      QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
     }
   }
 };

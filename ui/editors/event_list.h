@@ -36,6 +36,7 @@ class CEventList : public CEditedRows<EventRow> {
 
  private:
   // The texts of a row and what it is sorted and found by, computed when first asked for.
+  // NOLINTNEXTLINE(readability-identifier-naming): the compiler's own name for copying the array
   struct Texts {
     QString texts[kColumns];
     std::u16string folded;       // name and day, as a search compares them
