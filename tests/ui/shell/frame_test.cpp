@@ -197,7 +197,7 @@ TEST_F(FrameTest, TheEditorsOpenOnTheDaysThatWerePointedAt) {
     const Rect cell = Dialog().Month().Places().CellRect(Dialog().Month().Month().CellOf(5, day));
     return QPoint((cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2);
   };
-  const auto whileOpen = [&](std::function<void(QDialog&)> act) {
+  const auto whileOpen = [&](const std::function<void(QDialog&)>& act) {
     QTimer::singleShot(0, qApp, [act] {
       auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(dialog, nullptr);
