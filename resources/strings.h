@@ -1,6 +1,6 @@
-// The one table of the texts that the program shows, by number. Several entries are lists whose items are
-// separated by "|"; some hold placeholders for FormatText (core/text.h). Menus and dialogs have tables of
-// their own.
+// The one table of the texts that the program shows, by number; its ranges stand in resources/texts/. Several
+// entries are lists whose items are separated by "|"; some hold placeholders for FormatText (core/text.h).
+// Menus and dialogs have tables of their own.
 #pragma once
 
 #include <string_view>
@@ -21,7 +21,10 @@ enum TextId : int {
   kTextBrokenInstallation = 135,
   kTextPictureFilter = 279,  // of a file dialog: caption, patterns
   kTextEras = 280,           // of a year before the first
-  kTextNewMoon = 281,        // the other phases follow
+  kTextNewMoon = 281,
+  kTextFirstQuarter = 282,
+  kTextFullMoon = 283,
+  kTextLastQuarter = 284,
   kTextWeek = 295,
   kTextColorCaptions = 297,   // one for each color, in the order of ColorTable()
   kTextCenturies = 299,       // ordinals from 1 to 19

@@ -14,7 +14,7 @@ import sys
 # From the lowest layer up: name, whether Qt may be used there, and the paths that belong to it. The
 # first entry that fits a file is its layer. Layers on one line stand side by side and do not see one another.
 LAYERS = [
-    [("texts", False, ["resources/strings.", "resources/command_ids.", "resources/menus.", "resources/country_calendars."])],
+    [("texts", False, ["resources/strings.", "resources/texts/", "resources/command_ids.", "resources/menus.", "resources/country_calendars."])],
     [("core", False, ["core/"])],
     [("content", False, ["content/"])],
     [("files", False, ["files/"])],
