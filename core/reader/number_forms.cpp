@@ -219,10 +219,11 @@ void JoinDoubleYear(Request& request) {
   const bool isPair = IsNumber(civil) && historical.separator == u'/' && civil.digits > 2 &&
                       !HasSign(historical) && historical.digits > 0;
   if (!isPair || (count < 4 && !request.Has(WordKind::kMonth))) return;
+  if (historical.digits > kMostYearDigits) return;
   int scale = 1;
   for (int digit = 0; digit < historical.digits; ++digit) scale *= 10;
   const int next = civil.value + 1;
-  if (historical.digits > kMostYearDigits || next % scale != historical.value) return;
+  if (next % scale != historical.value) return;
   request.doubleYear = civil.value;
   civil.value = next;
   civil.isYear = true;
