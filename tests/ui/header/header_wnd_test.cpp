@@ -224,16 +224,22 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
   };
   Rect previous = places.previous;
   Rect next = places.next;
-  for (const QRect& place :
-       {QRect(previous.left, previous.top + previous.Height() / 2 - 1, 6, 3),  // they point outward
-        QRect(next.right - 6, next.top + next.Height() / 2 - 1, 6, 3), ToQRect(places.month),
-        ToQRect(places.year), half(places.topBand, true), half(places.bottomBand, false),
-        half(places.bottomBand, true)}) {
+  const auto inkIn = [&](const QRect& place) {
     int inked = 0;
     for (int y = place.top(); y <= place.bottom(); ++y)
       for (int x = place.left(); x <= place.right(); ++x) inked += image.pixelColor(x, y) == ink;
-    EXPECT_GE(inked, 5) << place.x() << ", " << place.y();
-  }
+    return inked;
+  };
+  for (const QRect& place : {QRect(previous.left, previous.top + previous.Height() / 2 - 1, 6, 3),
+                             QRect(next.right - 6, next.top + next.Height() / 2 - 1, 6, 3),
+                             ToQRect(places.month), ToQRect(places.year), half(places.topBand, true),
+                             half(places.bottomBand, false), half(places.bottomBand, true)})
+    EXPECT_GE(inkIn(place), 5) << place.x() << ", " << place.y();
+  const int halfArrow = previous.Width() / 2;  // they point outward
+  EXPECT_LT(inkIn({previous.left, previous.top, halfArrow, previous.Height()}),
+            inkIn({previous.left + halfArrow, previous.top, halfArrow, previous.Height()}));
+  EXPECT_GT(inkIn({next.left, next.top, halfArrow, next.Height()}),
+            inkIn({next.right - halfArrow, next.top, halfArrow, next.Height()}));
   const auto point = [&](QPoint at) {
     QMouseEvent event(QEvent::MouseMove, at, header.mapToGlobal(at), Qt::NoButton, {}, {});
     QApplication::sendEvent(&header, &event);

@@ -97,6 +97,8 @@ TEST_F(FrameTest, WhatStandsAroundTheMonthIsPaintedWhereItBelongs) {
   EXPECT_EQ(plain.count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 0U);
   Show(15821004);
   EXPECT_EQ(ColorsIn(Dialog(), remark).count(ToQColor(Display().ColorAt(kColorCalHeader)).rgb()), 1U);
+  const QRect end(month.right() - 20, 2, 12, Dialog().Header().y() - 4);
+  EXPECT_GT(ColorsIn(Dialog(), end).size(), 2U) << "the note ends with the month";
   Show(15821131);
   EXPECT_EQ(ColorsIn(Dialog(), remark), plain);
   EXPECT_GT(ColorsIn(*frame->statusBar(), frame->statusBar()->rect()).size(), status + 5) << "no such date";
