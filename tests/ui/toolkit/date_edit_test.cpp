@@ -78,6 +78,7 @@ class DateEditTest : public testing::Test {
 
 TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
   QSignalSpy changes(&edit, &CDateEdit::dateChanged);
+  QSignalSpy validity(&edit, &CDateEdit::validityChanged);
   Type("14/7/1789");
   EXPECT_EQ(edit.Date(), 17890714);
   EXPECT_FALSE(IsMarked());
@@ -90,6 +91,7 @@ TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
   EXPECT_TRUE(IsMarked());
   EXPECT_EQ(edit.text(), QStringLiteral("10/10/1582"));
   EXPECT_GT(told, 0);
+  EXPECT_EQ(validity.back(), QVariantList{false});
 
   edit.setFocus();
   Type("14.7");
@@ -156,6 +158,7 @@ TEST_F(DateEditTest, ArrowsStepThePartAtTheCursor) {
       {10101, 0, Qt::Key_Down, {}, 1231},
       {101, 8, Qt::Key_Down, {}, -10101},
       {20240515, 0, Qt::Key_PageUp, Qt::ControlModifier, 20230515},
+      {39990601, 8, Qt::Key_Up, {}, 39991231},
   };
   for (const auto& row : kSteps) {
     SCOPED_TRACE(testing::Message() << row.from << " to " << row.to);
@@ -164,6 +167,16 @@ TEST_F(DateEditTest, ArrowsStepThePartAtTheCursor) {
     QTest::keyClick(&edit, static_cast<Qt::Key>(row.key), row.modifiers);
     EXPECT_EQ(edit.Date(), row.to);
   }
+  FakeLocale american;
+  american.dateOrder = 0;
+  const ScopedPlatform elsewhere(american, FakeClock({2024, 5, 15}));
+  edit.SetDate(20240531);
+  edit.setCursorPosition(1);
+  QTest::keyClick(&edit, Qt::Key_Up);
+  EXPECT_EQ(edit.Date(), 20240630) << "the month comes first";
+  edit.setReadOnly(true);
+  QTest::keyClick(&edit, Qt::Key_Up);
+  EXPECT_EQ(edit.Date(), 20240630);
 }
 
 TEST_F(DateEditTest, TheDropDownShowsTheMonthAsItWas) {
@@ -175,7 +188,12 @@ TEST_F(DateEditTest, TheDropDownShowsTheMonthAsItWas) {
   EXPECT_EQ(table->currentItem()->text(), QStringLiteral("4"));
   EXPECT_EQ(table->item(table->currentRow(), table->currentColumn() + 1)->text(), QStringLiteral("15"));
   const auto press = [&](Qt::Key key) { QTest::keyClick(table, key); };
-  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_Up}) press(key);
+  EXPECT_EQ(table->horizontalHeaderItem(0)->text(), QStringLiteral("lun."));
+  press(Qt::Key_End);
+  EXPECT_EQ(choice->Marked(), 15821031);
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right,
+                            Qt::Key_PageDown, Qt::Key_Home, Qt::Key_Up})
+    press(key);
   EXPECT_EQ(choice->Marked(), 15821025);  // 15 October, 15 November, the 1st, a week before
   press(Qt::Key_Return);
   EXPECT_FALSE(choice->isVisible());
@@ -185,10 +203,18 @@ TEST_F(DateEditTest, TheDropDownShowsTheMonthAsItWas) {
   edit.OpenDropDown();
   QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(0, 2)).center());
   EXPECT_EQ(edit.Date(), 15821003);
-  edit.OpenDropDown();
+  QTest::keyClick(&edit, Qt::Key_F4);
+  EXPECT_TRUE(choice->isVisible());
   press(Qt::Key_PageUp);
   press(Qt::Key_Escape);
   EXPECT_FALSE(choice->isVisible());
+
+  edit.SetDate(20240515);
+  const QRect screen = window.screen()->availableGeometry();
+  window.move(screen.left(), screen.bottom() - window.height());
+  edit.OpenDropDown();
+  EXPECT_TRUE(screen.contains(choice->geometry()));
+  EXPECT_NE(table->item(0, 0)->foreground(), table->item(0, 2)->foreground()) << "29 April is grey";
 }
 
 }  // namespace

@@ -133,6 +133,11 @@ TEST_F(SaveCalendarTest, WhatIsWrittenAndNotConfirmedIsSaidSo) {
   EXPECT_EQ(OnDisk(), "Calendar.xml=mine ");
   EXPECT_TRUE(display.changed) << "the next save writes it again";
   ExpectShown(u"Le fichier /user/Calendar.xml contient vos modifications"_s);
+
+  Put(u"Calendar", u"theirs");
+  messages.answers = {0};
+  EXPECT_EQ(Save().end, SaveEnd::kSaved);
+  ExpectShown(u"Le fichier /user/Calendar (2).xml contient vos modifications"_s);
 }
 
 // Each answer applies to the file as it is on the disk by then.
@@ -142,10 +147,21 @@ TEST_F(SaveCalendarTest, WhatChangesWhileTheUserThinksIsNotOverwritten) {
   messages.whileAsking = [&] {
     if (++asked == 1) files.beforeReplace = [&] { Put(u"Calendar", u"newer"); };
   };
-  messages.answers = {2, 2};
+  messages.answers = {2, 0};
   EXPECT_EQ(Save().end, SaveEnd::kSaved);
   EXPECT_EQ(asked, 2);
-  EXPECT_EQ(OnDisk(), "Calendar.xml=mine Calendar.xml.bak=newer Calendar.xml.bak.1=theirs ");
+  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newer Calendar.xml.bak=theirs ");
+  display.calendarName.Set(u"Calendar");
+  CalendarFile newer;
+  calendars.Load(u"Calendar", newer);
+  files.failingWrites = {u"/user/Calendar.xml"};
+  messages.whileAsking = [&] {
+    files.failingWrites.clear();
+    Put(u"Calendar", u"newest");
+  };
+  messages.answers = {1};
+  EXPECT_EQ(Save().end, SaveEnd::kUnsaved) << "another try is no leave to overwrite";
+  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newest Calendar.xml.bak=theirs ");
 
   Put(u"Calendar", u"theirs");
   messages.whileAsking = [&] { files.files.erase(u"/user/Calendar.xml"); };
