@@ -107,10 +107,16 @@ class CProgramIcon : public QIconEngine {
   QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
     const int side = qMin(size.width(), size.height());
     if (side <= 0) return {};
-    QPixmap pixmap(side, side);
+    // The display asks for every size more than once when a window opens.
+    const QString name = key() + QString::number(side);
+    QPixmap pixmap;
+    if (QPixmapCache::find(name, &pixmap)) return pixmap;
+    pixmap = QPixmap(side, side);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     QSvgRenderer(Drawing(DrawingFor(side))).render(&painter);
+    painter.end();
+    QPixmapCache::insert(name, pixmap);
     return pixmap;
   }
 
