@@ -11,4 +11,7 @@ namespace orbisol {
 // next number that is free. Returns false when the backup is not safely on the disk.
 bool BackUp(FileSystem& files, std::u16string_view path, std::string_view bytes);
 
+// Gives the backups of a renamed file its new name. One that would take the name of another stays.
+void RenameBackups(FileSystem& files, std::u16string_view path, std::u16string_view newPath);
+
 }  // namespace orbisol

@@ -140,6 +140,7 @@ bool CCalendarStore::DropName(std::u16string_view name, std::u16string_view othe
 }
 
 void CCalendarStore::MoveVersions(std::u16string_view name, std::u16string_view newName) {
+  RenameBackups(m_files, PathOf(name), PathOf(newName));
   m_versions.Rename(name, newName);
 }
 

@@ -84,7 +84,13 @@ TEST_F(CalendarsTest, WhereANewCalendarCannotBeWrittenTheOldOneGoesOn) {
 TEST_F(CalendarsTest, RenamingTakesFileVersionsAndKeyAlong) {
   Edit(u"next");
   EXPECT_TRUE(actions.Open(u"Travail"));  // a version of "Maison"
+  for (const char16_t* backup : {u"Maison.xml.bak", u"Maison.xml.bak.1", u"maison.xml.bak.1"})
+    files.Put(std::u16string(u"/user/") + backup, ToUtf8(backup));
   EXPECT_TRUE(actions.Rename(u"Maison", u"maison"));
+  EXPECT_EQ(files.files[u"/user/maison.xml.bak"].bytes, "Maison.xml.bak");
+  EXPECT_FALSE(files.Exists(u"/user/Maison.xml.bak"));
+  EXPECT_EQ(files.files[u"/user/maison.xml.bak.1"].bytes, "maison.xml.bak.1") << "nothing is overwritten";
+  EXPECT_EQ(files.files[u"/user/Maison.xml.bak.1"].bytes, "Maison.xml.bak.1");
   EXPECT_EQ(InUse(), "Travail /user/Travail.xml Travail work");
   EXPECT_EQ(OnDisk(), "maison=next Travail=work ");
   EXPECT_EQ(Versions(u"maison"), "mine ");
