@@ -107,30 +107,24 @@ std::vector<SearchHit> CContentSearch::HitsInYear(int year) const {
   return hits;
 }
 
-std::optional<SearchHit> CContentSearch::Next(PackedDate after) const {
-  for (int year = std::max(Unpack(after).year, m_firstYear); year <= m_lastYear; ++year) {
-    std::optional<SearchHit> nearest;
-    for (const SearchHit& hit : HitsInYear(year)) {
-      if (!IsEarlier(after, hit.lastDate)) continue;
-      const PackedDate day = IsEarlier(after, hit.date) ? hit.date : DayBeside(after, 1);
-      if (!nearest || IsEarlier(day, nearest->date)) nearest = DayOf(hit, day);
-    }
-    if (nearest) return nearest;
+std::optional<SearchHit> CContentSearch::NextInYear(int year, PackedDate after) const {
+  std::optional<SearchHit> nearest;
+  for (const SearchHit& hit : HitsInYear(year)) {
+    if (!IsEarlier(after, hit.lastDate)) continue;
+    const PackedDate day = IsEarlier(after, hit.date) ? hit.date : DayBeside(after, 1);
+    if (!nearest || IsEarlier(day, nearest->date)) nearest = DayOf(hit, day);
   }
-  return {};
+  return nearest;
 }
 
-std::optional<SearchHit> CContentSearch::Previous(PackedDate before) const {
-  for (int year = std::min(Unpack(before).year, m_lastYear); year >= m_firstYear; --year) {
-    std::optional<SearchHit> nearest;
-    for (const SearchHit& hit : HitsInYear(year)) {
-      if (!IsEarlier(hit.date, before)) continue;
-      const PackedDate day = IsEarlier(hit.lastDate, before) ? hit.lastDate : DayBeside(before, -1);
-      if (!nearest || IsEarlier(nearest->date, day)) nearest = DayOf(hit, day);
-    }
-    if (nearest) return nearest;
+std::optional<SearchHit> CContentSearch::PreviousInYear(int year, PackedDate before) const {
+  std::optional<SearchHit> nearest;
+  for (const SearchHit& hit : HitsInYear(year)) {
+    if (!IsEarlier(hit.date, before)) continue;
+    const PackedDate day = IsEarlier(hit.lastDate, before) ? hit.lastDate : DayBeside(before, -1);
+    if (!nearest || IsEarlier(nearest->date, day)) nearest = DayOf(hit, day);
   }
-  return {};
+  return nearest;
 }
 
 }  // namespace orbisol

@@ -3,7 +3,7 @@
 //
 //   const CContentSearch search(Content(), u"fete");
 //   search.HitsInYear(2024);      // {{20240501, 20240501, u"Fête du Travail"}, …}
-//   search.Next(20240501);        // the next day: 14 July, "Fête nationale"
+//   search.NextInYear(2024, 20240501);  // the next day of that year: 14 July, "Fête nationale"
 //   for (int year = search.FirstYear(); year <= search.LastYear(); ++year) …  // all of them, year by year
 //
 // Names are compared once, when the search is made; only the rules and periods that hold the word are dated.
@@ -11,8 +11,8 @@
 // are not searched.
 //
 // A year takes some microseconds, all years of a calendar with holidays some tens of milliseconds. With
-// thousands of matching rules a year may take a millisecond: who searches all years goes year by year, and
-// lets others work in between.
+// thousands of matching rules a year may take a millisecond. Every function therefore looks at one year
+// alone: who searches all years lets others work in between.
 #pragma once
 
 #include <optional>
@@ -47,10 +47,10 @@ class CContentSearch {
   // Returns the hits of a year by their first days; on one day that of the rules comes first.
   std::vector<SearchHit> HitsInYear(int year) const;
 
-  // Return the nearest day after or before a date that shows the word, with what it shows; empty where there
-  // is none. Of a period every day counts, and the hit is that day alone.
-  std::optional<SearchHit> Next(PackedDate after) const;
-  std::optional<SearchHit> Previous(PackedDate before) const;
+  // Return the day of a year that shows the word and is nearest after or before a date, with what it shows;
+  // empty where there is none. Of a period every day counts, and the hit is that day alone.
+  std::optional<SearchHit> NextInYear(int year, PackedDate after) const;
+  std::optional<SearchHit> PreviousInYear(int year, PackedDate before) const;
 
  private:
   bool Holds(std::u16string_view text) const;

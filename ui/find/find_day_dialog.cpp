@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QShortcut>
 
+#include <algorithm>
 #include <iterator>
 
 #include "resources/help/help_pages.h"
@@ -39,6 +40,8 @@ CFindDayDialog::CFindDayDialog(QWidget* parent)
   m_form->progress->setFixedWidth(metrics.averageCharWidth() * 20);
   m_slices.setInterval(0);
   connect(&m_slices, &QTimer::timeout, this, &CFindDayDialog::SearchSlice);
+  m_steps.setInterval(0);
+  connect(&m_steps, &QTimer::timeout, this, &CFindDayDialog::StepSlice);
   connect(m_form->text, &QLineEdit::textChanged, this, &CFindDayDialog::Start);
   connect(m_form->next, &QPushButton::clicked, this, &CFindDayDialog::FindNext);
   connect(m_form->previous, &QPushButton::clicked, this, &CFindDayDialog::FindPrevious);
@@ -60,6 +63,7 @@ CFindDayDialog::~CFindDayDialog() = default;
 
 void CFindDayDialog::Open(const CalendarContent& content, PackedDate selected) {
   m_content = content;
+  m_rules = Rules();
   m_selected = selected;
   show();
   raise();
@@ -70,17 +74,25 @@ void CFindDayDialog::Open(const CalendarContent& content, PackedDate selected) {
 }
 
 void CFindDayDialog::SetContent(const CalendarContent& content) {
-  if (content == m_content) return;
+  if (content == m_content && m_rules == Rules()) return;
   m_content = content;
+  m_rules = Rules();
   Start();
 }
 
+void CFindDayDialog::SetSelected(PackedDate selected) {
+  if (selected != m_selected) m_steps.stop();
+  m_selected = selected;
+}
+
+// A window that is hidden makes its list when it is shown.
 void CFindDayDialog::Start() {
   m_slices.stop();
+  m_steps.stop();
   m_hits->Clear();
   m_search.emplace(m_content, Utf16View(m_form->text->text()));
   m_year = m_search->FirstYear();
-  if (m_year > m_search->LastYear()) return Finish(true);
+  if (!isVisible() || m_year > m_search->LastYear()) return Finish(true);
   m_form->progress->setRange(m_year, m_search->LastYear());
   m_form->progress->setVisible(true);
   m_form->stop->setVisible(true);
@@ -102,6 +114,7 @@ void CFindDayDialog::SearchSlice() {
 }
 
 void CFindDayDialog::Stop() {
+  m_steps.stop();
   if (m_slices.isActive()) Finish(false);
 }
 
@@ -133,23 +146,34 @@ void CFindDayDialog::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);
 }
 
-void CFindDayDialog::FindNext() {
+void CFindDayDialog::FindNearest(int step) {
   if (!m_search || m_form->text->text().trimmed().isEmpty()) return Open(m_content, m_selected);
-  const std::optional<SearchHit> hit = m_search->Next(m_selected);
-  if (!hit) m_form->message->setText(TablePiece(kTextFindDay, kNoNext));
-  Show(hit);
+  if (m_steps.isActive() && step == m_step) return;  // it is on its way
+  m_step = step;
+  m_stepYear = std::min(std::max(Unpack(m_selected).year, m_search->FirstYear()), m_search->LastYear());
+  m_steps.start();
+  StepSlice();
 }
 
-void CFindDayDialog::FindPrevious() {
-  if (!m_search || m_form->text->text().trimmed().isEmpty()) return Open(m_content, m_selected);
-  const std::optional<SearchHit> hit = m_search->Previous(m_selected);
-  if (!hit) m_form->message->setText(TablePiece(kTextFindDay, kNoPrevious));
-  Show(hit);
+void CFindDayDialog::StepSlice() {
+  QElapsedTimer time;
+  time.start();
+  do {
+    if (m_stepYear < m_search->FirstYear() || m_stepYear > m_search->LastYear()) {
+      m_steps.stop();
+      m_form->message->setText(TablePiece(kTextFindDay, m_step > 0 ? kNoNext : kNoPrevious));
+      return Messages().Beep();
+    }
+    const std::optional<SearchHit> hit = m_step > 0 ? m_search->NextInYear(m_stepYear, m_selected)
+                                                    : m_search->PreviousInYear(m_stepYear, m_selected);
+    if (hit) return Show(*hit);
+    m_stepYear += m_step;
+  } while (!time.hasExpired(kSliceMilliseconds));
 }
 
-void CFindDayDialog::Show(const std::optional<SearchHit>& hit) {
-  if (!hit) return Messages().Beep();
-  m_selected = hit->date;
+void CFindDayDialog::Show(const SearchHit& hit) {
+  m_steps.stop();
+  m_selected = hit.date;
   const QModelIndex row = m_hits->index(m_hits->RowNear(m_selected));
   m_form->hits->setCurrentIndex(row);
   emit dayFound(m_selected);

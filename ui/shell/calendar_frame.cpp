@@ -125,6 +125,7 @@ void CCalendarFrame::UpdateTitle() {
 void CCalendarFrame::CalendarChanged() {
   UpdateTitle();
   m_dialog->SettingsChanged();
+  emit calendarShown();
 }
 
 void CCalendarFrame::Open() {

@@ -49,12 +49,13 @@ class CCalendarFrame : public QMainWindow {
   // gave to that start, so that the window may take the focus; empty where it gave none.
   void Raise(const std::string& token = {});
 
-  // Stores where the window stands now, like closing it.
-  void StoreLayout();
+  // Keeps what is not saved in any window, without a question, and stores where the window stands.
+  void KeepForNextSession();
 
   void RunCommand(CommandId command);
 
-  // Shows the calendar in use anew, after its name, its look, its rules or its content were changed.
+  // Shows the calendar in use anew, after its name, its look, its rules or its content were changed, and
+  // emits calendarShown().
   void CalendarChanged();
 
   // Selects and shows a day that was named, a leap in the history of dates.
@@ -64,6 +65,9 @@ class CCalendarFrame : public QMainWindow {
   const FrameServices& Services() const { return m_services; }
   CCommandTable& Commands() { return *m_commands; }
   QString StatusText() const;
+
+ signals:
+  void calendarShown();
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -60,6 +60,8 @@ CFindDayDialog& FindDialogOf(CCalendarFrame& frame) {
   QObject::connect(dialog, &CFindDayDialog::dayFound, &frame, &CCalendarFrame::GoTo);
   QObject::connect(&frame.Dialog(), &CMainDlg::dateShown, dialog,
                    [dialog] { dialog->SetSelected(Selected().Packed()); });
+  QObject::connect(&frame, &CCalendarFrame::calendarShown, dialog,
+                   [dialog] { dialog->SetContent(Content()); });
   dialog->SetContent(Content());
   dialog->SetSelected(Selected().Packed());
   return *dialog;
@@ -69,17 +71,9 @@ void OpenFind(const OpeningRequest& request) {
   FindDialogOf(request.frame).Open(Content(), Selected().Packed());
 }
 
-void FindNext(const OpeningRequest& request) {
-  CFindDayDialog& dialog = FindDialogOf(request.frame);
-  dialog.SetContent(Content());
-  dialog.FindNext();
-}
+void FindNext(const OpeningRequest& request) { FindDialogOf(request.frame).FindNext(); }
 
-void FindPrevious(const OpeningRequest& request) {
-  CFindDayDialog& dialog = FindDialogOf(request.frame);
-  dialog.SetContent(Content());
-  dialog.FindPrevious();
-}
+void FindPrevious(const OpeningRequest& request) { FindDialogOf(request.frame).FindPrevious(); }
 
 // clang-format off: a row each, so that windows made side by side change lines of their own.
 constexpr Opening kOpenings[] = {

@@ -12,6 +12,7 @@
 #include "core/date_range.h"
 #include "tests/support/fakes.h"
 #include "tests/support/rules.h"
+#include "tests/support/spy_messages.h"
 #include "ui/find/find_day_dialog.h"
 #include "ui/toolkit/plain_text.h"
 
@@ -89,11 +90,69 @@ TEST_F(FindDayTest, ASearchNeverHoldsTheWindowAndCanBeStopped) {
   EXPECT_TRUE(message->text().startsWith(QString::fromUtf8("Recherche arrêtée")));
   Type(QStringLiteral("fe"));
   EXPECT_GE(Count(), kMostHits);
+  SpyMessages messages;
+  const ScopedMessages scope(messages);
+  QTest::keyClick(&dialog, Qt::Key_F3);
+  EXPECT_EQ(found.size(), 1);
   EXPECT_TRUE(message->text().contains(QStringLiteral("premiers")));
   field->setText(QStringLiteral("f"));
   QTest::keyClick(field, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_FALSE(dialog.IsSearching());
+}
+
+// Personal events that a public holiday hides in every year but the last one.
+TEST_F(FindDayTest, TheWayToAFarDayHoldsNoWindow) {
+  CalendarContent content;
+  for (int i = 0; i < 200; ++i) content.dayEvents.push_back(EveryYear(1, 1, u"Fête"));
+  for (DayEvent& event : content.dayEvents) event.isPublic = false;
+  content.dayEvents.push_back(EveryYear(1, 1, u"Nouvel An"));
+  content.dayEvents.back().ymdTo = 39981231;
+  Open(content);
+  field->setText(QStringLiteral("fête"));
+  SpyMessages messages;
+  const ScopedMessages scope(messages);
+  dialog.hide();
+  const auto settle = [&] {
+    while (dialog.IsSearching()) QApplication::processEvents();
+  };
+  dialog.FindNext();
+  EXPECT_TRUE(dialog.IsSearching()) << "the first slice is not the whole way";
+  EXPECT_TRUE(found.isEmpty());
+  settle();
+  ASSERT_EQ(found.size(), 1);
+  EXPECT_EQ(found[0][0].toInt(), 39990101);
+  dialog.FindNext();
+  EXPECT_EQ(messages.beeps, 1);
+  EXPECT_EQ(message->text(), QStringLiteral("Aucun autre jour ensuite."));
+  dialog.FindPrevious();
+  settle();
+  EXPECT_EQ(message->text(), QStringLiteral("Aucun autre jour auparavant."));
+  dialog.SetSelected(20240101);
+  dialog.FindNext();
+  dialog.SetSelected(20250101);
+  EXPECT_FALSE(dialog.IsSearching()) << "somebody went elsewhere meanwhile";
+  EXPECT_EQ(found.size(), 1);
+}
+
+TEST_F(FindDayTest, AnotherContentOrOtherRulesMakeTheListAnew) {
+  CalendarContent content;
+  content.dayEvents = {EveryYear(10, 10, u"Fête")};
+  Open(content);
+  Type(QStringLiteral("fête"));
+  const int whole = Count();
+  const auto settle = [&] {
+    while (dialog.IsSearching()) QApplication::processEvents();
+  };
+  content.dayEvents[0].day = 3;
+  dialog.SetContent(content);
+  settle();
+  EXPECT_EQ(list->currentIndex().data().toString(), QStringLiteral("Jeudi 3 octobre 2024 : Fête"));
+  content.dayEvents[0].day = 10;
+  const ScopedRules other(RulesWith(15821115));  // 10 October 1582 is no longer dropped
+  dialog.SetContent(content);
+  settle();
+  EXPECT_EQ(Count(), whole + 1);
 }
 
 TEST_F(FindDayTest, NothingFoundIsSaid) {

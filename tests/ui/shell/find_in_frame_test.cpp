@@ -1,5 +1,6 @@
 // Going to a date and searching, by the keys of the main window.
 #include <QLineEdit>
+#include <QListView>
 #include <QTimer>
 
 #include "content/calendar_content.h"
@@ -46,6 +47,10 @@ TEST_F(FrameTest, ControlFSearchesAndF3GoesOn) {
   frame->RunCommand(kCmdFindPrevious);
   EXPECT_EQ(Now(), 20290714) << "from the day that is selected in the calendar";
   Content().dayEvents[0].month = 8;
+  frame->CalendarChanged();
+  while (window->IsSearching()) Settle();
+  EXPECT_TRUE(window->findChild<QListView*>()->currentIndex().data().toString().startsWith(
+      QStringLiteral("Mardi 14 août 2029")));
   frame->RunCommand(kCmdFindNext);
   EXPECT_EQ(Now(), 20290814) << "in what the calendar now holds";
 }
