@@ -165,7 +165,7 @@ void CChooseCalendarDlg::OnVersions() {
     if (m_actions.HasChangedLive()) emit calendarChanged();
   });
   dialog.exec();
-  Fill(Selected());
+  Fill(dialog.Name());
 }
 
 bool CChooseCalendarDlg::eventFilter(QObject* watched, QEvent* event) {

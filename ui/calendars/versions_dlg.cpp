@@ -54,8 +54,6 @@ CVersionsDlg::CVersionsDlg(CCalendarActions& actions, std::u16string_view name, 
   m_form->versions->setMinimumSize(metrics.averageCharWidth() * kListChars,
                                    metrics.lineSpacing() * (kListRows + 1));
   m_form->difference->setMinimumHeight(metrics.lineSpacing() * (kDifferenceRows + 1));
-  m_form->heading->setText(
-      ToQString(FormatText(Piece(StringText(kTextVersions), u'|', kHeading), {Utf16View(MenuText(m_name))})));
   AddHelpKey(*this, kHelpVersions);
   connect(m_form->buttons, &QDialogButtonBox::helpRequested, this, [] { ShowHelp(kHelpVersions); });
   connect(m_form->versions, &QTreeWidget::itemSelectionChanged, this, &CVersionsDlg::ShowDifference);
@@ -69,6 +67,8 @@ CVersionsDlg::~CVersionsDlg() = default;
 void CVersionsDlg::Fill() {
   // A list that is emptied goes from row to row, which would compare with versions that are gone.
   const QSignalBlocker comparesOnce(m_form->versions);
+  m_form->heading->setText(
+      ToQString(FormatText(Piece(StringText(kTextVersions), u'|', kHeading), {Utf16View(MenuText(m_name))})));
   m_state = m_actions.StateOf(m_name);
   m_rows.clear();
   m_form->versions->clear();
@@ -101,11 +101,14 @@ void CVersionsDlg::ShowDifference() {
   m_form->difference->setPlainText(lines.join(QLatin1Char('\n')));
 }
 
-// The state that was replaced stands first in the list afterwards, and can be restored in turn.
+// The state that was replaced stands first in the list afterwards, and can be restored in turn. The calendar
+// in use may have gone to another name, to keep both.
 void CVersionsDlg::OnRestore() {
   const int row = m_form->versions->indexOfTopLevelItem(m_form->versions->currentItem());
   if (row < 0) return;
+  const bool isCurrent = m_actions.IsCurrent(m_name);
   m_actions.Restore(m_name, m_rows[static_cast<std::size_t>(row)].version);
+  if (isCurrent) m_name = m_actions.CurrentName();
   emit restored();
   Fill();
 }

@@ -29,6 +29,9 @@ class CVersionsDlg : public QDialog {
   CVersionsDlg(CCalendarActions& actions, std::u16string_view name, QWidget* parent = nullptr);
   ~CVersionsDlg() override;
 
+  // Returns the calendar whose versions are shown.
+  const std::u16string& Name() const { return m_name; }
+
  signals:
   // A version was restored, or the calendar in use was reloaded instead; the dialog goes on.
   void restored();
