@@ -137,7 +137,7 @@ inline constexpr TextEntry kEditingTexts[] = {
     {kTextPeriodForm, u"Nouvelle période|Modifier la période"},
     {kTextEmptyPeriods,
      u"Aucune période de vacances.\nFaites glisser la souris sur des jours du calendrier pour en ajouter "
-     u"une,\nou remplissez les champs ci-contre.|"},
+     u"une,\nou remplissez les champs ci-contre.|Aucune période ne correspond au filtre."},
     {kTextPeriodLength, u"Du %s au %s : %d jours."},
     {kTextOverlap, u"chevauche « %s »|chevauche une autre période"},
     {kTextEventAdded, u"« %s » est ajouté : %s."},

@@ -1,20 +1,19 @@
 #include "ui/calendars/name_check.h"
 
-#include <QLabel>
 #include <QLineEdit>
 
 #include "files/calendar_name.h"
 #include "resources/strings.h"
+#include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 
-CNameCheck::CNameCheck(QLineEdit& field, QLabel& note) : QObject(&field), m_field(field), m_note(note) {
-  note.setTextFormat(Qt::PlainText);
-  note.setVisible(false);
+CNameCheck::CNameCheck(QLineEdit& field, CFieldNote& note) : QObject(&field), m_field(field), m_note(note) {
+  note.SetField(field);
   // An empty field is no fault while somebody begins to type.
   connect(&field, &QLineEdit::textEdited, this,
-          [this] { Say(m_field.text().isEmpty() ? QString() : Fault()); });
+          [this] { m_note.Say(m_field.text().isEmpty() ? QString() : Fault()); });
 }
 
 std::u16string CNameCheck::Name() const { return std::u16string(Utf16View(m_field.text())); }
@@ -26,7 +25,7 @@ QString CNameCheck::Fault() const {
 
 bool CNameCheck::Accepts() {
   const QString fault = Fault();
-  Say(fault);
+  m_note.Say(fault);
   if (!fault.isEmpty()) {
     m_field.setFocus(Qt::OtherFocusReason);
     m_field.selectAll();
@@ -34,10 +33,6 @@ bool CNameCheck::Accepts() {
   return fault.isEmpty();
 }
 
-void CNameCheck::Say(const QString& fault) {
-  m_note.setText(fault.isEmpty() ? fault : QStringLiteral("\u26A0 ") + fault);
-  m_note.setVisible(!fault.isEmpty());
-  m_field.setAccessibleDescription(fault);
-}
+void CNameCheck::Clear() { m_note.Say({}); }
 
 }  // namespace orbisol

@@ -10,15 +10,16 @@
 #include <string>
 #include <vector>
 
-class QLabel;
 class QLineEdit;
 
 namespace orbisol {
 
+class CFieldNote;
+
 class CNameCheck : public QObject {
  public:
   // Lives as long as the field.
-  CNameCheck(QLineEdit& field, QLabel& note);
+  CNameCheck(QLineEdit& field, CFieldNote& note);
 
   void SetTaken(std::vector<std::u16string> names) { m_taken = std::move(names); }
 
@@ -28,14 +29,13 @@ class CNameCheck : public QObject {
   bool Accepts();
 
   // Takes back what was said.
-  void Clear() { Say({}); }
+  void Clear();
 
  private:
   QString Fault() const;
-  void Say(const QString& fault);
 
   QLineEdit& m_field;
-  QLabel& m_note;
+  CFieldNote& m_note;
   std::vector<std::u16string> m_taken;
 };
 

@@ -11,6 +11,7 @@
 #include "resources/strings.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/selectable_label.h"
+#include "ui/toolkit/spoken_value.h"
 
 namespace orbisol {
 
@@ -40,7 +41,7 @@ int FieldWidth(const QLineEdit& field, const QString& text) {
 void NameField(QWidget* field, int piece) {
   const QString name = TablePiece(kTextConverterNames, piece);
   field->setAccessibleName(name);
-  if (qobject_cast<QComboBox*>(field) != nullptr) field->setAccessibleDescription(name);
+  if (auto* const box = qobject_cast<QComboBox*>(field)) SpeakValue(*box);
 }
 
 QLabel* MakeDateLabel() {

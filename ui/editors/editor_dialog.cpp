@@ -197,8 +197,9 @@ void CEditorDialog::OnSelection() {
     UpdateButtons();
     return;
   }
-  // An entry that was only begun waits for the user to come back to it.
-  if (m_shownRow >= 0 && IsFormEdited() && !TakeForm()) {
+  // A new entry waits for the user to come back to it, unless a date in it would be forgotten.
+  const bool isLeft = m_shownRow < 0 ? IsFormRead() || IsFormGood() : !IsFormEdited() || TakeForm();
+  if (!isLeft) {
     Messages().Beep();
     Quietly([this] { SelectRow(m_shownRow); });
     return;
@@ -263,8 +264,28 @@ void CEditorDialog::OnMove(int by) {
   MakeStep([&] { m_rows->Move(m_shownRow, by); });
 }
 
+// Takes over what the form holds, and a new entry that waits. Where one is refused its form is shown.
+bool CEditorDialog::TakeAll() {
+  if (m_shownRow >= 0) {
+    if (IsFormEdited() && !TakeForm()) return false;
+    if (!IsEntryWanted()) return true;
+    Quietly([this] { SelectRow(-1); });
+    ShowRow(-1);
+  }
+  return !IsEntryWanted() || TakeForm();
+}
+
+void CEditorDialog::KeepUnsaved() {
+  if (!HasChanges()) return;
+  TakeAll();
+  const CalendarContent content = EditedContent();
+  if (m_undo.isClean() || !SaveUnasked(m_services.places, Display(), Rules(), content)) return;
+  Content() = content;
+  m_undo.setClean();
+}
+
 bool CEditorDialog::Save() {
-  if (IsFormWanted() && !TakeForm()) return false;
+  if (!TakeAll()) return false;
   const CalendarContent content = EditedContent();
   SavedFromWindow saved = SaveCalendarFromWindow(this, m_services.places, Display(), Rules(), content);
   if (saved.end == SaveEnd::kSaved) {
@@ -321,7 +342,7 @@ void CEditorDialog::UpdateButtons() {
   // Enter first takes over what the form holds, then saves.
   QPushButton* const save = c.buttons->button(QDialogButtonBox::Save);
   if (isNew) {
-    (IsFormWanted() ? c.add : save)->setDefault(true);
+    (IsEntryWanted() ? c.add : save)->setDefault(true);
   } else {
     (isEdited ? c.apply : save)->setDefault(true);
   }

@@ -3,9 +3,9 @@
 //
 // The dialog edits a copy of the content; nothing in force is touched before "Enregistrer", which saves
 // through SaveCalendarFromWindow and puts the copy in force only where that succeeded. The form shows either
-// a row of the list, or a new entry while none is selected. What the form holds is never lost: it is applied
-// when another row is selected and when the calendar is saved; where it is refused the reason is said at its
-// field and the form stays.
+// a row of the list, or a new entry while none is selected. What the form holds is never lost: changes of a
+// row are applied when another one is selected, a new entry waits meanwhile, and both are taken over when the
+// calendar is saved. What is refused has its reason said at its field, and the form stays.
 //
 // A class that derives from it brings the form and the rows.
 #pragma once
@@ -20,6 +20,7 @@
 #include "content/calendar_content.h"
 #include "ui/editors/rows_model.h"
 #include "ui/window/save_calendar.h"
+#include "ui/window/session_end.h"
 
 class QAbstractButton;
 class QDialogButtonBox;
@@ -39,12 +40,15 @@ struct EditorServices {
   std::function<bool(QWidget* parent, CalendarContent& content)> importHolidays;
 };
 
-class CEditorDialog : public QDialog {
+class CEditorDialog : public QDialog, public SessionWindow {
   Q_OBJECT
 
  public:
   // Asks about changes that are not saved. Escape and the button of the frame end here too.
   void reject() override;
+
+  // Saves without a question. A form that is refused is left alone.
+  void KeepUnsaved() override;
 
   // The row of the list that the form shows; -1 for a new entry.
   int ShownRow() const { return m_shownRow; }
@@ -89,9 +93,11 @@ class CEditorDialog : public QDialog {
   const EditorServices& Services() const { return m_services; }
 
   // The form.
-  virtual void ShowFields(int row) = 0;                         // of a row, or the entry begun last for -1
-  virtual bool IsFormEdited() const = 0;                        // since ShowFields()
-  virtual bool IsFormWanted() const { return IsFormEdited(); }  // also where the dialog opened with an entry
+  virtual void ShowFields(int row) = 0;   // of a row, or the entry begun last for -1
+  virtual bool IsFormEdited() const = 0;  // since ShowFields()
+  virtual bool IsFormRead() const = 0;    // whether each date that was typed is one
+  virtual bool IsEntryBegun() const = 0;  // whether a new entry was edited, in the form or waiting
+  virtual bool IsEntryWanted() const { return IsEntryBegun(); }  // also where the dialog opened with one
   virtual bool IsFormGood() = 0;         // says refusals at their fields and goes to the first
   virtual void TakeFields(int row) = 0;  // as a step; -1 adds a row and begins another entry
   virtual void FocusFirstField() = 0;
@@ -104,7 +110,8 @@ class CEditorDialog : public QDialog {
   virtual CalendarContent EditedContent() const = 0;
 
  private:
-  bool HasChanges() const { return !m_undo.isClean() || IsFormEdited(); }
+  bool HasChanges() const { return !m_undo.isClean() || IsFormEdited() || IsEntryBegun(); }
+  bool TakeAll();
   void ShowRow(int row);
   void OnSelection();
   void Quietly(const std::function<void()>& change);

@@ -47,25 +47,29 @@ bool HasWeekday(DayEventType type) {
 }
 bool HasOrdinal(DayEventType type) { return type == DayEventType::kNthWeekday; }
 
-std::optional<Refusal<EventField>> RefusalOf(const EventFields& fields) {
-  const auto refuse = [](EventField field, std::u16string reason) {
-    return Refusal<EventField>{field, std::move(reason)};
+std::vector<Refusal<EventField>> RefusalsOf(const EventFields& fields) {
+  std::vector<Refusal<EventField>> refusals;
+  const auto refuse = [&](EventField field, std::u16string reason) {
+    refusals.push_back({field, std::move(reason)});
   };
-  if (IsBlank(fields.name)) return refuse(EventField::kName, std::u16string(RefusalText(kNameMissing)));
-  if (const std::u16string reason = TooLongText(fields.name); !reason.empty())
-    return refuse(EventField::kName, reason);
+  if (IsBlank(fields.name)) {
+    refuse(EventField::kName, std::u16string(RefusalText(kNameMissing)));
+  } else if (std::u16string reason = TooLongText(fields.name); !reason.empty()) {
+    refuse(EventField::kName, std::move(reason));
+  }
   if (HasDate(fields.type)) {
     const int longest = LongestMonth(fields.month);
-    if (fields.day > longest)
-      return refuse(EventField::kDay,
-                    FormatText(RefusalText(kDayBeyondMonth), {UpperFirst(MonthName(fields.month)), longest}));
-    if (HasWeekday(fields.type) && fields.day < kFirstDayBesideDate)
-      return refuse(EventField::kDay, std::u16string(RefusalText(kDayTooEarly)));
+    if (fields.day > longest) {
+      refuse(EventField::kDay,
+             FormatText(RefusalText(kDayBeyondMonth), {UpperFirst(MonthName(fields.month)), longest}));
+    } else if (HasWeekday(fields.type) && fields.day < kFirstDayBesideDate) {
+      refuse(EventField::kDay, std::u16string(RefusalText(kDayTooEarly)));
+    }
   }
   const DayRange range = RangeOfFields(fields);
   if (DayOrder(range.last) < DayOrder(range.first))
-    return refuse(EventField::kUntil, std::u16string(RefusalText(kUntilBeforeSince)));
-  return std::nullopt;
+    refuse(EventField::kUntil, std::u16string(RefusalText(kUntilBeforeSince)));
+  return refusals;
 }
 
 EventRow RowOf(const EventFields& fields, const EventRow* edited) {

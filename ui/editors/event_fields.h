@@ -2,12 +2,15 @@
 //
 //   EventFields fields = FieldsOf(row);
 //   fields.name = u"Anniversaire";
-//   if (const auto refusal = RefusalOf(fields)) show(refusal->field, refusal->reason);
-//   else row = RowOf(fields, &row);
+//   for (const auto& refusal : RefusalsOf(fields)) show(refusal.field, refusal.reason);
+//   …
+//   row = RowOf(fields, &row);  // where nothing is refused
 #pragma once
 
-#include <optional>
+#include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "ui/editors/joined_rows.h"
 
@@ -45,13 +48,21 @@ struct Refusal {
   std::u16string reason;  // one sentence in French
 };
 
-// Returns the first reason why the fields make no event; empty where they make one, which then passes
-// IsAcceptableDayEvent with each of its records.
-std::optional<Refusal<EventField>> RefusalOf(const EventFields& fields);
+// Returns why a field is refused; empty where it is not.
+template <class Field>
+std::u16string_view ReasonFor(const std::vector<Refusal<Field>>& refusals, Field field) {
+  const auto found = std::find_if(refusals.begin(), refusals.end(),
+                                  [=](const auto& refusal) { return refusal.field == field; });
+  return found == refusals.end() ? std::u16string_view() : std::u16string_view(found->reason);
+}
 
-// Returns the row that the fields make; they must not be refused. Fields that the kind does not need are left
-// at 0. A row whose bounds are no range keeps them until one of the two dates is edited: `edited` is the row
-// that the fields were taken from, null for a new one.
+// Returns why the fields make no event, at most one reason a field and in their order; empty where they make
+// one, which then passes IsAcceptableDayEvent with each of its records.
+std::vector<Refusal<EventField>> RefusalsOf(const EventFields& fields);
+
+// Returns the row that the fields make; only its name may be refused. Fields that the kind does not need are
+// left at 0. A row whose bounds are no range keeps them until one of the two dates is edited: `edited` is the
+// row that the fields were taken from, null for a new one.
 EventRow RowOf(const EventFields& fields, const EventRow* edited);
 
 // Returns the fields that show a row. Numbers that a kind does not need, or that no field can hold, get the

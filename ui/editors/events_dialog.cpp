@@ -8,9 +8,10 @@
 #include "core/date.h"
 #include "core/date_text.h"
 #include "resources/strings.h"
-#include "ui/editors/field_note.h"
 #include "ui/editors/row_list.h"
+#include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/spoken_value.h"
 #include "ui/window/help.h"
 #include "ui_events.h"
 
@@ -64,10 +65,13 @@ CEventsDialog::CEventsDialog(const EditorServices& services, const CalendarConte
   for (int weekday = 1; weekday <= kDaysInWeek; ++weekday)
     form.weekday->addItem(ToQString(WeekdayName(weekday)));
   for (int month = 1; month <= kMonths; ++month) form.month->addItem(ToQString(MonthName(month)));
+  for (QComboBox* const box : {form.kinds, form.type, form.ordinal, form.weekday, form.month})
+    SpeakValue(*box);
   for (CDateEdit* const date : {form.since, form.until}) date->SetNoneText(TableText(kTextAlways));
   form.nameNote->SetField(*form.name);
   form.dayNote->SetField(*form.day);
-  form.untilNote->SetField(*form.until);
+  form.since->SetNote(form.sinceNote);
+  form.until->SetNote(form.untilNote);
   form.importHolidays->setVisible(static_cast<bool>(services.importHolidays));
   ConnectForm();
   SetUp({form.list, form.filter, form.create, form.remove, form.up, form.down, form.undo, form.redo,
@@ -141,59 +145,62 @@ void CEventsDialog::SetFields(const EventFields& fields) {
 
 void CEventsDialog::ShowFields(int row) { SetFields(row < 0 ? m_draft : FieldsOf(m_events->RowAt(row))); }
 
-// An entry without a name is nothing that could be lost.
 bool CEventsDialog::IsFormEdited() const {
-  if (ShownRow() < 0) return !IsBlank(Utf16View(m_form->name->text()));
-  return Fields() != m_shown || !m_form->since->IsValid() || !m_form->until->IsValid();
+  return ShownRow() < 0 ? IsEntryBegun() : Fields() != m_shown || !IsFormRead();
 }
 
-std::optional<Refusal<EventField>> CEventsDialog::FieldRefusal() const {
-  for (const CDateEdit* const date : {m_form->since, m_form->until}) {
-    if (date->IsValid()) continue;
-    const EventField field = date == m_form->since ? EventField::kSince : EventField::kUntil;
-    return Refusal<EventField>{field, std::u16string(Utf16View(date->Error()))};
+bool CEventsDialog::IsFormRead() const { return m_form->since->IsValid() && m_form->until->IsValid(); }
+
+// An entry without a name is nothing that could be lost.
+bool CEventsDialog::IsEntryBegun() const { return !IsBlank(m_draft.name); }
+
+std::vector<Refusal<EventField>> CEventsDialog::Refusals() const {
+  std::vector<Refusal<EventField>> refusals = RefusalsOf(Fields());
+  if (IsFormRead()) return refusals;
+  // While one of the bounds is no date there is nothing to say of the other.
+  std::erase_if(refusals, [](const auto& refusal) { return refusal.field == EventField::kUntil; });
+  for (const EventField field : {EventField::kSince, EventField::kUntil}) {
+    const CDateEdit& date = field == EventField::kSince ? *m_form->since : *m_form->until;
+    if (!date.IsValid()) refusals.push_back({field, std::u16string(Utf16View(date.Error()))});
   }
-  return RefusalOf(Fields());
+  return refusals;
 }
 
 bool CEventsDialog::IsFormGood() {
   // A number that is still being typed counts as it stands.
   m_form->day->interpretText();
   m_form->distance->interpretText();
+  m_form->since->MarkError();
+  m_form->until->MarkError();
   ShowNotes(true);
-  const auto refusal = FieldRefusal();
-  if (!refusal) return true;
+  const auto refusals = Refusals();
+  if (refusals.empty()) return true;
   const auto widgetOf = [this](EventField field) -> QWidget* {
     if (field == EventField::kName) return m_form->name;
     if (field == EventField::kDay) return m_form->day;
     return field == EventField::kSince ? m_form->since : m_form->until;
   };
-  widgetOf(refusal->field)->setFocus();
+  widgetOf(refusals.front().field)->setFocus();
   return false;
 }
 
 // Says what is refused; `all` also what is merely not entered yet.
 void CEventsDialog::ShowNotes(bool all) {
-  const auto refusal = FieldRefusal();
-  const bool isNameMissing = IsBlank(Fields().name);
-  const auto say = [&](CFieldNote* note, std::initializer_list<EventField> fields) {
-    bool isHere = refusal && std::find(fields.begin(), fields.end(), refusal->field) != fields.end();
-    if (refusal && !all) {
-      const bool isDate = !m_form->since->IsValid() || !m_form->until->IsValid();
-      isHere = isHere && !isDate && !(refusal->field == EventField::kName && isNameMissing && ShownRow() < 0);
-    }
-    note->Say(isHere ? ToQString(refusal->reason) : QString());
-  };
-  say(m_form->nameNote, {EventField::kName});
-  say(m_form->dayNote, {EventField::kDay});
-  say(m_form->untilNote, {EventField::kSince, EventField::kUntil});
+  const auto refusals = Refusals();
+  const bool isNameAwaited = !all && ShownRow() < 0 && IsBlank(Fields().name);
+  m_form->nameNote->Say(isNameAwaited ? QString() : ToQString(ReasonFor(refusals, EventField::kName)));
+  m_form->dayNote->Say(ToQString(ReasonFor(refusals, EventField::kDay)));
+  // A date field itself says why its text is no date.
+  m_form->until->Refuse(m_form->until->IsValid() ? ToQString(ReasonFor(refusals, EventField::kUntil))
+                                                 : QString());
 
-  EventFields named = Fields();
-  if (isNameMissing) named.name = u"-";
   QString words = m_added;
-  if (words.isEmpty() && m_form->since->IsValid() && m_form->until->IsValid() && !RefusalOf(named)) {
+  const bool isOnlyNameRefused = std::all_of(refusals.begin(), refusals.end(), [](const auto& refusal) {
+    return refusal.field == EventField::kName;
+  });
+  if (words.isEmpty() && isOnlyNameRefused) {
     const EventRow* const edited = ShownRow() < 0 ? nullptr : &m_events->RowAt(ShownRow());
-    words = ToQString(FallsOnText(RecordsOf(RowOf(named, edited)), m_year, kYearsTold));
+    words = ToQString(FallsOnText(RecordsOf(RowOf(Fields(), edited)), m_year, kYearsTold));
   }
   m_form->fallsOn->setText(words);
 }

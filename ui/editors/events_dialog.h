@@ -19,8 +19,6 @@ class EventsForm;
 
 namespace orbisol {
 
-class CFieldNote;
-
 class CEventsDialog : public CEditorDialog {
   Q_OBJECT
 
@@ -36,6 +34,8 @@ class CEventsDialog : public CEditorDialog {
  protected:
   void ShowFields(int row) override;
   bool IsFormEdited() const override;
+  bool IsFormRead() const override;
+  bool IsEntryBegun() const override;
   bool IsFormGood() override;
   void TakeFields(int row) override;
   void FocusFirstField() override;
@@ -46,7 +46,7 @@ class CEventsDialog : public CEditorDialog {
  private:
   EventFields Fields() const;
   void SetFields(const EventFields& fields);
-  std::optional<Refusal<EventField>> FieldRefusal() const;
+  std::vector<Refusal<EventField>> Refusals() const;
   void ConnectForm();
   void OnEdited();
   void ShowKind();

@@ -1,7 +1,7 @@
 #include "ui/editors/period_fields.h"
 
 #include <algorithm>
-#include <numeric>
+#include <optional>
 
 #include "core/date.h"
 #include "core/date_range.h"
@@ -15,28 +15,35 @@ enum { kDateMissing, kToBeforeFrom, kOneDay, kOneDayOfYear, kNoBound };
 
 std::u16string_view RefusalText(int n) { return Piece(StringText(kTextPeriodRefusals), u'|', n); }
 
-Refusal<PeriodField> Refuse(PeriodField field, std::u16string_view reason) {
-  return {field, std::u16string(reason)};
+// Returns why a period with two dates is none.
+std::optional<Refusal<PeriodField>> RefusalOfDates(PackedDate from, PackedDate to) {
+  const auto refuse = [](PeriodField field, std::u16string_view reason) {
+    return Refusal<PeriodField>{field, std::u16string(reason)};
+  };
+  if (DayOrder(to) < DayOrder(from)) return refuse(PeriodField::kTo, RefusalText(kToBeforeFrom));
+  if (to == from) return refuse(PeriodField::kTo, RefusalText(kOneDay));
+  for (const RecordBounds& bounds : BoundsOf({from, to})) {
+    if (bounds.from == bounds.to)
+      return refuse(bounds.from == from ? PeriodField::kFrom : PeriodField::kTo,
+                    FormatText(RefusalText(kOneDayOfYear), {Unpack(bounds.from).year}));
+    if (!IsAcceptablePeriod({bounds.from, bounds.to, {}}))
+      return refuse(PeriodField::kTo, RefusalText(kNoBound));
+  }
+  return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<Refusal<PeriodField>> RefusalOf(const PeriodFields& fields) {
-  if (const std::u16string reason = TooLongText(fields.title); !reason.empty())
-    return Refuse(PeriodField::kTitle, reason);
-  if (fields.from == 0) return Refuse(PeriodField::kFrom, RefusalText(kDateMissing));
-  if (fields.to == 0) return Refuse(PeriodField::kTo, RefusalText(kDateMissing));
-  if (DayOrder(fields.to) < DayOrder(fields.from))
-    return Refuse(PeriodField::kTo, RefusalText(kToBeforeFrom));
-  if (fields.to == fields.from) return Refuse(PeriodField::kTo, RefusalText(kOneDay));
-  for (const RecordBounds& bounds : BoundsOf({fields.from, fields.to})) {
-    if (bounds.from == bounds.to)
-      return Refuse(bounds.from == fields.from ? PeriodField::kFrom : PeriodField::kTo,
-                    FormatText(RefusalText(kOneDayOfYear), {Unpack(bounds.from).year}));
-    if (!IsAcceptablePeriod({bounds.from, bounds.to, {}}))
-      return Refuse(PeriodField::kTo, RefusalText(kNoBound));
-  }
-  return std::nullopt;
+std::vector<Refusal<PeriodField>> RefusalsOf(const PeriodFields& fields) {
+  std::vector<Refusal<PeriodField>> refusals;
+  if (std::u16string reason = TooLongText(fields.title); !reason.empty())
+    refusals.push_back({PeriodField::kTitle, std::move(reason)});
+  for (const PeriodField field : {PeriodField::kFrom, PeriodField::kTo})
+    if ((field == PeriodField::kFrom ? fields.from : fields.to) == 0)
+      refusals.push_back({field, std::u16string(RefusalText(kDateMissing))});
+  if (fields.from == 0 || fields.to == 0) return refusals;
+  if (auto refusal = RefusalOfDates(fields.from, fields.to)) refusals.push_back(std::move(*refusal));
+  return refusals;
 }
 
 PeriodRow RowOf(const PeriodFields& fields) {

@@ -1,12 +1,12 @@
 // What the fields of the dialog of vacation periods hold, why they make no period, and which periods overlap.
 //
 //   PeriodFields fields{.title = u"Pâques", .from = 20240406, .to = 20240422};
-//   if (const auto refusal = RefusalOf(fields)) show(refusal->field, refusal->reason);
-//   else rows.push_back(RowOf(fields));
+//   for (const auto& refusal : RefusalsOf(fields)) show(refusal.field, refusal.reason);
+//   …
+//   rows.push_back(RowOf(fields));  // where nothing is refused
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -24,12 +24,12 @@ struct PeriodFields {
   bool operator==(const PeriodFields&) const = default;
 };
 
-enum class PeriodField { kFrom, kTo, kTitle };
+enum class PeriodField { kTitle, kFrom, kTo };
 
-// Returns the first reason why the fields make no period; empty where they make one, which then passes
-// IsAcceptablePeriod with each of its records. A period before the era is refused where its cut would leave a
-// record of a single day.
-std::optional<Refusal<PeriodField>> RefusalOf(const PeriodFields& fields);
+// Returns why the fields make no period, at most one reason a field and in their order; empty where they make
+// one, which then passes IsAcceptablePeriod with each of its records. A period before the era is refused
+// where its cut would leave a record of a single day.
+std::vector<Refusal<PeriodField>> RefusalsOf(const PeriodFields& fields);
 
 // Returns the row that the fields make; they must not be refused.
 PeriodRow RowOf(const PeriodFields& fields);

@@ -6,8 +6,8 @@
 #include "core/date.h"
 #include "core/date_text.h"
 #include "resources/strings.h"
-#include "ui/editors/field_note.h"
 #include "ui/editors/row_list.h"
+#include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/window/help.h"
 #include "ui_vacations.h"
@@ -24,8 +24,8 @@ CVacationsDialog::CVacationsDialog(const EditorServices& services, const Calenda
   Ui::VacationsForm& form = *m_form;
   form.setupUi(this);
   form.titleNote->SetField(*form.title);
-  form.fromNote->SetField(*form.from);
-  form.toNote->SetField(*form.to);
+  form.from->SetNote(form.fromNote);
+  form.to->SetNote(form.toNote);
   const auto edited = [this] {
     if (m_isSetting) return;
     if (ShownRow() < 0) m_draft = Fields();
@@ -71,52 +71,62 @@ void CVacationsDialog::SetFields(const PeriodFields& fields) {
 void CVacationsDialog::ShowFields(int row) { SetFields(row < 0 ? m_draft : FieldsOf(m_periods->RowAt(row))); }
 
 bool CVacationsDialog::IsFormEdited() const {
-  const auto isTyped = [](const CDateEdit& date) { return !date.IsValid() && !date.text().isEmpty(); };
-  const PeriodFields& before = ShownRow() < 0 ? m_fresh : m_shown;
-  return Fields() != before || isTyped(*m_form->from) || isTyped(*m_form->to);
+  return ShownRow() < 0 ? IsEntryBegun() : Fields() != m_shown || !IsFormRead();
+}
+
+bool CVacationsDialog::IsFormRead() const {
+  const auto isRead = [](const CDateEdit& date) { return date.IsValid() || date.text().isEmpty(); };
+  return isRead(*m_form->from) && isRead(*m_form->to);
+}
+
+bool CVacationsDialog::IsEntryBegun() const {
+  return m_draft != m_fresh || (ShownRow() < 0 && !IsFormRead());
 }
 
 // A period that was drawn in the month is meant to be added.
-bool CVacationsDialog::IsFormWanted() const {
-  return IsFormEdited() || (ShownRow() < 0 && m_fresh.from != 0);
-}
+bool CVacationsDialog::IsEntryWanted() const { return IsEntryBegun() || m_fresh.from != 0; }
 
-std::optional<Refusal<PeriodField>> CVacationsDialog::FieldRefusal() const {
-  for (const CDateEdit* const date : {m_form->from, m_form->to}) {
-    if (date->IsValid() || date->text().isEmpty()) continue;
-    const PeriodField field = date == m_form->from ? PeriodField::kFrom : PeriodField::kTo;
-    return Refusal<PeriodField>{field, std::u16string(Utf16View(date->Error()))};
+std::vector<Refusal<PeriodField>> CVacationsDialog::Refusals() const {
+  std::vector<Refusal<PeriodField>> refusals = RefusalsOf(Fields());
+  if (IsFormRead()) return refusals;
+  // While one of the dates is none there is nothing to say of the other.
+  std::erase_if(refusals, [](const auto& refusal) { return refusal.field != PeriodField::kTitle; });
+  for (const PeriodField field : {PeriodField::kFrom, PeriodField::kTo}) {
+    const CDateEdit& date = field == PeriodField::kFrom ? *m_form->from : *m_form->to;
+    if (!date.IsValid() && !date.text().isEmpty())
+      refusals.push_back({field, std::u16string(Utf16View(date.Error()))});
   }
-  return RefusalOf(Fields());
+  return refusals;
 }
 
 bool CVacationsDialog::IsFormGood() {
+  for (CDateEdit* const date : {m_form->from, m_form->to})
+    if (!date->text().isEmpty()) date->MarkError();
   ShowNotes(true);
-  const auto refusal = FieldRefusal();
-  if (!refusal) return true;
+  const auto refusals = Refusals();
+  if (refusals.empty()) return true;
   const auto widgetOf = [this](PeriodField field) -> QWidget* {
     if (field == PeriodField::kTitle) return m_form->title;
     return field == PeriodField::kFrom ? m_form->from : m_form->to;
   };
-  widgetOf(refusal->field)->setFocus();
+  widgetOf(refusals.front().field)->setFocus();
   return false;
 }
 
 // Says what is refused; `all` also what is merely not entered yet.
 void CVacationsDialog::ShowNotes(bool all) {
-  const auto refusal = FieldRefusal();
+  const auto refusals = Refusals();
   const PeriodFields fields = Fields();
-  const bool isUnfinished =
-      fields.from == 0 || fields.to == 0 || !m_form->from->IsValid() || !m_form->to->IsValid();
-  const auto say = [&](CFieldNote* note, PeriodField field) {
-    const bool isHere =
-        refusal && refusal->field == field && (all || !isUnfinished || field == PeriodField::kTitle);
-    note->Say(isHere ? ToQString(refusal->reason) : QString());
+  const bool isAwaited = !all && (fields.from == 0 || fields.to == 0);
+  m_form->titleNote->Say(ToQString(ReasonFor(refusals, PeriodField::kTitle)));
+  // A date field itself says why its text is no date.
+  const auto refuse = [&](CDateEdit& date, PeriodField field) {
+    const bool isSilent = isAwaited || (!date.IsValid() && !date.text().isEmpty());
+    date.Refuse(isSilent ? QString() : ToQString(ReasonFor(refusals, field)));
   };
-  say(m_form->titleNote, PeriodField::kTitle);
-  say(m_form->fromNote, PeriodField::kFrom);
-  say(m_form->toNote, PeriodField::kTo);
-  m_form->length->setText(refusal ? QString() : LengthText());
+  refuse(*m_form->from, PeriodField::kFrom);
+  refuse(*m_form->to, PeriodField::kTo);
+  m_form->length->setText(refusals.empty() ? LengthText() : QString());
 }
 
 // The weekdays of both ends and the length of the period in the fields, and the first period that it

@@ -19,8 +19,6 @@ class VacationsForm;
 
 namespace orbisol {
 
-class CFieldNote;
-
 class CVacationsDialog : public CEditorDialog {
   Q_OBJECT
 
@@ -35,7 +33,9 @@ class CVacationsDialog : public CEditorDialog {
  protected:
   void ShowFields(int row) override;
   bool IsFormEdited() const override;
-  bool IsFormWanted() const override;
+  bool IsFormRead() const override;
+  bool IsEntryBegun() const override;
+  bool IsEntryWanted() const override;
   bool IsFormGood() override;
   void TakeFields(int row) override;
   void FocusFirstField() override;
@@ -45,7 +45,7 @@ class CVacationsDialog : public CEditorDialog {
  private:
   PeriodFields Fields() const;
   void SetFields(const PeriodFields& fields);
-  std::optional<Refusal<PeriodField>> FieldRefusal() const;
+  std::vector<Refusal<PeriodField>> Refusals() const;
   void ShowNotes(bool all);
   QString LengthText() const;
 

@@ -22,6 +22,8 @@
 #include "ui/toolkit/elided_label.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/window/save_calendar.h"
+#include "ui/window/session_end.h"
 #include "ui/window/tool_icons.h"
 
 namespace orbisol {
@@ -154,6 +156,12 @@ void CCalendarFrame::StoreLayout() {
   closing.paneShown = m_dialog->IsPaneShown();
   closing.paneWidth = m_dialog->PaneWidth();
   SaveMainWindowLayout(m_services.store, Display().mainLayout, closing, VirtualScreen());
+}
+
+void CCalendarFrame::KeepForNextSession() {
+  KeepAllUnsaved();
+  if (Display().changed) SaveUnasked({m_services.store, m_services.calendars}, Display(), Rules(), Content());
+  StoreLayout();
 }
 
 void CCalendarFrame::closeEvent(QCloseEvent* event) {

@@ -96,6 +96,7 @@ class CCalendarFrame : public QMainWindow {
   void OnGoToToday();
   void OnQuit();
 
+  void StoreLayout();
   void TakeSettings();
   void UpdateTitle();
   void UpdateCommands();

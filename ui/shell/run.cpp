@@ -52,13 +52,15 @@ int Run(const StartUp& startUp) {
     ending = std::make_unique<QSocketNotifier>(endSignals.Descriptor(), QSocketNotifier::Read);
     QObject::connect(ending.get(), &QSocketNotifier::activated, &frame, [&] {
       ending->setEnabled(false);
+      frame.KeepForNextSession();
       frame.close();
-      QApplication::quit();  // ends the program even while a dialog is open
+      QApplication::exit();  // unlike quit(), asks no dialog whether it may be closed
     });
   }
   // A session that ends waits for this slot only and then closes the display.
   QObject::connect(
-      qApp, &QGuiApplication::commitDataRequest, &frame, [&] { frame.StoreLayout(); }, Qt::DirectConnection);
+      qApp, &QGuiApplication::commitDataRequest, &frame, [&] { frame.KeepForNextSession(); },
+      Qt::DirectConnection);
   frame.Open();
   return QApplication::exec();
 }

@@ -15,6 +15,7 @@
 #include "core/date_text.h"
 #include "resources/strings.h"
 #include "ui/toolkit/date_drop_down.h"
+#include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/typed_date.h"
 
@@ -99,13 +100,30 @@ void CDateEdit::Take(PackedDate ymd, const QString& error) {
   if (wasValid != IsValid()) emit validityChanged(IsValid());
 }
 
-// Shows an error by a sign beside the text and by a description, so that neither color nor sight is needed.
+void CDateEdit::SetNote(CFieldNote* note) {
+  m_note = note;
+  ShowMark();
+}
+
+void CDateEdit::Refuse(const QString& reason) {
+  m_refusal = reason;
+  ShowMark();
+}
+
+void CDateEdit::MarkError() {
+  m_isUnfinished = false;
+  ShowMark();
+}
+
+// Shows an error by a sign with words and by a description, so that neither color nor sight is needed.
 void CDateEdit::ShowMark() {
-  const bool isMarked = !m_error.isEmpty() && !(m_isUnfinished && (hasFocus() || text().isEmpty()));
-  m_mark->setVisible(isMarked);
-  m_mark->setToolTip(TipMarkup(m_error));
-  setToolTip(isMarked ? TipMarkup(m_error) : QString());
-  setAccessibleDescription(isMarked ? m_error : ToQString(DatePattern(UserOrder())));
+  const bool isUnread = !m_error.isEmpty() && !(m_isUnfinished && (hasFocus() || text().isEmpty()));
+  const QString fault = isUnread ? m_error : m_refusal;
+  if (m_note != nullptr) m_note->Say(fault);
+  m_mark->setVisible(!fault.isEmpty() && m_note == nullptr);
+  m_mark->setToolTip(TipMarkup(fault));
+  setToolTip(m_mark->toolTip());
+  setAccessibleDescription(fault.isEmpty() ? ToQString(DatePattern(UserOrder())) : fault);
 }
 
 // Writes a valid date in the field's own form, however it was typed.

@@ -8,8 +8,9 @@
 //   if (!from->IsValid()) warn(from->Error());
 //
 // Dates lie within -3999-01-01 … 3999-12-31 and exist under the rules in force. A text that is none is kept
-// as it was typed, with a warning sign beside it whose tip gives the reason; the reason is the field's
-// accessible description as well. An unfinished date is marked only when the field loses the focus.
+// as it was typed. The reason stands in a line below the field where it has one (SetNote), else in the tip of
+// a warning sign beside the text; it is the field's accessible description as well. An unfinished date is
+// marked only when the field loses the focus.
 //
 // Keys: Up and Down step the day, month or year at the cursor, Page Up and Page Down the month, with Ctrl the
 // year; Alt+Down or F4 opens a calendar below the field.
@@ -24,6 +25,7 @@ class QAction;
 namespace orbisol {
 
 class CDateDropDown;
+class CFieldNote;
 
 class CDateEdit : public QLineEdit {
   Q_OBJECT
@@ -43,6 +45,13 @@ class CDateEdit : public QLineEdit {
   bool IsValid() const { return m_error.isEmpty(); }
   // Returns why the text is no date, in French; empty where it is one.
   QString Error() const { return m_error; }
+
+  // Has a line say why the text is no date or is refused. The line lives as long as the field.
+  void SetNote(CFieldNote* note);
+  // Says why a date that exists cannot be taken here; an empty reason takes that back.
+  void Refuse(const QString& reason);
+  // Marks an error also where something is merely still to be typed.
+  void MarkError();
 
   // Opens the calendar below the field; does nothing while the field is read only.
   void OpenDropDown();
@@ -75,9 +84,11 @@ class CDateEdit : public QLineEdit {
   PackedDate m_date = 0;
   QString m_noneText;
   QString m_error;
+  QString m_refusal;            // reason given to Refuse()
   bool m_isUnfinished = false;  // the error is only that something is still to be typed
   QAction* m_open;
   QAction* m_mark;
+  CFieldNote* m_note = nullptr;
   CDateDropDown* m_dropDown = nullptr;  // made when first needed
 };
 

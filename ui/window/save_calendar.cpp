@@ -111,6 +111,16 @@ SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& pla
   });
 }
 
+bool SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
+                 const CalendarContent& content) {
+  const SaveOutcome outcome =
+      SaveSettings(places.store, places.calendars, display, rules, content, IfChanged::kKeepBoth);
+  if (IsInPlace(outcome.calendar)) return true;
+  places.calendars.KeepVersion(CalendarNameOrDefault(display.calendarName.View()),
+                               {display.Look(), rules, content, {}});
+  return false;
+}
+
 void PutInForce(CalendarFile calendar) {
   Display().Look() = calendar.look;
   Display().changed = false;

@@ -58,6 +58,12 @@ SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places
 SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
                                           const CalendarFile& inForce, std::string_view version);
 
+// Saves at the end of a session, when nobody can be asked: where the file cannot simply be replaced, the
+// calendar goes to a free name beside it, and where that fails too, to its earlier versions. Returns whether
+// it is in a file.
+bool SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
+                 const CalendarContent& content);
+
 // Puts look, rules and content of a calendar in force, as after kReloaded, and clears `changed`. What shows
 // them must be told.
 void PutInForce(CalendarFile calendar);

@@ -14,6 +14,7 @@
 #include "ui/calendars/choose_calendar_dlg.h"
 #include "ui/calendars/rename_calendar_dlg.h"
 #include "ui/calendars/versions_dlg.h"
+#include "ui/toolkit/field_note.h"
 
 namespace orbisol {
 namespace {
@@ -44,7 +45,10 @@ class CalendarDialogsTest : public CalendarsTest {
     typed.setCommitString(name);
     QApplication::sendEvent(Part<QLineEdit>("name"), &typed);
   }
-  QString Fault() { return Part<QLabel>("fault")->isVisible() ? Part<QLabel>("fault")->text() : QString(); }
+  QString Fault() {
+    const auto* const note = Part<CFieldNote>("fault");
+    return note->isVisible() ? note->Text() : QString();
+  }
   void Key(int key) { QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key)); }
 
   std::unique_ptr<CChooseCalendarDlg> dialog;
@@ -114,7 +118,7 @@ TEST_F(CalendarDialogsTest, ANewNameIsJudgedAtItsField) {
     Key(Qt::Key_Return);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_TRUE(Fault().contains(QString::fromUtf8(row.fault))) << qPrintable(Fault());
-    EXPECT_EQ(Part<QLineEdit>("name")->accessibleDescription(), Fault().mid(2));
+    EXPECT_EQ(Part<QLineEdit>("name")->accessibleDescription(), Fault());
   }
   EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
   Type(u"שלום 🎂 <b>"_s);
@@ -193,6 +197,19 @@ TEST_F(CalendarDialogsTest, VersionsAreListedComparedAndRestored) {
   EXPECT_EQ(Content(), older.content);
   EXPECT_EQ(Display().fontWeight, 700);
   EXPECT_EQ(changes, 1);
+
+  Put(u"Maison", u"theirs");
+  messages.answers = {0};  // both are kept
+  QTimer::singleShot(0, [] {
+    QWidget* const versions = QApplication::activeModalWidget();
+    versions->findChild<QPushButton*>(u"restore"_s)->click();
+    EXPECT_EQ(versions->findChild<QLabel*>(u"heading"_s)->text(),
+              u"&Versions précédentes de « Maison (2) » :"_s);
+    versions->close();
+  });
+  Press("versions");
+  EXPECT_EQ(OnDisk(), "Maison=theirs Maison (2)=mine Travail=work ");
+  EXPECT_EQ(List().currentItem()->text(), u"Maison (2)"_s);
 
   Select(u"Travail"_s);
   QTimer::singleShot(0, [] {

@@ -11,13 +11,12 @@
 namespace orbisol {
 namespace {
 
-std::string ReasonOf(const EventFields& fields) {
-  const auto refusal = RefusalOf(fields);
-  return refusal ? ToUtf8(refusal->reason) : "";
-}
-std::string ReasonOf(const PeriodFields& fields) {
-  const auto refusal = RefusalOf(fields);
-  return refusal ? ToUtf8(refusal->reason) : "";
+// Returns the first reason and its field.
+template <class Field, class Fields>
+std::pair<std::optional<Field>, std::string> FirstRefusal(const Fields& fields) {
+  const std::vector<Refusal<Field>> refusals = RefusalsOf(fields);
+  if (refusals.empty()) return {};
+  return {refusals[0].field, ToUtf8(refusals[0].reason)};
 }
 
 TEST(EditorRowsTest, PiecesOfOneRangeAreOneRowAndTheRecordsStayAsTheyAre) {
@@ -73,11 +72,14 @@ TEST(EventFieldsTest, EveryRefusalIsSaidAtItsField) {
       {with([](auto& f) { f.since = -440315, f.until = -440301; }), kUntil, "La fin précède le début."},
   };
   for (const auto& row : kRows) {
-    EXPECT_NE(ReasonOf(row.fields).find(row.words), std::string::npos)
-        << row.words << " in " << ReasonOf(row.fields);
-    const auto refusal = RefusalOf(row.fields);
-    EXPECT_EQ(refusal ? std::optional(refusal->field) : std::nullopt, row.field) << row.words;
+    const auto [field, reason] = FirstRefusal<EventField>(row.fields);
+    EXPECT_NE(reason.find(row.words), std::string::npos) << row.words << " in " << reason;
+    EXPECT_EQ(field, row.field) << row.words;
   }
+  const EventFields all{.name = u"", .month = 4, .day = 31, .since = 20240501, .until = 20240430};
+  std::vector<EventField> fields;
+  for (const auto& refusal : RefusalsOf(all)) fields.push_back(refusal.field);
+  EXPECT_EQ(fields, (std::vector{kName, kDay, kUntil})) << "one reason does not hide another";
 }
 
 // What the fields let through is what the files take, and comes back into the fields as it was.
@@ -95,7 +97,7 @@ TEST(EventFieldsTest, WhatIsNotRefusedIsAcceptedAndReadsBack) {
         if (HasOrdinal(fields.type)) fields.weeknum = day % 5 + 1;
         if (day % 3 == 0) fields.since = day % 2 == 0 ? -440315 : 18800714;
         if (month % 3 == 0) fields.until = 19991231;
-        if (RefusalOf(fields)) {
+        if (!RefusalsOf(fields).empty()) {
           EXPECT_FALSE(IsAcceptableDayEvent(RowOf(fields, nullptr).record))
               << kind << ' ' << month << '/' << day;
           continue;
@@ -153,18 +155,17 @@ TEST(PeriodFieldsTest, EveryRefusalIsSaidAtItsField) {
       {{u"", -451230, 240102}, {}, ""},
   };
   for (const auto& row : kRows) {
-    EXPECT_NE(ReasonOf(row.fields).find(row.words), std::string::npos)
-        << row.words << " in " << ReasonOf(row.fields);
-    const auto refusal = RefusalOf(row.fields);
-    ASSERT_EQ(refusal ? std::optional(refusal->field) : std::nullopt, row.field) << row.words;
-    if (refusal) continue;
+    const auto [field, reason] = FirstRefusal<PeriodField>(row.fields);
+    EXPECT_NE(reason.find(row.words), std::string::npos) << row.words << " in " << reason;
+    ASSERT_EQ(field, row.field) << row.words;
+    if (field) continue;
     const PeriodRow made = RowOf(row.fields);
     for (const HolidayPeriod& period : RecordsOf(made)) EXPECT_TRUE(IsAcceptablePeriod(period));
     EXPECT_EQ(FieldsOf(RowsOf<HolidayPeriod>(RecordsOf(made))[0]), row.fields);
   }
   // On 29 February 1300 the civil year that begins in March decides that the month has 28 days.
   const ScopedRules inForce(RulesWith(kRomanReform, {.rows = {{5000325, false}}}));
-  EXPECT_EQ(RefusalOf(PeriodFields{u"", 13000201, 13000229})->field, kTo);
+  EXPECT_EQ(FirstRefusal<PeriodField>(PeriodFields{u"", 13000201, 13000229}).first, kTo);
 }
 
 TEST(PeriodFieldsTest, PeriodsThatShareADayAreFound) {

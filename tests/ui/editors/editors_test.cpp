@@ -20,35 +20,20 @@
 #include "content/month_model.h"
 #include "content/selected_date.h"
 #include "settings/display_settings.h"
-#include "tests/content/rule_builder.h"
+#include "tests/support/calendar_builder.h"
 #include "tests/support/fakes.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
 #include "tests/support/rules.h"
+#include "tests/support/spy_messages.h"
 #include "ui/editors/events_dialog.h"
-#include "ui/editors/field_note.h"
 #include "ui/editors/row_list.h"
 #include "ui/editors/vacations_dialog.h"
-#include "ui/toolkit/messages.h"
+#include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
-
-struct ScriptedMessages : UserMessages {
-  std::vector<int> answers;
-  QStringList shown;
-
-  void ShowError(QWidget* /*parent*/, const QString& text) override { shown.append(text); }
-  int Choose(QWidget* /*parent*/, const QString& text, const QStringList& /*buttons*/) override {
-    shown.append(text);
-    if (answers.empty()) return -1;
-    const int answer = answers.front();
-    answers.erase(answers.begin());
-    return answer;
-  }
-  void Beep() override {}
-};
 
 class EditorTest : public testing::Test {
  protected:
@@ -98,6 +83,16 @@ class EditorTest : public testing::Test {
     EXPECT_EQ(fresh.Load(u"Calendar", file), LoadResult::kLoaded);
     return file.content;
   }
+  // The first event of each calendar: "Calendar=theirs Calendar (2)=mine ".
+  std::string NamesOnDisk() {
+    std::string all;
+    for (const std::u16string& name : calendars.Names()) {
+      const CalendarContent content = ReadCalendar(*calendars.BytesOf(name)).content;
+      all += ToUtf8(name) + "=" +
+             (content.dayEvents.empty() ? "" : ToUtf8(content.dayEvents[0].name.View())) + " ";
+    }
+    return all;
+  }
   // The days of a month that carry a mark, as the month shows them.
   static std::vector<int> Marked(int year, int month, unsigned mark) {
     MonthModel model;
@@ -110,7 +105,7 @@ class EditorTest : public testing::Test {
     return days;
   }
 
-  ScriptedMessages messages;
+  SpyMessages messages;
   CMemoryFiles files;
   CCalendarStore calendars{files, kMemoryFolders};
   CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
@@ -233,6 +228,9 @@ TEST_F(EditorTest, APeriodThatWasDrawnIsTitledSavedAndSeen) {
   EXPECT_EQ(OnDisk().vacations.size(), 4U);
   OpenVacations();
   EXPECT_EQ(Rows(), 3) << "its two records are one row";
+  Part<QLineEdit>("filter").setText(QStringLiteral("x"));
+  EXPECT_EQ(Part<CRowList>("list").accessibleDescription(),
+            QStringLiteral("Aucune période ne correspond au filtre."));
 }
 
 TEST_F(EditorTest, HostileInputIsRefusedAtItsFieldAndKept) {
@@ -262,13 +260,99 @@ TEST_F(EditorTest, HostileInputIsRefusedAtItsFieldAndKept) {
       EXPECT_EQ(ToQString(OnDisk().dayEvents.at(0).name.View()), row.name);
     }
   }
-  OpenEvents();
+}
+
+TEST_F(EditorTest, AnImpossibleDateIsSaidBelowItsFieldAndIsNotForgotten) {
+  Content().dayEvents = {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"mine"})};
+  CEventsDialog& events = OpenEvents();
   Type("name", QStringLiteral("Saint-Glinglin"));
-  Type("since", QStringLiteral("31/04/2024"));
+  Type("until", QStringLiteral("3"));
+  EXPECT_EQ(Note("untilNote"), QString()) << "somebody is still typing";
+  Type("until", QStringLiteral("31/04/2024"));
+  const QString reason = QStringLiteral("Cette date n'existe pas : avril 2024 n'a pas de jour 31.");
+  EXPECT_EQ(Note("untilNote"), reason);
+  EXPECT_EQ(Part<QWidget>("until").accessibleDescription(), reason);
+  Type("since", QStringLiteral("30"));
   Save();
   EXPECT_EQ(dialog->result(), 0) << "an impossible date keeps the dialog open";
-  EXPECT_FALSE(Note("untilNote").isEmpty());
+  EXPECT_TRUE(Note("sinceNote").contains(QStringLiteral("JJ/MM/AAAA")));
   EXPECT_EQ(dialog->focusWidget(), &Part<QWidget>("since"));
+  events.SelectRow(0);
+  EXPECT_EQ(events.ShownRow(), -1) << "the form is not left";
+  Type("since", QStringLiteral("1er mai 2024"));
+  EXPECT_EQ(Note("sinceNote") + Note("untilNote"), reason);
+  Type("until", QStringLiteral("30/04/2024"));
+  EXPECT_EQ(Note("untilNote"), QStringLiteral("La fin précède le début."));
+
+  OpenVacations(20240706, 20240709);
+  Type("from", QStringLiteral("31/04/2024"));
+  EXPECT_EQ(Note("fromNote"), reason);
+  Type("from", QStringLiteral("10/07/2024"));
+  EXPECT_EQ(Note("fromNote") + Note("toNote"), QStringLiteral("La fin précède le début."));
+}
+
+// Somebody begins an event, then looks at another row.
+TEST_F(EditorTest, ANewEntryWaitsAndIsNeverLost) {
+  const auto begin = [&] {
+    Content().dayEvents = {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"mine"})};
+    CEventsDialog& events = OpenEvents(20240514);
+    Part<QLineEdit>("name").setText(QStringLiteral("begun"));
+    events.SelectRow(0);
+    EXPECT_EQ(Part<QLineEdit>("name").text(), QStringLiteral("mine"));
+    EXPECT_EQ(events.ShownRow(), 0);
+  };
+  begin();
+  Part<QPushButton>("create").click();
+  EXPECT_EQ(Part<QLineEdit>("name").text(), QStringLiteral("begun"));
+  begin();
+  dialog->reject();
+  EXPECT_EQ(messages.questions.size(), 1U) << "it is asked for";
+  Save();
+  EXPECT_EQ(OnDisk().dayEvents.size(), 2U);
+
+  OpenVacations(20240706, 20240709);
+  Part<QPushButton>("add").click();
+  EXPECT_EQ(Rows(), 1);
+  OpenVacations(20240801, 20240809);  // drawn over, and saved from another row
+  Save();
+  OpenVacations(20240901, 20240909);
+  static_cast<CVacationsDialog&>(*dialog).SelectRow(0);
+  Save();
+  EXPECT_EQ(OnDisk().vacations, (std::vector{Period(20240801, 20240809), Period(20240901, 20240909)}));
+}
+
+TEST_F(EditorTest, TheEndOfASessionAsksNothingAndLosesNothing) {
+  const struct {
+    const char* what;
+    const char16_t* failing;
+    bool isChanged;
+    const char *onDisk, *name;
+  } kRows[] = {
+      {"nothing in the way", nullptr, false, "Calendar=typed ", "Calendar"},
+      {"somebody else's change", nullptr, true, "Calendar=theirs Calendar (2)=typed ", "Calendar (2)"},
+      {"a file that cannot be written", u"/user/Calendar.xml", false, "Calendar= Calendar (2)=typed ",
+       "Calendar (2)"},
+  };
+  for (const auto& row : kRows) {
+    SCOPED_TRACE(row.what);
+    files.files.clear();
+    Display().calendarName.Set(u"Calendar");
+    calendars.Save(u"Calendar", {}, IfChanged::kOverwrite);
+    Content() = {};
+    OpenEvents(20240514);
+    KeepAllUnsaved();
+    EXPECT_EQ(NamesOnDisk(), "Calendar= ") << "there is nothing to keep";
+    if (row.isChanged) files.Put(u"/user/Calendar.xml", BytesWith(u"theirs"));
+    if (row.failing != nullptr) files.failingWrites = {row.failing};
+    Part<QLineEdit>("name").setText(QStringLiteral("typed"));
+    KeepAllUnsaved();
+    EXPECT_EQ(NamesOnDisk(), row.onDisk);
+    EXPECT_EQ(ToUtf8(Display().calendarName.View()), row.name);
+    EXPECT_TRUE(messages.shown.isEmpty());
+    dialog->reject();
+    EXPECT_FALSE(dialog->isVisible()) << "nothing is left to ask about";
+    files.failingWrites.clear();
+  }
 }
 
 TEST_F(EditorTest, WhatCannotBeSavedStaysInTheDialog) {
@@ -284,14 +368,16 @@ TEST_F(EditorTest, WhatCannotBeSavedStaysInTheDialog) {
   EXPECT_TRUE(dialog->isVisible()) << "a question that is closed keeps the dialog open";
 
   files.failingWrites.clear();
-  CalendarFile theirs;
-  theirs.content.dayEvents = {Rule(kFixedDate, {.month = 1, .day = 6, .name = u"theirs"})};
-  files.Put(u"/user/Calendar.xml", WriteCalendar(theirs, CalendarForm::kUser));
+  files.Put(u"/user/Calendar.xml", BytesWith(u"theirs"));
   messages.answers = {1};  // reload
   Save();
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_EQ(static_cast<CEventsDialog&>(*dialog).Events().NameOf(0), QStringLiteral("theirs"));
-  EXPECT_EQ(Content(), theirs.content);
+  EXPECT_EQ(Content(), CalendarWith(u"theirs").content);
+  const CVersions& versions = calendars.Versions();
+  ASSERT_EQ(versions.List(u"Calendar").size(), 1U) << "what was typed is a version";
+  const std::string kept = *versions.Read(u"Calendar", versions.List(u"Calendar")[0]);
+  EXPECT_EQ(ReadCalendar(kept).content.dayEvents.at(0).name.View(), u"mine");
   dialog->reject();
   EXPECT_FALSE(dialog->isVisible()) << "nothing is left to ask about";
 }

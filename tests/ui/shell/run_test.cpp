@@ -2,6 +2,7 @@
 
 #include "ui/shell/run.h"
 
+#include <QLineEdit>
 #include <QTimer>
 
 #include <algorithm>
@@ -83,8 +84,8 @@ TEST_F(RunTest, WhereTheFirstIsSilentTheUserDecidesWhetherToOpenAnother) {
   EXPECT_EQ(messages.questions.size(), 2U);
 }
 
-// The session, a terminal or another program ends this one: it stores where its window stood.
-TEST_F(RunTest, AnEndFromOutsideLosesNoLayout) {
+// The session, a terminal or another program ends this one, while an event is being typed.
+TEST_F(RunTest, AnEndFromOutsideLosesNothingAndAsksNothing) {
   void (*const kEnds[])() = {
       [] { std::raise(SIGTERM); },
       [] { std::raise(SIGHUP); },
@@ -98,12 +99,20 @@ TEST_F(RunTest, AnEndFromOutsideLosesNoLayout) {
   };
   for (const auto end : kEnds) {
     StoreLayout({.rect = {50, 50, 900, 650}});
+    files.files.clear();
     QTimer::singleShot(0, qApp, [&] {
       Window()->setGeometry(100, 80, 1100, 720);
-      QTimer::singleShot(0, qApp, end);
+      QTimer::singleShot(0, qApp, [&] {
+        QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("name"))->setText("typed");
+        end();
+      });
+      static_cast<CCalendarFrame*>(Window())->RunCommand(kCmdEditEvents);
     });
     EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
     EXPECT_GT(Stored().rect.Height(), 720);
+    const CalendarContent kept = ReadCalendar(files.files[u"/user/Calendar.xml"].bytes).content;
+    EXPECT_EQ(kept.dayEvents.at(0).name.View(), u"typed");
+    EXPECT_TRUE(messages.shown.isEmpty());
   }
 }
 

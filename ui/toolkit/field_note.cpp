@@ -1,4 +1,4 @@
-#include "ui/editors/field_note.h"
+#include "ui/toolkit/field_note.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,6 +15,7 @@ CFieldNote::CFieldNote(QWidget* parent) : QWidget(parent), m_sign(new QLabel), m
   m_sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
+  m_text->setAlignment(Qt::AlignTop | Qt::AlignLeading);
   setVisible(false);
 }
 
