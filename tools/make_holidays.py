@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes the public calendars, and the table that tells which of them a first start shows, from resources/holidays/.
 
-    tools/make_holidays.py --calendars FOLDER --table FILE.cpp SOURCE.toml...
+    tools/make_holidays.py --words WORDS.toml --calendars FOLDER --table FILE.cpp SOURCE.toml...
 
 Each source is one calendar; resources/holidays/README.md says what stands in it. A fault in one ends the run with its
 file, its line and the reason, and nothing is written.
@@ -14,7 +14,8 @@ import re
 import sys
 import tomllib
 
-ALWAYS_FROM, ALWAYS_TO = -39991231, 39991231
+from holiday_info import ALWAYS_FROM, ALWAYS_TO, Describer, packed
+
 LONGEST_NAME = 254  # UTF-16 units
 WEEKDAYS = ["Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"]
 MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
@@ -32,9 +33,13 @@ KINDS = {
     "weekday after": (5, ["weekday", "date"]),
     "moved from weekend": (6, ["date"]),
     "except Sunday": (7, ["date"]),
+    "listed days": (0, ["dates"]),
 }
-CALENDAR_KEYS = {"name": str, "countries": list, "first_start": list, "info": str, "extends": str, "rule": list}
-RULE_KEYS = {"name", "kind", "public", "date", "days", "which", "weekday", "month", "from", "to", "moved", "source"}
+CALENDAR_KEYS = {"name": str, "countries": list, "first_start": list, "info": str, "checked": datetime.date,
+                 "extends": str, "without": list, "since": datetime.date, "from": datetime.date,
+                 "source": str, "days": dict, "rule": list}
+RULE_KEYS = {"name", "kind", "public", "date", "dates", "days", "which", "weekday", "month", "from", "to", "moved",
+             "source"}
 LOCALE = re.compile(r"(?:[a-z]{2,3}_)?[A-Z]{2}")
 
 
@@ -77,15 +82,23 @@ class Source:
         self.fail(self.line_of(key, rule), reason)
 
 
-def packed(date):
-    return (date.year * 100 + date.month) * 100 + date.day
+def is_text(value):
+    """Returns whether a value is a text of one line that begins and ends without a blank."""
+    return isinstance(value, str) and value != "" and value == value.strip() and not re.search(r"[\x00-\x1f]", value)
 
 
 class RuleReader:
-    """Turns one rule of a source into the records of a calendar file, in their order."""
+    """Turns one rule of a source into the records of a calendar file, in their order.
+
+    What the rule leaves out, the calendar gives: its 'from' and its 'source'.
+    """
 
     def __init__(self, source, number, rule):
-        self.source, self.number, self.rule = source, number, rule
+        self.source, self.number = source, number
+        given = {key: source.data[key] for key in ("from", "source") if key in source.data}
+        if rule.get("kind") == "listed days":
+            given.pop("from", None)
+        self.rule = {**given, **rule}
 
     def fault(self, key, reason):
         self.source.fault(key, reason, self.number)
@@ -94,8 +107,8 @@ class RuleReader:
         value = self.rule.get(key)
         if value is None:
             self.fault(None, f"the rule has no '{key}'")
-        if not isinstance(value, str) or not value.strip() or re.search(r"[\x00-\x1f]", value):
-            self.fault(key, f"'{key}' is a text of one line")
+        if not is_text(value):
+            self.fault(key, f"'{key}' is a text of one line without a blank at its ends")
         return value
 
     def choice(self, key, words):
@@ -158,6 +171,9 @@ class RuleReader:
         public = self.rule.get("public", True)
         if not isinstance(public, bool):
             self.fault("public", "'public' is true or false")
+        if self.rule.get("kind") == "listed days":
+            return [{"public": int(public), "name": name, "type": 0, "month": date.month, "day": date.day,
+                     "ymdFrom": packed(date), "ymdTo": packed(date)} for date in self.listed()]
         first, last = self.bound("from", ALWAYS_FROM), self.bound("to", ALWAYS_TO)
         if first > last:
             self.fault("to", "'to' lies before 'from'")
@@ -168,17 +184,31 @@ class RuleReader:
             if first // 10000 < year:
                 records.append({**common, **fields, "ymdFrom": first, "ymdTo": (year - 1) * 10000 + 1231})
             records.append({**common, "type": 0, "month": date.month, "day": date.day,
-                            "ymdFrom": year * 10000 + 101, "ymdTo": year * 10000 + 1231})
+                            "ymdFrom": max(first, year * 10000 + 101), "ymdTo": min(last, year * 10000 + 1231)})
             first = (year + 1) * 10000 + 101
         if first <= last:
             records.append({**common, **fields, "ymdFrom": first, "ymdTo": last})
         return records
 
+    def dates(self, key):
+        dates = self.rule.get(key, [])
+        if not isinstance(dates, list) or any(type(date) is not datetime.date for date in dates):
+            self.fault(key, f"'{key}' is a list of dates such as 2020-06-07")
+        return dates
+
+    def listed(self):
+        """Returns the dates of a rule that lists its days."""
+        for key in ("from", "to", "moved", *(key for _, keys in KINDS.values() for key in keys if key != "dates")):
+            if key in self.rule:
+                self.fault(key, f"a rule of the kind 'listed days' has no '{key}'")
+        dates = self.dates("dates")
+        if not dates or dates != sorted(set(dates)):
+            self.fault("dates", "'dates' has each date once, in their order")
+        return dates
+
     def moved(self, first, last):
         """Returns the years in which the day is moved, with the date of each."""
-        dates = self.rule.get("moved", [])
-        if not isinstance(dates, list) or any(type(date) is not datetime.date for date in dates):
-            self.fault("moved", "'moved' is a list of dates such as 2020-06-07")
+        dates = self.dates("moved")
         years = [date.year for date in dates]
         if years != sorted(set(years)):
             self.fault("moved", "'moved' has one date for a year, in the order of years")
@@ -188,7 +218,10 @@ class RuleReader:
 
 
 class Calendar:
-    """Checks one source and returns its calendar: the records of the calendar that it extends and its own."""
+    """Checks one source and returns its calendar: the rules of the calendar that it extends and its own.
+
+    A rule is a pair: its records and the source of its dates.
+    """
 
     def __init__(self, source, calendars):
         data = source.data
@@ -196,7 +229,8 @@ class Calendar:
             if key not in CALENDAR_KEYS:
                 source.fault(key, f"a calendar has no key '{key}'")
             if not isinstance(value, CALENDAR_KEYS[key]):
-                source.fault(key, f"'{key}' is no {'text' if CALENDAR_KEYS[key] is str else 'list'}")
+                kinds = {str: "text", list: "list", dict: "table", datetime.date: "date"}
+                source.fault(key, f"'{key}' is no {kinds[CALENDAR_KEYS[key]]}")
         self.source = source
         self.name = data.get("name", "")
         if not self.name or re.search(r'[\x00-\x1f/\\]', self.name):
@@ -207,8 +241,9 @@ class Calendar:
             if base is None:
                 source.fault("extends", f"there is no source '{data['extends']}.toml', or it extends another one")
         self.info = data.get("info", base.info if base else "")
-        if not self.info or re.search(r"[\x00-\x1f]", self.info):
-            source.fault("info", "the calendar needs an 'info', a text of one line")
+        if not is_text(self.info):
+            source.fault("info", "the calendar needs an 'info', a text of one line without a blank at its ends")
+        self.checked = data.get("checked", base.checked if base else None)
         self.locales = data.get("first_start", [])
         for locale in self.locales:
             if not isinstance(locale, str) or not LOCALE.fullmatch(locale):
@@ -216,12 +251,50 @@ class Calendar:
         for country in data.get("countries", []):
             if not isinstance(country, str) or not re.fullmatch(r"[A-Z]{2}(-[A-Z0-9]{1,3})?", country):
                 source.fault("countries", "'countries' lists codes such as \"FR\" or \"FR-67\"")
-        own = [record for number, rule in enumerate(data.get("rule", []))
-               for record in RuleReader(source, number, rule).records()]
+        self.rules = self.inherited(base, data.get("without", []), data.get("since"))
+        for number, rule in enumerate(data.get("rule", [])):
+            reader = RuleReader(source, number, rule)
+            self.rules.append((reader.records(), reader.rule["source"]))
+        self.rules += self.named_days(data.get("days", {}))
         # Public days first, those of the extended calendar before the own ones.
-        self.records = sorted((base.records if base else []) + own, key=lambda record: -record["public"])
+        self.records = sorted((record for records, _ in self.rules for record in records),
+                              key=lambda record: -record["public"])
         if not self.records:
             source.fault(None, "the calendar has no rules")
+
+    def named_days(self, months):
+        """Returns the rules of a calendar that names every day of the year: events, no holidays."""
+        if not months:
+            return []
+        if list(months) != MONTHS:
+            self.source.fault("January", "'days' has a list of names for each month, from January on")
+        data = self.source.data
+        if "from" not in data or "source" not in data:
+            self.source.fault(None, "a calendar with 'days' needs a 'from' and a 'source'")
+        rules = []
+        for month, names in enumerate(months.values(), 1):
+            key = MONTHS[month - 1]
+            if not isinstance(names, list) or len(names) != LONGEST[month - 1] or not all(map(is_text, names)):
+                self.source.fault(key, f"{key} needs {LONGEST[month - 1]} names")
+            rules += [([{"public": 0, "name": name, "type": 0, "month": month, "day": day,
+                         "ymdFrom": packed(data["from"]), "ymdTo": ALWAYS_TO}], data["source"])
+                      for day, name in enumerate(names, 1)]
+        return rules
+
+    def inherited(self, base, without, since):
+        """Returns the rules of the extended calendar but those left out by their names, cut to the days from 'since' on."""
+        rules = base.rules if base else []
+        for name in without:
+            if not any(records[0]["name"] == name for records, _ in rules):
+                self.source.fault("without", f"the extended calendar has no rule '{name}'")
+        first = packed(since) if since else ALWAYS_FROM
+        kept = []
+        for records, source in rules:
+            cut = [{**record, "ymdFrom": max(record["ymdFrom"], first)} for record in records
+                   if record["ymdTo"] >= first and record["name"] not in without]
+            if cut:
+                kept.append((cut, source))
+        return kept
 
 
 FIELDS = ["type", "public", "month", "day", "weekday", "weeknum", "ymdFrom", "ymdTo", "name"]
@@ -235,9 +308,9 @@ def element(tag, value):
     return f"<{tag}>{text}</{tag}>"
 
 
-def calendar_bytes(calendar):
+def calendar_bytes(calendar, describer):
     """Returns a calendar file, exactly as the program would write it."""
-    lines = ['<?xml version="1.0" encoding="UTF-8"?>', element("info", calendar.info)]
+    lines = ['<?xml version="1.0" encoding="UTF-8"?>', element("info", describer.text(calendar))]
     lines += ["<CalendarParams>", "</CalendarParams>", "<CalendarEvents>", "<dayEvents>"]
     for record in calendar.records:
         lines.append("\t<event>")
@@ -282,13 +355,15 @@ def read_all(paths):
 
 def main(arguments):
     parser = argparse.ArgumentParser(description="Makes the public calendars from their sources.")
+    parser.add_argument("--words", required=True, help="the words of the descriptions")
     parser.add_argument("--calendars", required=True, help="the folder of the calendar files")
     parser.add_argument("--table", required=True, help="the C++ source of the table of first starts")
     parser.add_argument("sources", nargs="+")
     options = parser.parse_args(arguments)
     try:
         calendars = read_all(options.sources)
-        files = {os.path.join(options.calendars, calendar.name + ".xml"): calendar_bytes(calendar)
+        describer = Describer(Source(options.words).data)
+        files = {os.path.join(options.calendars, calendar.name + ".xml"): calendar_bytes(calendar, describer)
                  for calendar in calendars}
         files[options.table] = table_bytes(calendars)
     except (Fault, OSError) as fault:

@@ -11,6 +11,7 @@ import unittest
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools"))
 import make_holidays  # noqa: E402
 
+WORDS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "resources", "texts", "holiday_info.toml")
 HEAD = 'name = "Here"\ninfo = "Laws & <days>"\nfirst_start = ["XX"]\n'
 RULE = '[[rule]]\nname = "Day"\nsource = "law"\n'
 
@@ -25,6 +26,11 @@ KINDS = [
     ('"moved from weekend"\ndate = "25 December"', [6, 12, 25, 0, 0]),
     ('"except Sunday"\ndate = "1 July"', [7, 7, 1, 0, 0]),
 ]
+
+# A name for each day of the year.
+YEAR = 'from = 1970-01-01\nsource = "use"\n[days]\n' + "".join(
+    f"{month} = {[f'{month} {day}' for day in range(1, days + 1)]}\n"
+    for month, days in zip(make_holidays.MONTHS, make_holidays.LONGEST))
 
 # Whole sources, each with the line and the reason of its refusal.
 FAULTS = [
@@ -42,6 +48,11 @@ FAULTS = [
     (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nto = 2000-01-01\nmoved = [2001-05-05]\n', ":10: 'moved' has a"),
     (HEAD + RULE.replace("Day", "x" * 255) + 'kind = "Roman Easter"\ndays = 1\n', ":5: 'name' is longer"),
     ('extends = "YY"\n' + HEAD, ":1: there is no source 'YY.toml'"),
+    (HEAD + RULE.replace("Day", " Day") + 'kind = "Roman Easter"\ndays = 1\n', ":5: 'name' is a text of one line without"),
+    (HEAD + RULE + 'kind = "listed days"\ndates = [2001-05-05, 2000-05-05]\n', ":8: 'dates' has each date once"),
+    (HEAD + RULE + 'kind = "listed days"\ndates = [2001-05-05]\nto = 2001-05-05\n', ":9: a rule of the kind 'listed"),
+    (HEAD + 'from = 1970-01-01\nsource = "use"\n[days]\nMay = ["A"]\n', ":1: 'days' has a list of names for each"),
+    (HEAD + YEAR.replace("'December 31'", "'December 31', 'y'"), ":18: December needs 31 names"),
 ]
 
 
@@ -57,7 +68,7 @@ def made_of(sources):
         os.mkdir(out)
         said = io.StringIO()
         with contextlib.redirect_stderr(said):
-            code = make_holidays.main(["--calendars", out, "--table", os.path.join(out, "table"), *paths])
+            code = make_holidays.main(["--words", WORDS, "--calendars", out, "--table", os.path.join(out, "table"), *paths])
         made = {}
         for name in os.listdir(out):
             with open(os.path.join(out, name), encoding="utf-8", newline="") as file:
@@ -74,7 +85,7 @@ class MakeHolidaysTest(unittest.TestCase):
             for tag, value in [("type", number), ("public", 1), ("month", month), ("day", day), ("weekday", weekday),
                                ("weeknum", weeknum), ("ymdFrom", -39991231), ("ymdTo", 39991231)]:
                 self.assertIn(f"<{tag}>{value}</{tag}>\r\n", made["Here.xml"])
-            self.assertIn("<info>Laws &amp; &lt;days&gt;</info>", made["Here.xml"])
+            self.assertIn("<info>Laws &amp; &lt;days&gt; Day\u00a0: law.</info>", made["Here.xml"])
             self.assertIn('if (locale == u"XX") return u"Here";', made["table"])
 
     def test_faults_are_told_with_their_line_and_nothing_is_made(self):
@@ -82,6 +93,34 @@ class MakeHolidaysTest(unittest.TestCase):
             code, said, made = made_of({"XX": text})
             self.assertEqual((code, made), (1, {}), text)
             self.assertIn("XX.toml" + complaint, said)
+
+    def test_a_calendar_gives_its_rules_what_they_leave_out_and_tells_their_laws(self):
+        day = '[[rule]]\nname = "Day"\nkind = "fixed date"\ndate = "1 May"\n'
+        listed = '[[rule]]\nname = "Once"\nkind = "listed days"\ndates = [1950-06-02, 1951-06-03]\n'
+        event = day.replace("Day", "Eve") + 'public = false\nto = 1999-12-31\nsource = "use"\n'
+        head = HEAD + 'checked = 2026-11-22\nfrom = 1949-05-23\nsource = "law"\n'
+        made = made_of({"XX": head + day + listed + event})[2]["Here.xml"]
+        self.assertIn("<ymdFrom>19490523</ymdFrom>\r\n\t\t<ymdTo>39991231</ymdTo>", made)
+        self.assertIn("<ymdFrom>19510603</ymdFrom>\r\n\t\t<ymdTo>19510603</ymdTo>", made)
+        info = ("Day (depuis le 23 mai 1949)\u00a0: law. Once (du 2 juin 1950 au 3 juin 1951)\u00a0: law. "
+                "Événements non fériés\u00a0: Eve (du 23 mai 1949 au 31 décembre 1999)\u00a0: use. "
+                "Dernière vérification\u00a0: 22 novembre 2026.")
+        self.assertIn(info + "</info>", made)
+
+    def test_a_calendar_takes_the_rules_of_another_but_some_and_from_a_day_on(self):
+        rules = "".join(f'[[rule]]\nname = "{name}"\nkind = "fixed date"\ndate = "1 May"\nto = {to}-12-31\n'
+                        for name, to in [("Old", 1900), ("Left", 2000), ("Kept", 2000)])
+        base = HEAD + 'from = 1802-04-19\nsource = "law"\n' + rules
+        other = 'extends = "XX"\nwithout = ["Left"]\nsince = 1946-03-19\nname = "There"\n'
+        made = made_of({"XX": base, "YY": other})[2]["There.xml"]
+        self.assertEqual(made.count("<event>"), 1)
+        self.assertIn("<ymdFrom>19460319</ymdFrom>\r\n\t\t<ymdTo>20001231</ymdTo>\r\n\t\t<name>Kept</name>", made)
+        self.assertIn("YY.toml:2: the extended", made_of({"XX": base, "YY": other.replace("Left", "Lost")})[1])
+
+    def test_every_day_of_a_year_can_be_named(self):
+        made = made_of({"XX": HEAD + YEAR})[2]["Here.xml"]
+        self.assertEqual(made.count("<public>0</public>"), 366)
+        self.assertTrue("366 jours (depuis le 1er janvier 1970)\u00a0: use.</info>" in made)
 
     def test_no_two_calendars_share_a_name_or_a_locale(self):
         text = HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\n'
