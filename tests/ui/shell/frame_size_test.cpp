@@ -6,7 +6,12 @@
 #include <QToolBar>
 #include <QWindow>
 
+#include <filesystem>
+
+#include "content/rule_dates.h"
+#include "platform/desktop_locale.h"
 #include "tests/content/rule_builder.h"
+#include "tests/support/file_bytes.h"
 #include "tests/ui/shell/frame_fixture.h"
 
 namespace orbisol {
@@ -163,6 +168,42 @@ TEST_F(FrameTest, TheFirstStartShowsTheHolidaysOfTheCountry) {
   EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QString::fromUtf8("Fête du Travail"));
   frame->close();
   EXPECT_EQ(files.files.size(), 1U);  // opening and closing writes no calendar
+}
+
+// The program in a session of each locale, with the calendars that ship.
+TEST_F(FrameTest, TheFirstStartMarksTheNextHolidayOfTheCountryOfTheSession) {
+  constexpr struct {
+    const char* locale;
+    PackedDate next;  // after 26 May 2026
+    const char* name;
+  } kFirstStarts[] = {
+      {"fr_BE.UTF-8", 20260721, "Fête nationale"}, {"fr_CH.UTF-8", 20260801, "Fête nationale"},
+      {"fr_CA.UTF-8", 20260624, "Fête nationale"}, {"de_DE.UTF-8", 20261003, "Jour de l'Unité allemande"},
+      {"en_US.UTF-8", 20260619, "Juneteenth"},     {"pt_BR.UTF-8", 20260907, "Indépendance"},
+      {"C", 20260714, "Fête nationale"},
+  };
+  for (const auto& entry : std::filesystem::directory_iterator(ORBISOL_LEGALS))
+    files.Put(u"/share/Legals/" + entry.path().filename().u16string(), BytesOf(entry.path().string()));
+  for (const auto& row : kFirstStarts) {
+    SCOPED_TRACE(row.locale);
+    const CDesktopLocale locale(row.locale);
+    frame.reset();
+    Content() = CalendarContent();
+    frame = std::make_unique<CCalendarFrame>(
+        FrameServices{store, calendars, publicCalendars, {locale.Language(), locale.Country()}});
+    frame->Open();
+    PackedDate next = 0;
+    for (const DayEvent& rule : Content().dayEvents)
+      if (const PackedDate ymd = NextRuleDate(rule, 20260526); rule.isPublic && ymd != 0)
+        next = next == 0 ? ymd : std::min(next, ymd);
+    EXPECT_EQ(next, row.next);
+    Show(row.next);
+    EXPECT_EQ(frame->StatusText().section(QStringLiteral(" | "), 0, 0), QString::fromUtf8(row.name));
+    const auto& cells = Dialog().Month().Month().cells;
+    EXPECT_TRUE(std::any_of(std::begin(cells), std::end(cells), [&](const DayCell& cell) {
+      return cell.ymd == row.next && (cell.marks & kHolidayMark) != 0;
+    }));
+  }
 }
 
 }  // namespace
