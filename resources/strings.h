@@ -25,6 +25,8 @@ enum TextId : int {
   kTextFirstQuarter = 282,
   kTextFullMoon = 283,
   kTextLastQuarter = 284,
+  kTextPageOfMonth = 288,   // caption of a printed page: the only one, by month and year
+  kTextPageOfMonths = 289,  // page, count, first month and year, last month and year
   kTextWeek = 295,
   kTextColorCaptions = 297,   // one for each color, in the order of ColorTable()
   kTextCenturies = 299,       // ordinals from 1 to 19
@@ -162,6 +164,14 @@ enum TextId : int {
   kTextGoToDate = 5370,  // over one reading, over several, behind a reason before the dates that are offered
   kTextReadingLine = 5371,  // a reading, and how it was understood
   kTextFindDay = 5380,      // no hit, one, many; stopped; too many; none after, none before
+
+  kTextTitleBeforeEra = 5400,    // of a printed page: month, year, year before the era
+  kTextYearsTitle = 5401,        // of months of a year: year; year and year before the era
+  kTextTwoYearsTitle = 5402,     // the same, where two civil years meet
+  kTextRepublicanYears = 5403,   // goes on with one, with two Republican years
+  kTextWeekLabel = 5404,         // title and number of a week: in a column, in a table
+  kTextConcordances = 5405,      // names of the columns: Julian, Republican
+  kTextComplementaryDay = 5406,  // stands for the name of a month
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

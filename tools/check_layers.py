@@ -29,7 +29,8 @@ LAYERS = [
 
 # Geometry in plain integers and what editors accept, on layers that otherwise draw.
 WITHOUT_QT = [
-    "ui/painting/month_layout.", "ui/header/header_layout.", "ui/print/page_layout.", "ui/shell/main_layout.",
+    "ui/painting/month_layout.", "ui/header/header_layout.", "ui/print/concordance.", "ui/print/page_layout.", "ui/print/print_job.",
+    "ui/shell/main_layout.",
     "ui/editors/event_fields.", "ui/editors/joined_rows.", "ui/editors/period_fields.",
 ]
 

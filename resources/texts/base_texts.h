@@ -32,6 +32,8 @@ inline constexpr TextEntry kBaseTexts[] = {
     {kTextFirstQuarter, u"Premier quartier de lune"},
     {kTextFullMoon, u"Pleine lune"},
     {kTextLastQuarter, u"Dernier quartier de lune"},
+    {kTextPageOfMonth, u"Page 1 / 1 (%s %d)"},
+    {kTextPageOfMonths, u"Page %d / %d (Imprimer de %s %d à %s %d)"},
     {kTextWeek, u"s."},
     {kTextColorCaptions,
      u"Couleur du texte d'en-tête|Couleur du fond d'en-tête|Couleur de jour normal|Couleur d'arrière-plan|"
