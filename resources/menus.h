@@ -1,5 +1,5 @@
-// The menus, the tool bar and the keys of the main window, in their order. The window has a table of its own
-// from each command to the function that runs it.
+// The menus, the tool bars and the keys of the main window and of the print frame, in their order. Each
+// window has a table of its own from each command to the function that runs it.
 //
 //   for (const Menu& menu : MainMenu())
 //     for (const MenuItem& item : menu.items) …
@@ -32,5 +32,8 @@ struct ToolItem {
 };
 
 std::span<const ToolItem> MainToolBar();
+
+std::span<const Menu> PrintMenu();
+std::span<const ToolItem> PrintToolBar();
 
 }  // namespace orbisol

@@ -19,6 +19,7 @@ enum TextId : int {
   kTextLongOrdinals = 138,   // from the first to the fourth, and the last
   kTextShortOrdinals = 139,  // the same
   kTextBrokenInstallation = 135,
+  kTextPrintTitle = 278,
   kTextPictureFilter = 279,  // of a file dialog: caption, patterns
   kTextEras = 280,           // of a year before the first
   kTextNewMoon = 281,
@@ -172,6 +173,15 @@ enum TextId : int {
   kTextWeekLabel = 5404,         // title and number of a week: in a column, in a table
   kTextConcordances = 5405,      // names of the columns: Julian, Republican
   kTextComplementaryDay = 5406,  // stands for the name of a month
+  kTextPrintNames = 5450,        // accessible names of the buttons for period and format
+  kTextSpokenPage = 5451,        // page, number of pages
+  kTextPrintZoom = 5452,         // percentage
+  kTextPrintYears = 5453,     // of that dialog: a year before the era; years and pages; wrong order; a button
+  kTextPrintName = 5454,      // of a proposed file: calendar without a name; year before the era; from and to
+  kTextExportPdf = 5455,      // title and filter of the file dialog
+  kTextPrintProgress = 5456,  // pages done, number of pages
+  kTextPrintEnds = 5457,      // pages, target: one and many printed, one and many written; aborted, the same
+  kTextPrintFaults = 5458,    // first page asked for and number of pages; printer; path of a file
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

@@ -19,6 +19,7 @@ constexpr HelpPage kPages[] = {
     {kHelpCalendars, "calendars.html"},
     {kHelpImportHolidays, "import_holidays.html"},
     {kHelpVersions, "versions.html"},
+    {kHelpPrinting, "printing.html"},
     {kHelpFiles, "files.html"},
     {kHelpReform, "reform.html"},
     {kHelpCivilYears, "civil_years.html"},

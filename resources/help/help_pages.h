@@ -28,7 +28,7 @@ enum HelpTopic : int {
   kHelpMoon = 15,
   kHelpKeys = 16,
   kHelpFiles = 17,
-  kHelpPrinting = 100,  // has no page yet
+  kHelpPrinting = 100,
 };
 
 struct HelpPage {

@@ -7,8 +7,31 @@ namespace orbisol {
 
 inline constexpr TextEntry kBaseTexts[] = {
     {kCmdQuit, u"Quitter le programme\nQuitter"},
+    {kCmdPageSetup, u"Choisir le papier, l'orientation et les marges"},
+    {kCmdPrintPages, u"Imprimer les pages"},
+    {kCmdClosePrint, u"Fermer la fenêtre d'impression"},
+    {kCmdPeriodMonth, u"Imprimer un mois"},
+    {kCmdPeriodQuarter1, u"Imprimer le 1er trimestre"},
+    {kCmdPeriodQuarter2, u"Imprimer le 2e trimestre"},
+    {kCmdPeriodQuarter3, u"Imprimer le 3e trimestre"},
+    {kCmdPeriodQuarter4, u"Imprimer le 4e trimestre"},
+    {kCmdPeriodHalf1, u"Imprimer le 1er semestre"},
+    {kCmdPeriodHalf2, u"Imprimer le 2e semestre"},
+    {kCmdPeriodYear, u"Imprimer une année"},
+    {kCmdFormatYear, u"Imprimer les douze mois sur une page"},
+    {kCmdFormatHalf, u"Imprimer six mois par page"},
+    {kCmdFormatQuarter, u"Imprimer trois mois par page"},
+    {kCmdFormatMonth, u"Imprimer un mois par page, une ligne par jour"},
+    {kCmdFormatScreen, u"Imprimer le mois comme il est à l'écran"},
+    {kCmdFormatTable, u"Imprimer un mois par page, une ligne par semaine"},
+    {kCmdPrintHolidays, u"Imprimer les jours fériés"},
+    {kCmdPrintEvents, u"Imprimer les événements"},
+    {kCmdPrintVacations, u"Imprimer les périodes de vacances"},
+    {kCmdPrintMoon, u"Imprimer les phases de la lune"},
     {kTextPrevious, u"Clic=mois précédent\nCtrl+clic=-1 an\nMaj.+clic=-10 ans\nCtrl+Maj.+clic=-100 ans"},
     {kTextNext, u"Clic=mois suivant\nCtrl+clic=+1 an\nMaj.+clic=+10 ans\nCtrl+Maj.+clic=+100 ans"},
+    {kCmdPreviousPage, u"Afficher la page précédente"},
+    {kCmdNextPage, u"Afficher la page suivante"},
     {kTextBrokenInstallation, u"Installation incorrecte - réinstallez le programme."},
     {kTextRuleKinds,
      u"À date fixe|Relatif à Pâques romain|Relatif à Pâques orthodoxe|Jour semaine donné|"
@@ -24,6 +47,7 @@ inline constexpr TextEntry kBaseTexts[] = {
     {kCmdTogglePane, u"Afficher le volet droit\nAfficher le volet droit"},
     {kCmdEditEvents, u"Définir les jours fériés et les événements personnels\nSaisir les événements"},
     {kCmdPreferences, u"Définir les préférences de dates et d'affichage\nPropriétés"},
+    {kTextPrintTitle, u"Orbisol - Imprimer"},
     {kTextPictureFilter,
      u"Toutes les images supportées (*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp)|"
      u"*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp|"},
@@ -54,6 +78,8 @@ inline constexpr TextEntry kBaseTexts[] = {
     {kTextOpenPicture, u"Ouvrir le fichier image"},
     {kTextDatePatterns, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
     {kCmdAbout, u"Afficher la version du programme\nÀ propos"},
+    {kCmdZoomIn, u"Agrandir l'aperçu"},
+    {kCmdZoomOut, u"Réduire l'aperçu"},
 };
 
 }  // namespace orbisol

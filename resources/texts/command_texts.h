@@ -6,6 +6,8 @@
 namespace orbisol {
 
 inline constexpr TextEntry kCommandTexts[] = {
+    {kCmdHelpPrinting, u"Ouvrir l'aide de l'impression"},
+    {kCmdPrintImage, u"Placer une image sur chaque page"},
     {kCmdEditVacations, u"Définir les périodes de vacances\nPériodes de vacances"},
     {kCmdChooseCalendar, u"Ouvrir ou créer un autre calendrier\nAutre calendrier (Ctrl+O)"},
     {kCmdHelpIndex, u"Afficher l'index de l'aide\nIndex de l'aide"},

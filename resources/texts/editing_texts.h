@@ -15,6 +15,15 @@ inline constexpr TextEntry kEditingTexts[] = {
     {kCmdFindPrevious,
      u"Aller au dernier jour, avant celui-ci, dont le texte contient le mot cherché\nPrécédent (Maj+F3)"},
     {kCmdNewCalendar, u"Créer un calendrier\nNouveau calendrier (Ctrl+N)"},
+    {kCmdPrintJulian, u"Imprimer aussi la date du calendrier julien"},
+    {kCmdPrintRepublican, u"Imprimer aussi la date du calendrier républicain"},
+    {kCmdExportPdf, u"Écrire les pages dans un fichier PDF\nExporter en PDF (Ctrl+E)"},
+    {kCmdPrintYears, u"Imprimer ou exporter la même période de plusieurs années"},
+    {kCmdFitPage, u"Montrer la page entière\nPage entière (Ctrl+0)"},
+    {kCmdFitWidth, u"Montrer la page sur toute la largeur\nPleine largeur (Ctrl+2)"},
+    {kCmdActualSize, u"Montrer la page dans la taille du papier"},
+    {kCmdFirstPage, u"Afficher la première page"},
+    {kCmdLastPage, u"Afficher la dernière page"},
     {kTextCalendarChanged,
      u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
      u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"

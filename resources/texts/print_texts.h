@@ -13,6 +13,25 @@ inline constexpr TextEntry kPrintTexts[] = {
     {kTextWeekLabel, u"%s %d |%s %2d"},
     {kTextConcordances, u"Julien|Républicain"},
     {kTextComplementaryDay, u"complémentaire"},
+    {kTextPrintNames, u"Période|Format"},
+    {kTextSpokenPage, u"Aperçu, page %d sur %d"},
+    {kTextPrintZoom, u"%d\u00A0%%"},
+    {kTextPrintYears,
+     u" (%d av. JC)|Années : %s, pages : %s|La première année vient après la dernière.|&Continuer..."},
+    {kTextPrintName, u"Calendrier|%d av. JC|%s à %s"},
+    {kTextExportPdf, u"Exporter en PDF|Documents PDF (*.pdf)"},
+    {kTextPrintProgress, u"Page %d sur %d"},
+    {kTextPrintEnds,
+     u"Une page envoyée à l'imprimante|%d pages envoyées à l'imprimante|Une page écrite dans %s|"
+     u"%d pages écrites dans %s|Impression interrompue\u00A0: les dernières pages manquent|"
+     u"Exportation interrompue\u00A0: aucun fichier n'a été écrit"},
+    {kTextPrintFaults,
+     u"Il n'y a pas de page %d\u00A0: le document a %d page(s). Rien n'a été imprimé.|"
+     u"L'imprimante «\u00A0%s\u00A0» n'a pas accepté les pages.\n\n"
+     u"Vérifiez qu'elle est allumée et prête, puis recommencez, ou exportez les pages en PDF.|"
+     u"Le fichier %s n'a pas pu être écrit.\n\n"
+     u"Vérifiez que vous pouvez écrire dans ce dossier et qu'il reste de la place sur le disque. "
+     u"Si un fichier de ce nom existait, il n'a pas changé."},
 };
 
 }  // namespace orbisol

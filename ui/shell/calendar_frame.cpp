@@ -19,6 +19,7 @@
 #include "platform/activation_token.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
+#include "ui/print/print_frame.h"
 #include "ui/toolkit/elided_label.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
@@ -105,6 +106,8 @@ CCalendarFrame::CCalendarFrame(const FrameServices& services)
   m_dialog->FocusMonth();
 }
 
+CCalendarFrame::~CCalendarFrame() { delete m_print; }
+
 // Reads the settings and puts them in force. At start-up no other function does.
 void CCalendarFrame::TakeSettings() {
   StoredSettings stored = ReadSettings(m_services.store, m_services.calendars, m_services.publicCalendars,
@@ -155,6 +158,7 @@ void CCalendarFrame::StoreLayout() {
   ClosingFrame closing = m_placement->Closing();
   closing.paneShown = m_dialog->IsPaneShown();
   closing.paneWidth = m_dialog->PaneWidth();
+  if (m_print != nullptr) m_print->StoreLayout();
   SaveMainWindowLayout(m_services.store, Display().mainLayout, closing, VirtualScreen());
 }
 
@@ -165,8 +169,40 @@ void CCalendarFrame::KeepForNextSession() {
 }
 
 void CCalendarFrame::closeEvent(QCloseEvent* event) {
+  m_isClosed = true;
+  if (m_print != nullptr) m_print->close();
   StoreLayout();
   QMainWindow::closeEvent(event);
+}
+
+void CCalendarFrame::OpenPrintFrame() {
+  if (m_print != nullptr) {
+    m_print->Raise();
+    return;
+  }
+  m_print = new CPrintFrame(m_services.store, Selected().year, Selected().month);
+  connect(m_print, &CPrintFrame::closed, this, &CCalendarFrame::PrintFrameClosed);
+  connect(this, &CCalendarFrame::calendarShown, m_print, &CPrintFrame::CalendarChanged);
+  m_print->Open();
+}
+
+// Takes the place of the print frame. What was left unsaved is saved when that window is gone.
+void CCalendarFrame::PrintFrameClosed() {
+  m_print = nullptr;
+  if (m_isClosed) return;
+  Raise();
+  m_dialog->FocusMonth();
+  if (Display().changed)
+    QMetaObject::invokeMethod(this, &CCalendarFrame::SaveIfChanged, Qt::QueuedConnection);
+}
+
+void CCalendarFrame::SaveIfChanged() {
+  if (m_isClosed || !Display().changed) return;
+  SavedFromWindow saved =
+      SaveCalendarFromWindow(this, {m_services.store, m_services.calendars}, Display(), Rules(), Content());
+  if (saved.end != SaveEnd::kReloaded) return;
+  PutInForce(std::move(*saved.reloaded));
+  CalendarChanged();
 }
 
 void CCalendarFrame::Raise(const std::string& token) {

@@ -24,6 +24,7 @@
 namespace orbisol {
 
 class CElidedLabel;
+class CPrintFrame;
 
 struct FrameServices {
   SettingsStore& store;
@@ -41,6 +42,7 @@ class CCalendarFrame : public QMainWindow {
  public:
   // Reads the settings and builds the window. The objects in `services` outlive the frame.
   explicit CCalendarFrame(const FrameServices& services);
+  ~CCalendarFrame() override;
 
   // Shows the window where it was last closed, or in the middle of the screen at the first start.
   void Open();
@@ -49,7 +51,8 @@ class CCalendarFrame : public QMainWindow {
   // gave to that start, so that the window may take the focus; empty where it gave none.
   void Raise(const std::string& token = {});
 
-  // Keeps what is not saved in any window, without a question, and stores where the window stands.
+  // Keeps what is not saved in any window, without a question, and stores where this window and its print
+  // frame stand.
   void KeepForNextSession();
 
   void RunCommand(CommandId command);
@@ -60,6 +63,11 @@ class CCalendarFrame : public QMainWindow {
 
   // Selects and shows a day that was named, a leap in the history of dates.
   void GoTo(PackedDate date);
+
+  // Opens the print frame with the selected month, or brings the open one to the front.
+  void OpenPrintFrame();
+  // Returns the open print frame; null for none.
+  CPrintFrame* PrintFrame() const { return m_print; }
 
   CMainDlg& Dialog() { return *m_dialog; }
   const FrameServices& Services() const { return m_services; }
@@ -97,6 +105,8 @@ class CCalendarFrame : public QMainWindow {
   void OnQuit();
 
   void StoreLayout();
+  void PrintFrameClosed();
+  void SaveIfChanged();
   void TakeSettings();
   void UpdateTitle();
   void UpdateCommands();
@@ -107,6 +117,8 @@ class CCalendarFrame : public QMainWindow {
   QToolBar* m_toolBar;
   CElidedLabel* m_description;
   CMainDlg* m_dialog;
+  CPrintFrame* m_print = nullptr;  // the open print frame; null for none
+  bool m_isClosed = false;
   bool m_isFirst = false;  // whether no place of the window was ever stored
 };
 

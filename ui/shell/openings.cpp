@@ -28,6 +28,7 @@ void ChooseCalendar(const OpeningRequest& request) { OpenCalendars(request.frame
 void MakeCalendar(const OpeningRequest& request) { OpenCalendars(request.frame, CalendarTask::kCreate); }
 void OpenHelpContents(const OpeningRequest&) { ShowHelpContents(); }
 void OpenHelpIndex(const OpeningRequest&) { ShowHelpIndex(); }
+void OpenPrint(const OpeningRequest& request) { request.frame.OpenPrintFrame(); }
 void OpenAbout(const OpeningRequest& request) { CAboutBox(&request.frame).exec(); }
 
 EditorServices ServicesOf(const CCalendarFrame& frame) {
@@ -79,7 +80,7 @@ void FindPrevious(const OpeningRequest& request) { FindDialogOf(request.frame).F
 constexpr Opening kOpenings[] = {
     {kCmdChooseCalendar, ChooseCalendar},
     {kCmdNewCalendar, MakeCalendar},
-    {kCmdPrint, nullptr},
+    {kCmdPrint, OpenPrint},
     {kCmdEditEvents, OpenEvents},
     {kCmdEditVacations, OpenVacations},
     {kCmdPreferences, nullptr},

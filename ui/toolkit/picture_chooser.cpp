@@ -44,6 +44,22 @@ QString PictureFilter(std::u16string_view entry) {
   return QStringLiteral("%1 (%2)").arg(ToQString(Piece(entry, u'|', 0)), patterns.join(QLatin1Char(' ')));
 }
 
+QString AskPicture(QWidget* parent, const QString& current) {
+  const QFileInfo file(current);
+  const bool isThere = !current.isEmpty() && file.dir().exists();
+  QFileDialog dialog(
+      parent, TableText(kTextOpenPicture),
+      isThere ? file.absolutePath() : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+      PictureFilter(StringText(kTextPictureFilter)));
+  // The desktop's own dialog would be in the session's language.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (isThere) dialog.selectFile(file.fileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().front();
+}
+
 CPictureChooser::CPictureChooser(QWidget* parent)
     : QWidget(parent),
       m_edit(new QLineEdit),
@@ -102,19 +118,8 @@ void CPictureChooser::ShowPicture() {
 }
 
 void CPictureChooser::Browse() {
-  const QFileInfo current(m_path);
-  const bool isThere = !m_path.isEmpty() && current.dir().exists();
-  QFileDialog dialog(
-      this, TableText(kTextOpenPicture),
-      isThere ? current.absolutePath() : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
-      PictureFilter(StringText(kTextPictureFilter)));
-  // The desktop's own dialog would be in the session's language.
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  if (isThere) dialog.selectFile(current.fileName());
-  if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-    Take(dialog.selectedFiles().front());
+  const QString path = AskPicture(this, m_path);
+  if (!path.isEmpty()) Take(path);
 }
 
 }  // namespace orbisol

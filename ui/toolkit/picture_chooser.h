@@ -22,6 +22,10 @@ namespace orbisol {
 // one without its dot ("*png") is read with it.
 QString PictureFilter(std::u16string_view entry);
 
+// Opens the file dialog at `current`, or in the user's folder of pictures where that is empty or its folder
+// gone. Returns the path chosen; empty for none. The file may be anything.
+QString AskPicture(QWidget* parent, const QString& current = {});
+
 class CPictureChooser : public QWidget {
   Q_OBJECT
 

@@ -20,8 +20,10 @@ CCommandTable::CCommandTable(QObject* owner, std::function<void(CommandId)> run)
 QAction* CCommandTable::Make(const MenuItem& item) {
   auto* const action = new QAction(ToQString(item.text), this);
   const std::u16string_view texts = StringText(item.command);
-  action->setStatusTip(ToQString(Piece(texts, u'\n', 0)));
-  action->setToolTip(ToQString(Piece(texts, u'\n', 1)));
+  const std::u16string_view status = Piece(texts, u'\n', 0);
+  const std::u16string_view tip = Piece(texts, u'\n', 1);
+  action->setStatusTip(ToQString(status));
+  action->setToolTip(ToQString(tip.empty() ? status : tip));
   if (!item.shortcut.empty())
     action->setShortcut(QKeySequence(ToQString(item.shortcut), QKeySequence::PortableText));
   action->setCheckable(item.isChecked);

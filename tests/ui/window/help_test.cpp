@@ -68,7 +68,8 @@ TEST(HelpTextTest, TopicsHavePagesWhoseLinksResolve) {
 QString FrenchKey(std::u16string_view key) {
   QString text = ToQString(key);
   constexpr std::pair<const char*, const char*> kWords[] = {
-      {"Left", "Gauche"}, {"Right", "Droite"}, {"Home", "Début"}, {"Shift", "Maj"}, {"Space", "Espace"}};
+      {"Left", "Gauche"},  {"Right", "Droite"},    {"Home", "Début"},        {"Shift", "Maj"},
+      {"Space", "Espace"}, {"PgUp", "Page préc."}, {"PgDown", "Page suiv."}, {"End", "Fin"}};
   for (const auto& [english, french] : kWords)
     text.replace(QLatin1String(english), QString::fromUtf8(french));
   return text;
@@ -77,15 +78,17 @@ QString FrenchKey(std::u16string_view key) {
 TEST(HelpTextTest, EveryKeyOfTheMenusIsInTheTableOfKeys) {
   const QString page = HelpPageText(QStringLiteral("keys.html"));
   int keys = 0;
-  for (const Menu& menu : MainMenu()) {
-    for (const MenuItem& item : menu.items) {
-      if (item.shortcut.empty()) continue;
-      QString command = ToQString(item.text);
-      command.remove(QLatin1Char('&')).remove(QLatin1String("..."));
-      const QString row =
-          QStringLiteral("<tr><td>%1</td><td>%2</td></tr>").arg(FrenchKey(item.shortcut), command);
-      EXPECT_TRUE(page.contains(row)) << qPrintable(row);
-      ++keys;
+  for (const std::span<const Menu> menus : {MainMenu(), PrintMenu()}) {
+    for (const Menu& menu : menus) {
+      for (const MenuItem& item : menu.items) {
+        if (item.shortcut.empty()) continue;
+        QString command = ToQString(item.text);
+        command.remove(QLatin1Char('&')).remove(QLatin1String("..."));
+        const QString row =
+            QStringLiteral("<tr><td>%1</td><td>%2</td></tr>").arg(FrenchKey(item.shortcut), command);
+        EXPECT_TRUE(page.contains(row)) << qPrintable(row);
+        ++keys;
+      }
     }
   }
   EXPECT_GT(keys, 5);
