@@ -1,0 +1,206 @@
+// Jobs of the print frame: what its dialogs propose, where pages go, and what is said when they do not get
+// there.
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintEngine>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStatusBar>
+
+#include "tests/ui/print/frame_fixture.h"
+#include "ui/print/print_years_dlg.h"
+
+namespace orbisol {
+namespace {
+
+TEST_F(PrintFrameTest, NamesOfFilesSayWhatIsInThem) {
+  const struct {
+    int year, lastYear;
+    CommandId period;
+    const char16_t* calendar;
+    const char* name;
+  } kNames[] = {
+      {2024, 2024, kCmdPeriodMonth, u"Calendar", "Calendrier mai 2024"},
+      {2024, 2024, kCmdPeriodYear, u"Famille", "Famille 2024"},
+      {2024, 2024, kCmdPeriodQuarter2, u"", "Calendrier avril à juin 2024"},
+      {-44, -44, kCmdPeriodMonth, u"", "Calendrier mai 45 av. JC"},
+      {1900, 1999, kCmdPeriodYear, u"", "Calendrier 1900 à 1999"},
+  };
+  for (const auto& row : kNames) {
+    PrintJob job(row.year, 5);
+    job.ChoosePeriod(row.period);
+    EXPECT_EQ(ProposedName(job.WithYears(row.year, row.lastYear), row.calendar), QString::fromUtf8(row.name));
+  }
+}
+
+TEST_F(PrintFrameTest, ExportWritesTheProposedFileAndSaysSo) {
+  Choose(kCmdPeriodQuarter2);
+  QString path;
+  ChooseAndAnswer<QFileDialog>(kCmdExportPdf, [&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Exporter en PDF"));
+    path = dialog.selectedFiles().at(0);
+    static_cast<QDialog&>(dialog).accept();
+  });
+  EXPECT_TRUE(path.endsWith(QString::fromUtf8("/Calendrier avril à juin 2024.pdf"))) << qPrintable(path);
+  EXPECT_EQ(PagesIn(path), 3);
+  EXPECT_EQ(frame->statusBar()->currentMessage(), QString::fromUtf8("3 pages écrites dans ") + path);
+  EXPECT_TRUE(messages.shown.isEmpty());
+}
+
+TEST_F(PrintFrameTest, ThePrintDialogWritesAFileTooAndPrintsARangeOfPages) {
+  Choose(kCmdPeriodYear);
+  const QString path = PathOf("range.pdf");
+  ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, [&](QPrintDialog& dialog) {
+    EXPECT_EQ(dialog.minPage(), 1);
+    EXPECT_EQ(dialog.maxPage(), 12);
+    auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    EXPECT_TRUE(file->text().endsWith(QLatin1String("/Calendrier 2024.pdf"))) << qPrintable(file->text());
+    file->setText(path);
+    dialog.findChild<QRadioButton*>(QStringLiteral("printRange"))->click();
+    dialog.findChild<QSpinBox*>(QStringLiteral("from"))->setValue(3);
+    dialog.findChild<QSpinBox*>(QStringLiteral("to"))->setValue(4);
+    dialog.accept();
+  });
+  EXPECT_EQ(PagesIn(path), 2);
+  EXPECT_EQ(frame->Job().currentPage, 0);
+}
+
+TEST_F(PrintFrameTest, WhatCannotBeWrittenIsSaidAndLeavesNoFile) {
+  const CPagePainter pages(frame->Job(), {Content(), Display(), Rules(), {}, {}, frame->font()});
+  const QString missing = PathOf("no/such/folder/a.pdf");
+  frame->Output().WriteTo(missing, pages, frame->Paper(), AllPages(frame->Job()));
+  ASSERT_EQ(messages.errors.size(), 1U);
+  EXPECT_TRUE(messages.errors[0].startsWith(QStringLiteral("Le fichier %1 n'a pas pu").arg(missing)));
+  const QString path = PathOf("beyond.pdf");
+  frame->Output().WriteTo(path, pages, frame->Paper(), {6, 8});
+  ASSERT_EQ(messages.errors.size(), 2U);
+  EXPECT_TRUE(messages.errors[1].contains(QLatin1String("page 7"))) << qPrintable(messages.errors[1]);
+  EXPECT_FALSE(QFile::exists(path));
+}
+
+// A printer that takes no page. The toolkit knows none on a machine without printers but those that write a
+// file.
+class CBrokenPrinter : public QPrinter {
+ public:
+  CBrokenPrinter() { setEngines(&m_engine, nullptr); }
+
+ private:
+  struct Engine : QPrintEngine {
+    void setProperty(PrintEnginePropertyKey, const QVariant&) override {}
+    QVariant property(PrintEnginePropertyKey key) const override {
+      if (key == PPK_QPageLayout) return QVariant::fromValue(QPageLayout());
+      if (key == PPK_OutputFileName) return QStringLiteral("/no/such/folder/of/a/spooler");
+      return key == PPK_PrinterName ? QVariant(QStringLiteral("Laser")) : QVariant(kPrintResolution);
+    }
+    bool newPage() override { return false; }
+    bool abort() override { return true; }
+    int metric(QPaintDevice::PaintDeviceMetric) const override { return 1000; }
+    QPrinter::PrinterState printerState() const override { return QPrinter::Error; }
+  };
+  Engine m_engine;
+};
+
+TEST_F(PrintFrameTest, APrinterThatTakesNoPagesIsNamed) {
+  CBrokenPrinter printer;
+  const CPagePainter pages(frame->Job(), {Content(), Display(), Rules(), {}, {}, frame->font()});
+  frame->Output().PrintOn(printer, pages, AllPages(frame->Job()));
+  ASSERT_EQ(messages.errors.size(), 1U);
+  EXPECT_TRUE(messages.errors[0].contains(QLatin1String("Laser"))) << qPrintable(messages.errors[0]);
+}
+
+class LongJobTest : public PrintFrameTest {
+ protected:
+  LongJobTest() {
+    Choose(kCmdPeriodYear);
+    Choose(kCmdFormatMonth);
+    QFile before(path);
+    EXPECT_TRUE(before.open(QIODevice::WriteOnly) && before.write("before") == 6);
+  }
+
+  // Exports many years, more than a computer prints until `act` is called with the progress that is shown.
+  void ExportCentury(const std::function<void(QProgressDialog&)>& act) {
+    QTimer look;
+    look.callOnTimeout([&] {
+      auto* const progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+      if (progress == nullptr || progress->value() < 1) return;
+      look.stop();
+      act(*progress);
+    });
+    look.start(1);
+    ChooseAndAnswer<CPrintYearsDlg>(kCmdPrintYears, [&](CPrintYearsDlg& dialog) {
+      const QList<QSpinBox*> years = dialog.findChildren<QSpinBox*>();
+      years.at(0)->setValue(-3999);
+      years.at(1)->setValue(3999);
+      QTimer::singleShot(0, qApp, [&] {
+        auto* const files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(files, nullptr);
+        files->setOption(QFileDialog::DontConfirmOverwrite);
+        files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+        static_cast<QDialog*>(files)->accept();
+      });
+      dialog.accept();
+    });
+    EXPECT_FALSE(look.isActive());
+  }
+  QByteArray Bytes() const {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  const QString path = PathOf("century.pdf");
+};
+
+TEST_F(LongJobTest, ACancelledJobLeavesTheFileThatWasThere) {
+  ExportCentury([&](QProgressDialog& progress) {
+    EXPECT_EQ(progress.maximum(), 7999 * 12);
+    EXPECT_EQ(progress.labelText(), QStringLiteral("Page %1 sur 95988").arg(progress.value()));
+    Choose(kCmdPeriodMonth);
+    EXPECT_TRUE(frame->Job().IsChecked(kCmdPeriodYear)) << "one job at a time";
+    progress.cancel();
+  });
+  EXPECT_EQ(Bytes(), "before");
+  EXPECT_TRUE(frame->statusBar()->currentMessage().startsWith(QLatin1String("Exportation interrompue")));
+  EXPECT_EQ(frame->Job().PageCount(), 12) << "the preview keeps its year";
+  EXPECT_TRUE(messages.shown.isEmpty());
+}
+
+TEST_F(LongJobTest, ClosingTheFrameEndsItsJobInSilence) {
+  ExportCentury([&](QProgressDialog&) { frame->close(); });
+  EXPECT_EQ(Bytes(), "before");
+  EXPECT_TRUE(messages.shown.isEmpty());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(frame.isNull());
+}
+
+TEST_F(PrintFrameTest, ClosingTheFrameClosesItsDialogs) {
+  ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, [&](QPrintDialog&) { frame->close(); });
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(frame.isNull());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(PrintFrameTest, YearsAreCountedAndMustBeInOrder) {
+  PrintJob job(-44, 5);
+  job.ChoosePeriod(kCmdPeriodHalf1);
+  CPrintYearsDlg dialog(job);
+  const QList<QSpinBox*> years = dialog.findChildren<QSpinBox*>();
+  const auto* const pages = dialog.findChild<QLabel*>(QStringLiteral("pages"));
+  const auto* const go = dialog.findChild<QPushButton*>(QString(), Qt::FindChildrenRecursively);
+  EXPECT_EQ(years.at(0)->text(), QStringLiteral("-44 (45 av. JC)"));
+  EXPECT_EQ(pages->text(), QString::fromUtf8("Années : 10, pages : 60"));
+  years.at(1)->setValue(3955);
+  EXPECT_EQ(pages->text(), QString::fromUtf8("Années : 4 000, pages : 24 000"));
+  EXPECT_TRUE(go->isEnabled());
+  years.at(1)->setValue(-45);
+  EXPECT_FALSE(go->isEnabled());
+  EXPECT_EQ(years.at(1)->accessibleDescription(), pages->text());
+}
+
+}  // namespace
+}  // namespace orbisol
