@@ -18,6 +18,7 @@ namespace {
 constexpr void (*kRegister[])() = {
     RegisterEditors,
     RegisterMonthView,
+    RegisterPrintFrame,
 };
 
 void LoadFrance() {

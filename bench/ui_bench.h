@@ -3,7 +3,8 @@
 
 namespace orbisol {
 
-void RegisterEditors();    // the list of 5,000 events: open, filter, sort
-void RegisterMonthView();  // repaints, the next month, moving the selection, beside QCalendarWidget
+void RegisterEditors();     // the list of 5,000 events: open, filter, sort
+void RegisterMonthView();   // repaints, the next month, moving the selection, beside QCalendarWidget
+void RegisterPrintFrame();  // opening it, with its first page
 
 }  // namespace orbisol

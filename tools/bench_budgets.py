@@ -53,6 +53,8 @@ BUDGETS = [
      lambda t: ratio(t, ["NextMonth_Orbisol"], ["NextMonth_QCalendarWidget"]), 0.4, ""),
     ("B11", "moving the selection, beside a whole repaint",
      lambda t: ratio(t, ["Selection_Orbisol"], ["Selection_WholeRepaint"]), 0.17, ""),
+    ("B13", "opening the print frame with its first page, beside a repaint of QCalendarWidget at 1920x1080",
+     lambda t: ratio(t, ["PrintFrame_Open"], ["Repaint1920x1080_QCalendarWidget"]), 3, ""),
     *[("B16", f"list of 5,000 events: {what}", lambda t, name=name: scaled(t, name, 1e-6), 100, "ms")
       for what, name in (("open", "EventList_Open"), ("filter", "EventList_Filter"), ("sort", "EventList_Sort"))],
     ("B15", "a word in all years of the days of France", lambda t: scaled(t, "SearchAllYears", 1e-9), 1, "s"),

@@ -28,6 +28,7 @@ constexpr struct {
     {"fields", TakeFields},
     {"find", TakeFind},
     {"calendars", TakeCalendars},
+    {"print_frame", TakePrintFrame},
     {"help", TakeHelp},
     {"editors", TakeEditors},
 };
