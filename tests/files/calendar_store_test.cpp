@@ -93,6 +93,7 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   const SavedCalendar beside = store.Save(u"A", CalendarWith(u"ours"), IfChanged::kKeepBoth);
   EXPECT_EQ(beside.result, WriteResult::kWritten);
   EXPECT_EQ(beside.name, u"A (2)");
+  EXPECT_EQ(files.lastModel, kPath) << "it takes the rights of the calendar beside which it is made";
   EXPECT_EQ(Bytes(kPath), BytesWith(u"theirs"));
   EXPECT_EQ(store.Save(beside.name, CalendarWith(u"next"), IfChanged::kRefuse).result, WriteResult::kWritten);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);

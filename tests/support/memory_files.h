@@ -33,6 +33,7 @@ class CMemoryFiles : public FileSystem {
   std::set<std::u16string> failingWrites;  // paths that cannot be written; also folders
   std::function<void()> beforeLock;        // act of another copy of the program, before the lock; called once
   std::function<void()> beforeReplace;     // act of another program, at the last moment; called once
+  std::u16string lastModel;                // path of the file whose rights the file last written was to take
   bool trashFails = false;
   bool syncFails = false;  // whether the sync fails once the new bytes are in place
 
@@ -78,8 +79,9 @@ class CMemoryFiles : public FileSystem {
   }
 
   WriteResult Replace(std::u16string_view path, std::string_view bytes, const FileStamp* expected,
-                      FileStamp* stamp, std::u16string_view /*model*/) override {
+                      FileStamp* stamp, std::u16string_view model) override {
     if (beforeReplace) std::exchange(beforeReplace, nullptr)();
+    lastModel = model;
     const std::u16string key(path);
     if (failingWrites.count(key) > 0) return WriteResult::kFailed;
     const auto found = files.find(key);

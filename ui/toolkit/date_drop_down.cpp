@@ -79,7 +79,9 @@ CDateDropDown::CDateDropDown(QWidget* field)
   m_table->installEventFilter(this);
   connect(m_table, &QTableWidget::cellClicked, this, [this](int row, int column) {
     const int cell = CellAt(row, column);
-    if (cell <= m_month.LastCell()) Choose(m_month.cells[static_cast<std::size_t>(cell)].ymd);
+    if (cell > m_month.LastCell()) return;
+    const DayCell& day = m_month.cells[static_cast<std::size_t>(cell)];
+    if (day.day != 0) Choose(day.ymd);
   });
 
   auto* const today = new QPushButton(TableText(kTextToday));

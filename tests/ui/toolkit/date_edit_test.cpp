@@ -1,6 +1,7 @@
 #include "ui/toolkit/date_edit.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
@@ -8,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -208,6 +210,18 @@ TEST_F(DateEditTest, TheDropDownShowsTheMonthAsItWas) {
   press(Qt::Key_PageUp);
   press(Qt::Key_Escape);
   EXPECT_FALSE(choice->isVisible());
+
+  edit.SetDate(-39990101);
+  edit.OpenDropDown();
+  ASSERT_EQ(table->item(0, 0)->text(), QString());
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(0, 0)).center());
+  EXPECT_EQ(edit.Date(), -39990101) << "no day lies there";
+  EXPECT_TRUE(choice->isVisible());
+  const auto buttons = choice->findChildren<QPushButton*>();
+  EXPECT_EQ(std::count_if(buttons.begin(), buttons.end(), [](auto* button) { return button->isVisible(); }),
+            1)
+      << "a field that needs a date";
+  press(Qt::Key_Escape);
 
   edit.SetDate(20240515);
   const QRect screen = window.screen()->availableGeometry();
