@@ -301,14 +301,6 @@ TEST_F(MonthWindowTest, TipsNameTheDayItsTextsAndItsMoon) {
     QApplication::sendEvent(window.get(), &help);
     EXPECT_EQ(help.isAccepted() ? QToolTip::text() : QString(), TipMarkup(QString::fromUtf8(tip)));
   }
-  const auto askAt = [&](QPoint at) {
-    QHelpEvent help(QEvent::ToolTip, at, window->mapToGlobal(at));
-    QApplication::sendEvent(window.get(), &help);
-  };
-  askAt(At(5, 2));
-  EXPECT_TRUE(QToolTip::isVisible());
-  askAt(QPoint(50, 30));
-  QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 TEST_F(MonthWindowTest, IsSharpOnAScreenOfAnotherRatioAndPaintableInAnySize) {

@@ -233,6 +233,12 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
       page.PaintOn(canvas, QRegion(dirty(12)) + dirty(20));
       EXPECT_EQ(canvas, page.Paint());
       for (int y = 0; y < canvas.height(); ++y) EXPECT_TRUE(Widths(canvas, kMagenta, y, false).empty());
+      // A window may be asked for any part, also for one that ends inside a device pixel.
+      const QRect part(31, 23, 26, 31);
+      canvas.fill(ToQColor(kMagenta));
+      page.PaintOn(canvas, part);
+      const QRect pixels = QRectF(part.topLeft() * ratio, QSizeF(part.size()) * ratio).toAlignedRect();
+      EXPECT_EQ(canvas.copy(pixels), page.Paint().copy(pixels));
     }
 }
 
@@ -310,6 +316,21 @@ TEST(MonthPainterTest, TodayIsTintedAndUnderlinedOnScreenInItsOwnMonth) {
   const QImage paper = page.Paint();
   page.marks.today = 0;
   EXPECT_EQ(page.Paint(), paper);
+}
+
+TEST(MonthPainterTest, TitleOfTheWeekNumbersHasAFontOfItsOwn) {
+  Page page;
+  page.width = 2000;
+  page.height = 500;
+  page.settings.showWeekNumber = true;
+  const MonthFonts fonts = MakeMonthFonts(page.Layout(), page.settings, QFont());
+  ASSERT_LT(fonts.weekTitle.pixelSize(), fonts.names.pixelSize());
+  const QImage title = page.Paint().copy(ToQRect(page.Layout().WeekHeaderRect()));
+  int rows = 0;
+  for (int y = 0; y < title.height(); ++y)
+    rows += !Widths(title, page.settings.ColorAt(kHeaderTextColor), y, false).empty();
+  EXPECT_GT(rows, 0);
+  EXPECT_LE(rows, QFontMetrics(fonts.weekTitle).xHeight() + 1);
 }
 
 TEST(MonthPainterTest, HeaderOfSundayFirstWeeksIsThatOfMondayFirstOnesMovedOn) {
