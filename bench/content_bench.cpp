@@ -11,6 +11,7 @@
 #include "content/content_search.h"
 #include "content/import_holidays.h"
 #include "content/month_model.h"
+#include "content/rule_dates.h"
 #include "core/date_reader.h"
 #include "files/calendar_file.h"
 
@@ -145,6 +146,25 @@ void SearchAllYears(benchmark::State& state) {
   }
 }
 BENCHMARK(SearchAllYears)->Unit(benchmark::kMillisecond);
+
+// Dates a rule of each kind in all years. One item is one rule in one year.
+void RuleDatesOfAYear(benchmark::State& state) {
+  DayEvent rules[8];
+  for (int kind = 0; kind < 8; ++kind)
+    rules[kind] = {DayEventType{kind}, true, 5, 8, 1, 1, kAlwaysFrom, kAlwaysTo, u"x"};
+  std::vector<PackedDate> days;
+  std::int64_t items = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    for (int year = -3999; year <= 3999; ++year) {
+      days.clear();
+      for (const DayEvent& rule : rules) AppendRuleDates(rule, year, days);
+      benchmark::DoNotOptimize(days.data());
+      items += 8;
+    }
+  }
+  state.SetItemsProcessed(items);
+}
+BENCHMARK(RuleDatesOfAYear)->Unit(benchmark::kMillisecond);
 
 // Reads typed dates of all forms, and says how the best reading was understood. One item is one text.
 void ReadTypedDates(benchmark::State& state) {

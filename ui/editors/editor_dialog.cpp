@@ -290,7 +290,6 @@ bool CEditorDialog::Save() {
   SavedFromWindow saved = SaveCalendarFromWindow(this, m_services.places, Display(), Rules(), content);
   if (saved.end == SaveEnd::kSaved) {
     Content() = content;
-    m_undo.setClean();
     return true;
   }
   if (saved.end == SaveEnd::kReloaded) {

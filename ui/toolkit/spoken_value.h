@@ -1,9 +1,9 @@
-// Drop-down lists whose value a screen reader says, on entering them and whenever it changes.
+// Drop-down lists whose value a screen reader says when they are entered.
 //
-//   SpeakValue(*form.month);  // "Mois : janvier"; with an accessible name, else the value alone
+//   SpeakValue(*form.month);  // "Mois : janvier"; without an accessible name the value alone
 //
-// On Linux the toolkit gives the value as the name of a list. Readers say a label in its place, so that the
-// value of a list with a label would never be heard, nor any change. A description is said in both cases.
+// On Linux the toolkit gives the value as the name of a list. Readers say a label in its place, and would
+// leave the value of a list with a label out; a description they say as well.
 #pragma once
 
 class QComboBox;

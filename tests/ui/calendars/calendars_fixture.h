@@ -1,48 +1,21 @@
 // Calendars, a settings key and what is in force, all in memory, with the answers of a user.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "tests/support/calendar_builder.h"
-#include "tests/support/fakes.h"
+#include "tests/support/dialog_test.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "tests/support/rules.h"
 #include "ui/calendars/calendar_actions.h"
-#include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 
-// Gives one answer after the other, and none when they have run out.
-struct AnsweringMessages : UserMessages {
-  std::vector<int> answers;
-  std::function<void()> whileAsking;
-  QStringList shown;
-  int beeps = 0;
-
-  void ShowError(QWidget*, const QString& text) override { shown.append(text); }
-  int Choose(QWidget*, const QString& text, const QStringList&) override {
-    shown.append(text);
-    if (whileAsking) whileAsking();
-    if (answers.empty()) return -1;
-    const int answer = answers.front();
-    answers.erase(answers.begin());
-    return answer;
-  }
-  void Beep() override { ++beeps; }
-};
-
-class CalendarsTest : public testing::Test {
+class CalendarsTest : public DialogTest {
  protected:
-  CalendarsTest()
-      : m_platform(FakeLocale(), FakeClock({2026, 5, 13})),
-        m_rules(RulesWith(kRomanReform)),
-        m_scope(messages) {
+  CalendarsTest() : DialogTest({2026, 5, 13}) {
     Put(u"Maison", u"mine");
     Put(u"Travail", u"work");
     StoredSettings stored = ReadSettings(store, calendars, {files, kMemoryFolders}, {u"fr", u"FR"}, {});
@@ -95,13 +68,7 @@ class CalendarsTest : public testing::Test {
   CMemoryFiles files;
   CMemoryStore store{"\"CalendarName\"=\"Maison\"\n"};
   CCalendarStore calendars{files, kMemoryFolders};
-  AnsweringMessages messages;
   CCalendarActions actions{{store, calendars}, {Display(), Rules(), Content()}, nullptr};
-
- private:
-  ScopedPlatform m_platform;
-  ScopedRules m_rules;
-  ScopedMessages m_scope;
 };
 
 }  // namespace orbisol

@@ -12,8 +12,6 @@
 #include <QTest>
 #include <QToolButton>
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <utility>
 
@@ -21,11 +19,9 @@
 #include "content/selected_date.h"
 #include "settings/display_settings.h"
 #include "tests/support/calendar_builder.h"
-#include "tests/support/fakes.h"
+#include "tests/support/dialog_test.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
-#include "tests/support/rules.h"
-#include "tests/support/spy_messages.h"
 #include "ui/editors/events_dialog.h"
 #include "ui/editors/row_list.h"
 #include "ui/editors/vacations_dialog.h"
@@ -35,12 +31,9 @@
 namespace orbisol {
 namespace {
 
-class EditorTest : public testing::Test {
+class EditorTest : public DialogTest {
  protected:
-  EditorTest()
-      : m_platform(FakeLocale(), FakeClock({2024, 5, 15})),
-        m_rules(RulesWith(kRomanReform)),
-        m_messages(messages) {
+  EditorTest() : DialogTest({2024, 5, 15}) {
     Display() = DisplaySettings();
     Content() = {};
     CalendarFile file;
@@ -105,7 +98,6 @@ class EditorTest : public testing::Test {
     return days;
   }
 
-  SpyMessages messages;
   CMemoryFiles files;
   CCalendarStore calendars{files, kMemoryFolders};
   CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
@@ -122,10 +114,6 @@ class EditorTest : public testing::Test {
     QApplication::processEvents();
     return opened;
   }
-
-  ScopedPlatform m_platform;
-  ScopedRules m_rules;
-  ScopedMessages m_messages;
 };
 
 TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {

@@ -6,13 +6,9 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include <gtest/gtest.h>
-
 #include "tests/support/calendar_builder.h"
-#include "tests/support/fakes.h"
+#include "tests/support/dialog_test.h"
 #include "tests/support/memory_files.h"
-#include "tests/support/rules.h"
-#include "tests/support/spy_messages.h"
 #include "ui/editors/import_holidays_dlg.h"
 
 namespace orbisol {
@@ -24,12 +20,9 @@ DayEvent Yearly(int month, int day, std::u16string_view name, bool isPublic = tr
   return Rule(kFixedDate, {.isPublic = isPublic, .month = month, .day = day, .name = name});
 }
 
-class ImportHolidaysTest : public testing::Test {
+class ImportHolidaysTest : public DialogTest {
  protected:
-  ImportHolidaysTest()
-      : m_platform(FakeLocale(), FakeClock({2026, 5, 13})),
-        m_rules(RulesWith(kRomanReform)),
-        m_scope(messages) {
+  ImportHolidaysTest() : DialogTest({2026, 5, 13}) {
     Put(u"/share/Legals/France.xml", {Yearly(7, 14, u"Fête nationale"), Yearly(1, 1, u"Jour de l'an")},
         u"expédié");
     Put(u"/user/Legals/France.xml", {Yearly(7, 14, u"<b>Fête</b>"), Yearly(1, 1, u"Jour de l'an")},
@@ -71,13 +64,7 @@ class ImportHolidaysTest : public testing::Test {
   }
 
   CMemoryFiles files;
-  SpyMessages messages;
   CalendarContent mine;
-
- private:
-  ScopedPlatform m_platform;
-  ScopedRules m_rules;
-  ScopedMessages m_scope;
 };
 
 TEST_F(ImportHolidaysTest, AFewLettersFindACalendarAndShowItsDaysOfThisYear) {

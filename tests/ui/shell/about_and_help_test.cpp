@@ -6,6 +6,10 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+#include <map>
+#include <set>
+
+#include "resources/help/help_pages.h"
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/window/help.h"
 
@@ -51,6 +55,36 @@ TEST_F(FrameTest, HelpIsOpenedByItsKeyAndCommandsAndDoesNotOutliveTheProgram) {
   frame->RunCommand(kCmdHelpIndex);
   EXPECT_NE(qobject_cast<QLineEdit*>(help()->focusWidget()), nullptr) << "the words are looked for";
   help()->close();
+}
+
+// The second table of the page of keys names the keys that move the date, and no other key does.
+TEST_F(FrameTest, KeysOfTheMonthAreThoseOfTheHelp) {
+  const std::map<QString, int> kNamed = {
+      {QStringLiteral("Gauche"), Qt::Key_Left},       {QStringLiteral("Droite"), Qt::Key_Right},
+      {QStringLiteral("Haut"), Qt::Key_Up},           {QStringLiteral("Bas"), Qt::Key_Down},
+      {QStringLiteral("Page préc."), Qt::Key_PageUp}, {QStringLiteral("Page suiv."), Qt::Key_PageDown},
+      {QStringLiteral("Entrée"), Qt::Key_Return},     {QStringLiteral("Début"), Qt::Key_Home},
+      {QStringLiteral("Fin"), Qt::Key_End},           {QStringLiteral("Retour"), Qt::Key_Backspace},
+      {QStringLiteral("Inser"), Qt::Key_Insert},      {QStringLiteral("Suppr"), Qt::Key_Delete}};
+  std::map<QString, int> keys = kNamed;
+  for (int letter = Qt::Key_A; letter <= Qt::Key_Z; ++letter) keys[QString(QChar(letter))] = letter;
+  for (int digit = Qt::Key_0; digit <= Qt::Key_9; ++digit) keys[QString(QChar(digit))] = digit;
+
+  const QString table = HelpPageText(QStringLiteral("keys.html")).section(QLatin1String("</table>"), 1, 1);
+  const QRegularExpression row(QStringLiteral("<tr><td>(.*?)</td>"));
+  std::set<QString> named, moving;
+  for (auto found = row.globalMatch(table); found.hasNext();) {
+    const QString cell = found.next().captured(1);
+    if (cell.contains(QLatin1String(" avec "))) continue;  // with Ctrl or Maj held
+    for (const QString& key : cell.split(QStringLiteral(", "))) named.insert(key);
+  }
+  Open();
+  for (const auto& [name, key] : keys) {
+    Show(20230310);
+    QTest::keyClick(&Dialog().Month(), static_cast<Qt::Key>(key));
+    if (Now() != 20230310) moving.insert(name);
+  }
+  EXPECT_EQ(named, moving);
 }
 
 }  // namespace
