@@ -151,7 +151,7 @@ BENCHMARK(SearchAllYears)->Unit(benchmark::kMillisecond);
 void RuleDatesOfAYear(benchmark::State& state) {
   DayEvent rules[8];
   for (int kind = 0; kind < 8; ++kind)
-    rules[kind] = {DayEventType{kind}, true, 5, 8, 1, 1, kAlwaysFrom, kAlwaysTo, u"x"};
+    rules[kind] = {DayEventType{kind}, true, 5, 8, 1, 1, kAlwaysFrom, kAlwaysTo, NameText(u"x")};
   std::vector<PackedDate> days;
   std::int64_t items = 0;
   for ([[maybe_unused]] auto _ : state) {

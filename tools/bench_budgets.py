@@ -58,6 +58,7 @@ BUDGETS = [
     *[("B16", f"list of 5,000 events: {what}", lambda t, name=name: scaled(t, name, 1e-6), 100, "ms")
       for what, name in (("open", "EventList_Open"), ("filter", "EventList_Filter"), ("sort", "EventList_Sort"))],
     ("B15", "a word in all years of the days of France", lambda t: scaled(t, "SearchAllYears", 1e-9), 1, "s"),
+    ("-", "dating one rule in one year", lambda t: scaled(t, "RuleDatesOfAYear", 1e-3), 1, "µs"),
     ("B17", "reading one typed date, and saying how", lambda t: scaled(t, "ReadTypedDates", 1e-3), 10, "µs"),
     ("B14", "processor time in 5 s without a user", lambda t: scaled(t, "IdleTime", 1e-6), 0, "ms"),
     ("B14", "wake-ups, likewise", lambda t: scaled(t, "IdleWakeUps", 1), 0, ""),
