@@ -110,9 +110,9 @@ CPrintFrame::CPrintFrame(SettingsStore& store, int year, int month)
     auto* const group = new QActionGroup(this);
     for (const CommandId command : row) group->addAction(m_commands->Action(command));
   }
-  m_commands->Action(kCmdZoomIn)
-      ->setShortcuts(QKeySequence::keyBindings(QKeySequence::ZoomIn) +
-                     m_commands->Action(kCmdZoomIn)->shortcuts());
+  // Keyboards whose plus sign needs the shift key have it on that of "=".
+  QAction& zoomIn = *m_commands->Action(kCmdZoomIn);
+  zoomIn.setShortcuts({zoomIn.shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
   MakeToolBar();
   MakeStatusBar();
   setCentralWidget(m_view);

@@ -140,6 +140,11 @@ TEST_F(PrintFrameTest, ZoomHasStepsAndBoundsAndFitsThePaper) {
   while (IsEnabled(kCmdZoomOut) && ++steps < 50) Choose(kCmdZoomOut);
   EXPECT_EQ(view.Percent(), CPrtView::kLeastPercent);
   EXPECT_LT(steps, 40);
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Minus, Qt::Key_0}) {
+    const int before = view.Percent();
+    QTest::keyClick(frame->windowHandle(), key, Qt::ControlModifier);
+    EXPECT_TRUE(key == Qt::Key_Minus ? view.Percent() < before : view.Percent() > before) << key;
+  }
 }
 
 // The page in the view is the one that is printed, and follows the calendar; year and month stay.
