@@ -1,6 +1,7 @@
 #include "tools/screenshot/pictures.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -25,7 +26,15 @@ void CPictureFolder::Save(QWidget& window, const QString& name, QWidget* popup) 
     painter.end();
     picture = both;
   }
-  const QString path = QStringLiteral("%1/%2@%3.png").arg(m_path, name).arg(ratio, 0, 'g', 3);
+  Write(picture, name);
+}
+
+void CPictureFolder::Save(const QImage& picture, const QString& name) { Write(picture, name); }
+
+template <class Picture>
+void CPictureFolder::Write(const Picture& picture, const QString& name) {
+  const QString path =
+      QStringLiteral("%1/%2@%3.png").arg(m_path, name).arg(picture.devicePixelRatio(), 0, 'g', 3);
   if (picture.save(path)) return;
   ++m_failures;
   std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));

@@ -6,6 +6,7 @@
 
 #include <string>
 
+class QImage;
 class QWidget;
 
 namespace orbisol {
@@ -19,9 +20,15 @@ class CPictureFolder {
   // written is named on the error output and counted.
   void Save(QWidget& window, const QString& name, QWidget* popup = nullptr);
 
+  // Saves a picture that was painted without a window.
+  void Save(const QImage& picture, const QString& name);
+
   int Failures() const { return m_failures; }
 
  private:
+  template <class Picture>
+  void Write(const Picture& picture, const QString& name);
+
   QString m_path;
   int m_failures = 0;
 };
@@ -37,6 +44,7 @@ void TakeEditors(CPictureFolder& folder);  // of events and vacation periods
 void TakeFields(CPictureFolder& folder);   // the fields that dialogs share
 void TakeFind(CPictureFolder& folder);     // going to a date, and searching
 void TakePrintFrame(CPictureFolder& folder);
+void TakePrinting(CPictureFolder& folder);   // printed pages in every format
 void TakeCalendars(CPictureFolder& folder);  // the choice of a calendar, versions, the import
 
 }  // namespace orbisol

@@ -31,6 +31,7 @@ constexpr struct {
     {"print_frame", TakePrintFrame},
     {"help", TakeHelp},
     {"editors", TakeEditors},
+    {"printing", TakePrinting},
 };
 
 // Returns the exit code: 0 when all pictures were written, 2 for a set that does not exist.

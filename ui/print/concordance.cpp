@@ -14,7 +14,9 @@ constexpr int kDaysInDecade = 10;
 
 // Returns "1er mai" or "14 juillet".
 std::u16string DayAndMonth(int day, std::u16string_view month) {
-  return FormatText(Piece(StringText(kTextDayOfMonth), u'|', day == 1 ? 1 : 0), {day, month});
+  const std::u16string_view patterns = StringText(kTextDayOfMonth);
+  return day == 1 ? FormatText(Piece(patterns, u'|', 1), {month})
+                  : FormatText(Piece(patterns, u'|', 0), {day, month});
 }
 
 OtherDate JulianDate(const Date& date, bool withMonth) {

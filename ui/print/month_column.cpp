@@ -80,8 +80,7 @@ class CColumnPainter {
   }
 
   int TextRight() const {
-    return m_dateColumns.empty() ? m_column.Text(1).right
-                                 : m_dateColumns.back().left - 2 * m_column.units.point;
+    return m_dateColumns.empty() ? m_column.Text(1).right : m_dateColumns.back().left - m_column.units.point;
   }
 
   void PaintFills(std::size_t i) const {
@@ -98,10 +97,13 @@ class CColumnPainter {
   }
 
   void PaintTitle(const PrintMonth& month) const {
+    const QString name = MonthTitle(month.month);
     Rect title = m_column.Row(0);
-    if (!m_dateColumns.empty()) title = {title.left, title.top, TextRight(), title.bottom};
+    // The name stands in the middle of the column, unless it would meet the names of other calendars.
+    if (title.left + (title.Width() + WidthOf(m_titleFont, name)) / 2 > TextRight())
+      title.right = TextRight();
     m_painter.setFont(m_titleFont);
-    DrawLine(m_painter, title, Qt::AlignCenter, MonthTitle(month.month));
+    DrawLine(m_painter, title, Qt::AlignCenter, name);
     m_painter.setFont(m_smallFont);
     for (const DateColumn& column : m_dateColumns)
       DrawLine(m_painter, {column.left, title.top, column.right, title.bottom - m_column.units.point},
@@ -114,6 +116,8 @@ class CColumnPainter {
     DrawVertical(m_painter, m_body, m_column.left, m_column.top, m_column.Bottom(), units.thickLine);
     DrawVertical(m_painter, m_body, right, m_column.top, m_column.Bottom(), units.thickLine);
     DrawHorizontal(m_painter, m_body, m_column.left, right, m_column.Bottom(), units.thickLine);
+    DrawHorizontal(m_painter, m_body, m_column.left, right, m_column.top, units.thickLine);
+    DrawHorizontal(m_painter, m_body, m_column.left, right, m_column.RowTop(1), units.thinLine);
     if (m_days.empty()) return;
     const int lastDay = m_days.back().day;
     const int daysBottom = m_column.RowTop(lastDay + 1);
