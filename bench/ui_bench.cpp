@@ -19,6 +19,7 @@ constexpr void (*kRegister[])() = {
     RegisterEditors,
     RegisterMonthView,
     RegisterPrintFrame,
+    RegisterPrinting,
 };
 
 void LoadFrance() {

@@ -6,5 +6,6 @@ namespace orbisol {
 void RegisterEditors();     // the list of 5,000 events: open, filter, sort
 void RegisterMonthView();   // repaints, the next month, moving the selection, beside QCalendarWidget
 void RegisterPrintFrame();  // opening it, with its first page
+void RegisterPrinting();    // PDF files of a year and of a hundred years
 
 }  // namespace orbisol

@@ -60,6 +60,12 @@ BUDGETS = [
     ("B15", "a word in all years of the days of France", lambda t: scaled(t, "SearchAllYears", 1e-9), 1, "s"),
     ("-", "dating one rule in one year", lambda t: scaled(t, "RuleDatesOfAYear", 1e-3), 1, "µs"),
     ("B17", "reading one typed date, and saying how", lambda t: scaled(t, "ReadTypedDates", 1e-3), 10, "µs"),
+    ("B12", "12 pages of a month to PDF, beside remind and rem2pdf",
+     lambda t: ratio(t, ["PdfOfAYear_Orbisol"], ["PdfOfAYear_Rem2Pdf"]), 0.35, ""),
+    ("B12", "size of that file", lambda t: scaled(t, "PdfOfAYearBytes/iterations:1", 1e-3), 60, "kB"),
+    ("B18", "a hundred years to PDF, beside four times 25: by how much more",
+     lambda t: ratio(t, ["YearsToPdf/100"], ["YearsToPdf/25"] * 4), 1.2, ""),
+    ("B18", "memory that 75 pages more take", lambda t: scaled(t, "YearsToPdfGrowth/iterations:1", 1e-6), 1, "MB"),
     ("B14", "processor time in 5 s without a user", lambda t: scaled(t, "IdleTime", 1e-6), 0, "ms"),
     ("B14", "wake-ups, likewise", lambda t: scaled(t, "IdleWakeUps", 1), 0, ""),
 ]

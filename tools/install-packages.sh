@@ -18,7 +18,7 @@ packages_of() {
     run) echo "qt6-wayland=- qt6-image-formats-plugins=- qt6-translations-l10n=- fonts-dejavu=-" ;;
     test) echo "libgtest-dev=pc:gtest python3=python3 qt6-translations-l10n=- fonts-dejavu=-
                 xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop
-                dbus-daemon=dbus-run-session at-spi2-core=- python3-pyatspi=-" ;;
+                poppler-utils=pdftotext dbus-daemon=dbus-run-session at-spi2-core=- python3-pyatspi=-" ;;
     clang) echo "clang=clang++ $(clang_runtime)=-" ;;
     lint) echo "clang-tidy=clang-tidy clang-format=clang-format git=git" ;;
     coverage) echo "gcovr=gcovr" ;;

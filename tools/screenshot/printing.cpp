@@ -90,7 +90,7 @@ HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title) 
   HolidayPeriod period;
   period.ymdFrom = from;
   period.ymdTo = to;
-  period.title = title;
+  period.title.Set(title);
   return period;
 }
 
@@ -100,7 +100,7 @@ DayEvent Event(int month, int day, std::u16string_view name) {
   event.day = day;
   event.ymdFrom = kAlwaysFrom;
   event.ymdTo = kAlwaysTo;
-  event.name = name;
+  event.name.Set(name);
   return event;
 }
 

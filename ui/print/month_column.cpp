@@ -147,6 +147,10 @@ class CColumnPainter {
     text.right = std::min(text.right, TextRight());
     DrawWrapped(m_painter, text, day.runs, taken);
     PaintOtherDates(i);
+    // Behind dropped days a row has no line above it yet.
+    if (i > 0 ? m_days[i - 1].day + 1 != cell.day : cell.day > 1)
+      DrawHorizontal(m_painter, m_body, m_column.left, m_column.left + m_column.width,
+                     m_column.RowTop(cell.day), units.thinLine);
 
     m_painter.setFont(m_titleFont);
     DrawLine(m_painter, m_column.Number(cell.day), Qt::AlignCenter, QStringLiteral("%1").arg(cell.day, 2));

@@ -14,6 +14,8 @@
 namespace orbisol {
 namespace {
 
+constexpr int kLeastPoints = 7;  // height of the smallest lines, in which letters are 6 points large
+
 int RowsOf(const MonthModel& model) { return (model.LastCell() - model.FirstCell()) / kColumns + 1; }
 
 class CTablePainter {
@@ -34,6 +36,7 @@ class CTablePainter {
       m_dates.push_back(OtherDates(days, OtherCalendar::kRepublican));
       m_marksDecades = true;
     }
+    m_dateFont = DateFont(printed);
     const DayCell* const cells = m_model.cells.data();
     for (int cell = m_model.FirstCell(); !days.empty() && cell <= m_model.LastCell(); ++cell) {
       const DayCell& day = cells[cell];
@@ -55,10 +58,6 @@ class CTablePainter {
     return m_table.Cell(place / kColumns, place % kColumns);
   }
 
-  TableCell PartsIn(const Rect& cell) const {
-    return PartsOf(cell, m_table, static_cast<int>(m_dates.size()));
-  }
-
   QFont NumberFont(Lettering lettering) const {
     return m_style.fonts.OfHeight(m_table.NumberFontHeight(), lettering);
   }
@@ -68,12 +67,13 @@ class CTablePainter {
     if (day.day == 0) return;
     m_painter.setPen(ToQColor(kGreyTextColor));
     m_painter.setFont(NumberFont(Lettering::kItalic));
-    DrawLine(m_painter, PartsIn(cell).number, Qt::AlignLeft | Qt::AlignVCenter, QString::number(day.day));
+    DrawLine(m_painter, PartsOf(cell, m_table).number, Qt::AlignLeft | Qt::AlignVCenter,
+             QString::number(day.day));
     m_painter.setPen(Qt::black);
   }
 
   void PaintDay(const DayCell& day, const PrintedDay& printed, std::size_t index, const Rect& cell) const {
-    const TableCell parts = PartsIn(cell);
+    const TableCell parts = PartsOf(cell, m_table);
     if (printed.isEvent) FillArea(m_painter, cell, kEventFill);
     if (printed.isHoliday) FillArea(m_painter, cell, kHolidayFill);
     // On purpose: a holiday on a Sunday has the ground of the Sunday, and is told by its bold number and
@@ -84,13 +84,47 @@ class CTablePainter {
     m_painter.setFont(NumberFont(printed.isHoliday ? Lettering::kBold : Lettering::kUpright));
     DrawLine(m_painter, parts.number, Qt::AlignLeft | Qt::AlignVCenter, QString::number(day.day));
     if (printed.hasMoon) DrawMoon(m_painter, parts.moon, day.moonPhase, m_table.units);
+    PaintOtherDates(parts, printed.hasMoon, index);
     m_painter.setFont(m_small);
-    for (std::size_t line = 0; line < m_dates.size(); ++line) {
-      const int top = parts.dates.top + static_cast<int>(line) * m_table.SmallFontHeight();
-      DrawLine(m_painter, {parts.dates.left, top, parts.dates.right, top + m_table.SmallFontHeight()},
-               Qt::AlignRight | Qt::AlignVCenter, ToQString(m_dates[line][index].text));
-    }
     DrawWrapped(m_painter, parts.text, printed.runs, {});
+  }
+
+  // Returns the place of the dates of other calendars, left of the moon. Where there is none, a name of a
+  // month that is too long for that may stand in its place.
+  static int RightOfDate(const TableCell& parts, bool hasMoon, int width) {
+    return !hasMoon && width > parts.dates.Width() ? parts.moon.right : parts.dates.right;
+  }
+
+  void PaintOtherDates(const TableCell& parts, bool hasMoon, std::size_t index) const {
+    m_painter.setFont(m_dateFont);
+    Rect line = parts.dates;
+    for (const std::vector<OtherDate>& dates : m_dates) {
+      const QString text = ToQString(dates[index].text);
+      line.right = RightOfDate(parts, hasMoon, WidthOf(m_dateFont, text));
+      line.bottom = line.top + m_table.SmallFontHeight();
+      DrawLine(m_painter, line, Qt::AlignRight | Qt::AlignVCenter, text);
+      line.top = line.bottom;
+    }
+  }
+
+  bool FitsDates(const QFont& font, const std::vector<PrintedDay>& printed) const {
+    const TableCell parts = PartsOf(m_table.Cell(0, 0), m_table);
+    for (const std::vector<OtherDate>& dates : m_dates) {
+      for (std::size_t i = 0; i < dates.size(); ++i) {
+        const int width = WidthOf(font, ToQString(dates[i].text));
+        if (width > RightOfDate(parts, printed[i].hasMoon, width) - parts.dates.left) return false;
+      }
+    }
+    return true;
+  }
+
+  // Returns the font of the other dates: the small one, or a smaller one in which the longest of them fits.
+  QFont DateFont(const std::vector<PrintedDay>& printed) const {
+    int height = m_table.SmallFontHeight();
+    const int least = std::min(height, kLeastPoints * m_table.units.point);
+    while (height > least && !FitsDates(m_style.fonts.OfHeight(height), printed))
+      height = std::max(least, height - std::max(1, m_table.units.point / 2));
+    return m_style.fonts.OfHeight(height);
   }
 
   void PaintNames() const {
@@ -143,6 +177,7 @@ class CTablePainter {
   const MonthModel& m_model;
   QFont m_names;
   QFont m_small;
+  QFont m_dateFont;
   std::vector<std::vector<OtherDate>> m_dates;  // a list a calendar, with one for each day
   bool m_marksDecades = false;                  // whether the last of these lists is the Republican one
 };
@@ -153,7 +188,8 @@ void PaintMonthTable(QPainter& painter, const PageStyle& style, const Rect& body
                      const MonthModel& model) {
   if (body.Width() <= 0 || body.Height() <= 0) return;
   const bool isThere = model.year == month.year && model.month == month.month;
-  const TableLayout table = TableOnPage(body, style.units, isThere ? RowsOf(model) : kWeekRows);
+  const TableLayout table = TableOnPage(body, style.units, isThere ? RowsOf(model) : kWeekRows,
+                                        style.job.Has(kJulianOption) + style.job.Has(kRepublicanOption));
   CTablePainter(painter, style, table, model)
       .Paint(isThere ? DaysOfMonth(model) : std::span<const DayCell>());
 }

@@ -17,7 +17,7 @@ int PicturePercent(int monthsPerPage) {
   if (monthsPerPage >= 12) return 15;
   if (monthsPerPage >= 6) return 20;
   if (monthsPerPage >= 3) return 25;
-  return 38;
+  return 42;
 }
 
 // Returns a rectangle whose corners are in order and lie inside `area`.
@@ -130,8 +130,8 @@ ColumnLayout ColumnOnPage(const Rect& body, const PageUnits& units, int monthsPe
   return {body.left + index * width, body.top, width, body.Height() / kRows, units, 0};
 }
 
-TableLayout TableOnPage(const Rect& body, const PageUnits& units, int rows) {
-  return {body, units, std::max(rows, 1)};
+TableLayout TableOnPage(const Rect& body, const PageUnits& units, int rows, int dateLines) {
+  return {body, units, std::max(rows, 1), dateLines};
 }
 
 int TableLayout::HeaderBottom() const {
@@ -167,8 +167,9 @@ int TableLayout::HeaderFontHeight() const {
 }
 
 int TableLayout::NumberFontHeight() const {
-  const int least = std::min(frame.Width() / kTableColumns / 4, frame.Height() / 6 / 3);
-  return std::clamp(least, units.point, 26 * units.point);
+  const bool hasDates = dateLines > 0;
+  const int least = std::min(frame.Width() / kTableColumns / (hasDates ? 5 : 4), frame.Height() / 6 / 3);
+  return std::clamp(least, units.point, (hasDates ? 18 : 26) * units.point);
 }
 
 int TableLayout::SmallFontHeight() const {
@@ -176,21 +177,21 @@ int TableLayout::SmallFontHeight() const {
   return std::clamp(least, units.point, 11 * units.point);
 }
 
-TableCell PartsOf(const Rect& cell, const TableLayout& table, int dateLines) {
+TableCell PartsOf(const Rect& cell, const TableLayout& table) {
   const int inset = 3 * table.units.point;
   const int number = table.NumberFontHeight();
   const int small = table.SmallFontHeight();
   TableCell parts;
   parts.head = cell;
   parts.head.bottom =
-      std::min(cell.bottom, cell.top + std::max(number, dateLines * small) + 2 * table.units.point);
+      std::min(cell.bottom, cell.top + std::max(number, table.dateLines * small) + 2 * table.units.point);
   const int upper = cell.top + table.units.point;
   parts.number = Inside({cell.left + inset, upper, cell.left + inset + 2 * number, upper + number}, cell);
   const int moon = number * 3 / 5;
   const int moonTop = upper + (number - moon) / 2;
   parts.moon = Inside({cell.right - inset - moon, moonTop, cell.right - inset, moonTop + moon}, cell);
-  parts.dates =
-      Inside({parts.number.left + number * 3 / 2, upper, parts.moon.left - inset, parts.head.bottom}, cell);
+  parts.dates = Inside(
+      {parts.number.left + number * 5 / 4, upper, parts.moon.left - inset / 2, parts.head.bottom}, cell);
   parts.text = Inside({cell.left + inset, parts.head.bottom + table.units.point, cell.right - inset,
                        cell.bottom - table.units.point},
                       cell);

@@ -83,7 +83,8 @@ ColumnLayout ColumnOnPage(const Rect& body, const PageUnits& units, int monthsPe
 struct TableLayout {
   Rect frame;
   PageUnits units;
-  int rows = 0;  // weeks shown
+  int rows = 0;       // weeks shown
+  int dateLines = 0;  // other calendars whose dates are shown
 
   int HeaderBottom() const;
   int WeekColumnRight() const;
@@ -98,7 +99,7 @@ struct TableLayout {
   int NumberFontHeight() const;
   int SmallFontHeight() const;
 };
-TableLayout TableOnPage(const Rect& body, const PageUnits& units, int rows);
+TableLayout TableOnPage(const Rect& body, const PageUnits& units, int rows, int dateLines);
 
 // The parts of a cell: a head with number, dates of other calendars and moon, and room for texts and notes.
 struct TableCell {
@@ -108,6 +109,6 @@ struct TableCell {
   Rect moon;
   Rect text;
 };
-TableCell PartsOf(const Rect& cell, const TableLayout& table, int dateLines);
+TableCell PartsOf(const Rect& cell, const TableLayout& table);
 
 }  // namespace orbisol

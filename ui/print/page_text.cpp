@@ -13,6 +13,7 @@ namespace orbisol {
 namespace {
 
 constexpr QChar kEllipsis(0x2026);
+constexpr double kUnseenSpacing = 0.02;  // in device units
 
 // Runs as one text, with the lettering of each part.
 struct LetteredText {
@@ -124,6 +125,9 @@ CPageFonts::CPageFonts(const DisplaySettings& settings, const QFont& dialogFont)
     : m_face(CalendarFont(settings, dialogFont)) {
   m_face.setWeight(QFont::Normal);
   m_face.setHintingPreference(QFont::PreferNoHinting);
+  // A spacing that nobody sees keeps letters from being joined to ligatures, under which no reader of a PDF
+  // file would find "floréal".
+  m_face.setLetterSpacing(QFont::AbsoluteSpacing, kUnseenSpacing);
 }
 
 QFont CPageFonts::OfHeight(int height, Lettering lettering) const {

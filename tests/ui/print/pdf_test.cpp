@@ -1,0 +1,169 @@
+// Pages through the real PDF path: their number, their fonts, their texts, their ink, and that a preview
+// looks like them. The files are read by the tools of poppler.
+
+#include <QPageLayout>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "core/platform.h"
+#include "tests/ui/print/print_fixture.h"
+#include "ui/print/print_run.h"
+#include "ui/toolkit/geometry.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+bool GoOn(int, int) { return true; }
+
+// Returns what a tool writes; it must be there and succeed.
+QByteArray Output(const QString& tool, const QStringList& arguments) {
+  QProcess process;
+  process.start(tool, arguments);
+  EXPECT_TRUE(process.waitForFinished(30000) && process.exitCode() == 0) << tool.toStdString();
+  return process.readAllStandardOutput();
+}
+
+struct PdfFile {
+  QTemporaryDir folder;
+  QString path = folder.filePath(QStringLiteral("pages.pdf"));
+
+  PdfFile(const PrintJob& job, const PrintSource& source, const QPageLayout& layout) {
+    EXPECT_EQ(WritePdf(CPagePainter(job, source), layout, path, AllPages(job), GoOn), RunResult::kDone);
+  }
+
+  int Pages() const {
+    const QString info = QString::fromUtf8(Output(QStringLiteral("pdfinfo"), {path}));
+    return QRegularExpression(QStringLiteral("Pages: +(\\d+)")).match(info).captured(1).toInt();
+  }
+
+  // Returns the text with blanks of any kind as one.
+  QString Text() const {
+    return QString::fromUtf8(Output(QStringLiteral("pdftotext"), {path, QStringLiteral("-")})).simplified();
+  }
+
+  // Returns the first page as a picture.
+  QImage Picture(int resolution) const {
+    const QString name = folder.filePath(QStringLiteral("page"));
+    Output(QStringLiteral("pdftoppm"), {QStringLiteral("-singlefile"), QStringLiteral("-png"),
+                                        QStringLiteral("-r"), QString::number(resolution), path, name});
+    return QImage(name + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
+  }
+};
+
+// Every pair of options meets in all four states in these eight rows.
+constexpr std::array<unsigned, 8> kOptionRows = {0b0000000, 0b1010101, 0b0110011, 0b1100110,
+                                                 0b0001111, 0b1011010, 0b0111100, 0b1101001};
+
+// Pages for May of each period 113 to 120, by formats 121, 122, 123, and those of a month.
+constexpr int kPages[4][8] = {
+    {1, 1, 1, 1, 1, 1, 1, 1}, {1, 1, 1, 1, 1, 1, 1, 2}, {1, 1, 1, 1, 1, 2, 2, 4}, {1, 3, 3, 3, 3, 6, 6, 12}};
+
+void CheckFonts(const PdfFile& file) {
+  const QString fonts = QString::fromUtf8(Output(QStringLiteral("pdffonts"), {file.path}));
+  const QStringList lines = fonts.split(QLatin1Char('\n'), Qt::SkipEmptyParts).mid(2);
+  EXPECT_FALSE(lines.isEmpty());
+  // The columns are: embedded, named as a part of the font, with the characters of its glyphs.
+  const QRegularExpression embedded(QStringLiteral(" yes +(yes|no) +yes "));
+  for (const QString& line : lines) EXPECT_TRUE(embedded.match(line).hasMatch()) << fonts.toStdString();
+}
+
+void CheckText(const PdfFile& file, const PrintJob& job) {
+  const QString text = file.Text();
+  const bool isScreen = job.formatCommand == kCmdFormatScreen;
+  for (int page = 0; page < job.PageCount(); ++page) {
+    EXPECT_TRUE(text.contains(ToQString(job.Caption(page)))) << text.toStdString();
+    for (int k = 0; k < job.MonthsPerPage(); ++k)
+      EXPECT_TRUE(text.contains(
+          ToQString(UpperFirst(CurrentPlatform().locale->MonthName(job.MonthOnPage(page, k).month)))));
+  }
+  const bool hasMay = job.FirstMonth() <= 5 && 5 <= job.LastMonth() && !isScreen;
+  EXPECT_EQ(text.contains(QStringLiteral("Travail")), hasMay && job.Has(kHolidayOption));
+  EXPECT_EQ(text.contains(QStringLiteral("Dentiste")), hasMay && job.Has(kEventOption));
+  EXPECT_EQ(text.contains(QStringLiteral("Repos")), hasMay && job.Has(kVacationOption));
+  EXPECT_EQ(text.contains(QStringLiteral("floréal")), hasMay && job.Has(kRepublicanOption));
+  EXPECT_EQ(
+      text.contains(QStringLiteral("avril")),
+      (hasMay && job.Has(kJulianOption)) || ToQString(job.Caption(0)).contains(QStringLiteral("avril")));
+}
+
+void CheckNoInkOutside(const PdfFile& file, const QPageLayout& layout) {
+  constexpr int kResolution = 48;
+  const QImage picture = file.Picture(kResolution);
+  const QRect area = ToQRect(SpaceOf(layout, kResolution).area).adjusted(-1, -1, 1, 1);
+  int ink = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (qGray(picture.pixel(x, y)) > 250) continue;
+      ASSERT_TRUE(area.contains(x, y)) << "ink at " << x << ", " << y;
+      ++ink;
+    }
+  }
+  EXPECT_GT(ink, 500);
+}
+
+class EveryFormatTest : public testing::TestWithParam<int> {};
+
+TEST_P(EveryFormatTest, PagesHaveTheirTextsFontsAndMargins) {
+  const int format = GetParam();
+  for (int i = 0; i < 8; ++i) {
+    SCOPED_TRACE(testing::Message() << "period " << kCmdPeriodMonth + i);
+    PrintJob job(2024, 5);
+    job.ChoosePeriod(kCmdPeriodMonth + i);
+    job.options = kOptionRows[static_cast<std::size_t>(i)];
+    job.ChooseFormat(format);
+    const QPageLayout layout = Paper(i % 2 == 0 ? QPageLayout::Landscape : QPageLayout::Portrait);
+    const PdfFile file(job, SourceOfTests(), layout);
+    EXPECT_EQ(file.Pages(), kPages[std::min(format - kCmdFormatYear, 3)][i]);
+    CheckFonts(file);
+    CheckText(file, job);
+    CheckNoInkOutside(file, layout);
+  }
+}
+
+// Returns the greatest difference of any 8 x 8 pixels of two pictures in their mean grey, 0..255.
+int GreatestDifference(const QImage& a, const QImage& b) {
+  constexpr int kBlock = 8;
+  int greatest = 0;
+  for (int top = 0; top + kBlock <= std::min(a.height(), b.height()); top += kBlock) {
+    for (int left = 0; left + kBlock <= std::min(a.width(), b.width()); left += kBlock) {
+      int sum = 0;
+      for (int y = top; y < top + kBlock; ++y)
+        for (int x = left; x < left + kBlock; ++x) sum += qGray(a.pixel(x, y)) - qGray(b.pixel(x, y));
+      greatest = std::max(greatest, std::abs(sum) / (kBlock * kBlock));
+    }
+  }
+  return greatest;
+}
+
+// The pictures are painted by different engines, so letters and lines differ in their edges.
+constexpr int kTolerance = 56;
+
+TEST_P(EveryFormatTest, APreviewLooksLikeThePaper) {
+  for (const auto orientation : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+    SCOPED_TRACE(orientation);
+    constexpr int kResolution = 100;
+    const QPageLayout layout = Paper(orientation);
+    const PrintJob job = JobOf(GetParam());
+    const QImage paper = PdfFile(job, SourceOfTests(), layout).Picture(kResolution);
+    const QImage preview = Preview(job, SourceOfTests(), layout, kResolution);
+    EXPECT_NEAR(paper.width(), preview.width(), 1);
+    EXPECT_NEAR(paper.height(), preview.height(), 1);
+    EXPECT_LE(GreatestDifference(paper, preview), kTolerance);
+    const QImage other =
+        Preview(JobOf(GetParam(), kCmdPeriodMonth, 2024, 11), SourceOfTests(), layout, kResolution);
+    if (GetParam() != kCmdFormatYear) {
+      EXPECT_GT(GreatestDifference(paper, other), kTolerance) << "the comparison sees nothing";
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(PdfTest, EveryFormatTest, testing::Range<int>(kCmdFormatYear, kCmdFormatTable + 1));
+
+}  // namespace
+}  // namespace orbisol

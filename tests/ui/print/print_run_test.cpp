@@ -1,0 +1,142 @@
+// Running a job: aborts, ranges, and disks and printers that fail. Whatever happens, a file under the chosen
+// name is the old one or a whole new one.
+
+#include "ui/print/print_run.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <set>
+
+#include "tests/support/fault_shim.h"
+#include "tests/ui/print/print_fixture.h"
+
+namespace orbisol {
+namespace {
+
+bool GoOn(int, int) { return true; }
+
+class PrintRunTest : public testing::Test {
+ protected:
+  RunResult Write(const PageRange& range, const PageProgress& progress = GoOn) {
+    return WritePdf(m_pages, Paper(QPageLayout::Portrait), m_path, range, progress);
+  }
+
+  QByteArray Bytes() const {
+    QFile file(m_path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  void PutOldFile() {
+    QFile file(m_path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("old");
+  }
+
+  QStringList Names() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+  QTemporaryDir m_folder;
+  QString m_path = m_folder.filePath(QStringLiteral("Année.pdf"));
+  CPagePainter m_pages{JobOf(kCmdFormatMonth, kCmdPeriodYear), SourceOfTests()};
+};
+
+TEST_F(PrintRunTest, AnAbortLeavesWhatWasThere) {
+  std::vector<int> steps;
+  const auto stop = [&](int done, int count) {
+    EXPECT_EQ(count, 12);
+    steps.push_back(done);
+    return done < 5;
+  };
+  EXPECT_EQ(Write(AllPages(m_pages.Job()), stop), RunResult::kAborted);
+  EXPECT_EQ(steps, (std::vector<int>{0, 1, 2, 3, 4, 5}));
+  EXPECT_EQ(Names(), QStringList());
+  PutOldFile();
+  EXPECT_EQ(Write(AllPages(m_pages.Job()), stop), RunResult::kAborted);
+  EXPECT_EQ(Write(AllPages(m_pages.Job()), [](int done, int count) { return done < count; }),
+            RunResult::kAborted)
+      << "also behind the last page";
+  EXPECT_EQ(Bytes(), "old");
+  EXPECT_EQ(Names().size(), 1);
+}
+
+TEST_F(PrintRunTest, RangesEndAtTheLastPage) {
+  const auto pagesOf = [&](int from, int to) {
+    int pages = 0;
+    const RunResult result = Write(RangeOfDialog(m_pages.Job(), from, to), [&](int, int count) {
+      pages = count;
+      return true;
+    });
+    return result == RunResult::kDone ? pages : result == RunResult::kNoPages ? 0 : -1;
+  };
+  EXPECT_EQ(pagesOf(13, 20), 0);
+  EXPECT_EQ(Names(), QStringList()) << "nothing is written for no pages";
+  EXPECT_EQ(pagesOf(0, 0), 12);
+  EXPECT_EQ(pagesOf(3, 5), 3);
+  EXPECT_EQ(pagesOf(11, 400), 2);
+  EXPECT_EQ(pagesOf(5, 3), 0);
+}
+
+TEST_F(PrintRunTest, AFullDiskLeavesWhatWasThere) {
+  PutOldFile();
+  FaultReport report;
+  FaultShimBegin(0, 0, report);
+  EXPECT_EQ(Write({0, 2}), RunResult::kDone);
+  FaultShimEnd();
+  ASSERT_GT(report.calls, 3) << "the shim does not see the calls";
+  EXPECT_GE(report.syncs, 1) << "a loss of power could leave half a file";
+  const int calls = report.calls;
+  std::set<std::string> failed;
+  for (const int fault : {ENOSPC, EIO}) {
+    for (int call = 1; call <= calls; ++call) {
+      PutOldFile();
+      report = FaultReport();
+      FaultShimBegin(call, fault, report);
+      const RunResult result = Write({0, 2});
+      FaultShimEnd();
+      SCOPED_TRACE(testing::Message() << "fault " << fault << " at call " << call << ", " << report.failed);
+      failed.insert(report.failed);
+      const QByteArray bytes = Bytes();
+      if (result == RunResult::kDone) {
+        EXPECT_TRUE(bytes.startsWith("%PDF") && bytes.trimmed().endsWith("%%EOF"));
+        EXPECT_TRUE(report.failed != std::string("write") && report.failed != std::string("fsync"));
+      } else {
+        EXPECT_EQ(bytes, "old");
+        EXPECT_EQ(result, RunResult::kFailed);
+      }
+      EXPECT_EQ(Names().size(), 1) << "a temporary file is left";
+    }
+  }
+  EXPECT_TRUE(failed.count("write") == 1 && failed.count("fsync") == 1) << testing::PrintToString(failed);
+}
+
+TEST_F(PrintRunTest, ThePlaceThatCannotTakeAFileIsSaid) {
+  m_path = m_folder.filePath(QStringLiteral("missing/Année.pdf"));
+  EXPECT_EQ(Write({0, 0}), RunResult::kFailed);
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(m_path);
+  EXPECT_EQ(PrintPages(m_pages, printer, {0, 0}, GoOn), RunResult::kFailed);
+  m_path = m_folder.path();
+  EXPECT_EQ(Write({0, 0}), RunResult::kFailed) << "a folder";
+}
+
+// A printer that writes into a file takes the way of PDF files, with its paper.
+TEST_F(PrintRunTest, APrinterIntoAFileWritesTheSameFile) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(m_path);
+  printer.setPageLayout(Paper(QPageLayout::Landscape));
+  EXPECT_EQ(PrintPages(m_pages, printer, {0, 1}, [](int done, int) { return done < 1; }),
+            RunResult::kAborted);
+  EXPECT_EQ(Names(), QStringList());
+  EXPECT_EQ(PrintPages(m_pages, printer, {0, 1}, GoOn), RunResult::kDone);
+  EXPECT_TRUE(Bytes().contains("/MediaBox [0 0 842"));
+}
+
+}  // namespace
+}  // namespace orbisol
