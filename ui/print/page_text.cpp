@@ -173,9 +173,10 @@ void DrawWrapped(QPainter& painter, const Rect& box, std::span<const TextRun> ru
   for (double top = box.top; top + lineHeight <= box.bottom; top += lineHeight) {
     const QPointF corner(box.left, top);
     const double width = RightEnd(box, top, top + lineHeight, taken) - box.left;
+    if (width < lineHeight) break;  // no room for a letter and an ellipsis
     QTextLine line = layout.createLine();
     if (!line.isValid()) break;
-    line.setLineWidth(std::max(width, 0.0));
+    line.setLineWidth(width);
     const bool isLastLine = top + 2 * lineHeight > box.bottom;
     if (isLastLine && line.textStart() + line.textLength() < text.text.size()) {
       DrawCut(painter, corner, width, text, line.textStart());
