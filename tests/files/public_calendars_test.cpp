@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <iostream>
 #include <set>
 
@@ -58,7 +59,7 @@ TEST(PublicCalendarsTest, FewDaysComeFromRulesOfOneDay) {
                          [](const DayEvent* rule) { return rule->ymdFrom / 10000 == rule->ymdTo / 10000; });
     });
     const double share = static_cast<double>(listed) / static_cast<double>(days.size());
-    std::cout << source.name << ": " << days.size() << " days, " << static_cast<int>(100 * share + 0.5)
+    std::cout << source.name << ": " << days.size() << " days, " << std::lround(100 * share)
               << " % by rules of one day\n";
     EXPECT_TRUE(share <= kShareOfLists || source.text.find(kReason) != std::string::npos) << source.name;
   }
@@ -130,7 +131,7 @@ TEST(PublicCalendarsTest, TheFeastOfMothersMovesToJuneBeforeWhitSunday) {
 }
 
 TEST(PublicCalendarsTest, TheSaintsGiveOneNameToEachDay) {
-  const CalendarContent saints = ContentOfCalendar("Saints du calendrier (France)");
+  const CalendarContent saints = ContentOfCalendar("France (saints du calendrier)");
   const RulesByDay days = MarkedDays(saints, false, 2024, 2024);
   EXPECT_EQ(days.size(), 366U);
   for (const auto& [ymd, rules] : days) EXPECT_EQ(rules.size(), 1U) << ymd;

@@ -21,7 +21,7 @@ namespace orbisol {
 namespace {
 
 constexpr int kListRows = 10;
-constexpr int kListChars = 26;  // width of the list of calendars
+constexpr int kListChars = 38;  // width of the list of calendars
 constexpr int kDaysChars = 56;  // and of the days
 
 // Pieces of kTextImportHolidays.
