@@ -47,6 +47,8 @@ std::u16string DayCountText(const Date& date) {
   const int left = DaysLeftInCivilYear(date);
   const std::u16string_view forms = StringText(kTextCountsInWords);
   if (day < 1 || left < 0) return {};
+  const bool isYearNext = DayOfCivilYear(DateOfDayNumber(date.DayNumber() + left + 1)) == 1;
+  if (!isYearNext) return FormatText(Piece(forms, u'|', day == 1 ? 4 : 3), {day});
   if (left == 0) return FormatText(Piece(forms, u'|', 2), {day});
   if (day == 1) return FormatText(Piece(forms, u'|', 1), {left});
   return FormatText(Piece(forms, u'|', 0), {day, left});

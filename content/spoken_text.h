@@ -19,8 +19,9 @@ std::u16string MissingDateText(const Date& date);
 // Returns both ends of a range and its length; `from` is the earlier. A single day has a form of its own.
 std::u16string RangeText(const Date& from, const Date& to);
 
-// Returns the place of a date in its civil year. Empty where the year's first day was dropped so that days
-// are counted from 0 or below.
+// Returns the place of a date in its civil year: its number alone where a new start of civil years makes the
+// year shorter or longer than DaysLeftInCivilYear() counts. Empty where the year's first day was dropped so
+// that days are counted from 0 or below.
 std::u16string DayCountText(const Date& date);
 
 // Returns the date of a cell, and all that falls on it with its kind. Empty for an empty cell.

@@ -76,9 +76,10 @@ enum TextId : int {
   kTextToolBarName = 5125,
   kTextSilentInstance = 5126,  // at a start, when the first program does not answer
   kTextOpenAnyway = 5127,      // the button of that question
-  kTextCountsInWords = 5128,   // of a day: its number in the civil year and what is left; number 1; one left
-  kTextErasInWords = 5129,     // of a year before the first: since the foundation of Rome, before the era
-  kTextToolkitSource = 5130,   // texts that the toolkit leaves in English, and the same in French
+  kTextCountsInWords =
+      5128,  // of a day in its civil year: number and days left; number 1; the last; number alone
+  kTextErasInWords = 5129,    // of a year before the first: since the foundation of Rome, before the era
+  kTextToolkitSource = 5130,  // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
   kTextDayOfMonth = 5140,        // by day and month, by month for its first day
   kTextMissingDate = 5141,       // a date that does not exist, and the one it counts as

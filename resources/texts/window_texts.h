@@ -37,7 +37,7 @@ inline constexpr TextEntry kWindowTexts[] = {
     {kTextOpenAnyway, u"Ouvrir"},
     {kTextCountsInWords,
      u"%de jour de l'année, il en reste %d|1er jour de l'année, il en reste %d|Dernier jour de l'année, le "
-     u"%de"},
+     u"%de|%de jour de l'année|1er jour de l'année"},
     {kTextErasInWords, u"An %d depuis la fondation de Rome (ab Urbe condita)|%d avant Jésus-Christ"},
     {kTextToolkitSource,
      u"Double Sided Printing|Off|Long side binding|Short side binding|Pages|"

@@ -42,6 +42,10 @@ TEST(SpokenTextTest, ADaySaysItsPlaceInTheYear) {
   EXPECT_EQ(ToUtf8(DayCountText(Date(20261121))), "325e jour de l'année, il en reste 40");
   EXPECT_EQ(ToUtf8(DayCountText(Date(20260101))), "1er jour de l'année, il en reste 364");
   EXPECT_EQ(ToUtf8(DayCountText(Date(20241231))), "Dernier jour de l'année, le 366e");
+  const ScopedRules roussillon(RulesWith(kRomanReform, {.rows = {{15670101, false}, {15650414, false}}}));
+  EXPECT_EQ(ToUtf8(DayCountText(Date(15661231))), "262e jour de l'année");
+  EXPECT_EQ(ToUtf8(DayCountText(Date(15660414))), "1er jour de l'année");
+  EXPECT_EQ(ToUtf8(DayCountText(Date(15660413))), "Dernier jour de l'année, le 365e");
 }
 
 }  // namespace
