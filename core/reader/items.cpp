@@ -14,9 +14,11 @@ namespace {
 constexpr int kMonths = 12;
 constexpr int kWeekdays = 7;
 constexpr int kSeptember = 9;
-constexpr int kMostWords = 4;  // greatest number of words in a phrase
+constexpr int kPlacesBefore = 2;  // September was the seventh month
+constexpr int kMostWords = 4;     // greatest number of words in a phrase
 constexpr std::u16string_view kAnd = u"et";
-constexpr std::u16string_view kMonthEnding = u"bre";  // "7bre" is September
+constexpr std::array<std::u16string_view, 3> kMonthEndings = {u"bre", u"mbre",
+                                                              u"embre"};  // "7bre": September
 
 bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
@@ -143,20 +145,32 @@ class CLexer {
     ReadEnding();
   }
 
-  // The letters right behind a number: "1er", "8e", "7bre". Others begin a word.
+  // Reads the letters right behind a number: "1er", "8e". Others begin a word.
   void ReadEnding() {
-    std::size_t end = m_at;
-    while (end < m_text.size() && IsLetter(m_text[end])) ++end;
-    const std::u16string_view ending = m_text.substr(m_at, end - m_at);
-    Item& number = m_items.back();
-    if (ending == kMonthEnding && number.value >= 7 && number.value <= 10) {
-      number.kind = WordKind::kMonth;
-      number.value += 2;
-      number.end = end;
-      m_at = end;
-    } else if (IsOrdinalEnding(ending)) {
-      m_at = end;
+    if (const std::u16string_view ending = WordAt(m_at); IsOrdinalEnding(ending)) m_at += ending.size();
+  }
+
+  // Reads a month that is named by its place in the Roman year, which began in March: "7bre", "X.bre",
+  // "VIIIbre". The number stands in the word, or is the item before it.
+  bool ReadNumberedMonth(std::u16string_view word) {
+    const auto isPlace = [](int number) { return 7 <= number && number <= 10; };
+    for (const std::u16string_view ending : kMonthEndings) {
+      if (!word.ends_with(ending)) continue;
+      const int numeral = ValueOfNumeral(word.substr(0, word.size() - ending.size()));
+      if (isPlace(numeral)) {
+        Add({WordKind::kMonth, numeral + kPlacesBefore}, m_at + word.size());
+        return true;
+      }
+      if (word != ending || m_items.empty()) continue;
+      const Item number = m_items.back();
+      if (!IsNumber(number) || !isPlace(number.value)) continue;
+      m_items.pop_back();
+      m_isApart = number.isApart;
+      m_separator = number.separator;
+      AddItem({WordKind::kMonth, number.value + kPlacesBefore}, number.begin, m_at + word.size());
+      return true;
     }
+    return false;
   }
 
   // Words in a row that a phrase may consist of: its text as the lexicon writes it, and where it ends.
@@ -208,7 +222,7 @@ class CLexer {
       return Add({WordKind::kMonth, kSeptember}, m_at + word.size());
     if (phrase != nullptr && phrase->word.kind != WordKind::kNone)
       return Add(phrase->word, m_at + word.size());
-    if (ReadNumeral(word)) return;
+    if (ReadNumberedMonth(word) || ReadNumeral(word)) return;
     const LocaleName name = LocaleNameAt();
     if (name.length > 0) return Add(name.word, m_at + name.length);
     AddUnknown(m_at, m_at + word.size());
@@ -232,7 +246,13 @@ class CLexer {
       }
       const Phrase* const found = FindPhrase(text);
       if (found == nullptr || found->word.kind == WordKind::kNone) continue;
-      Add(found->word, run.ends[static_cast<std::size_t>(words - 1)]);
+      const std::size_t end = run.ends[static_cast<std::size_t>(words - 1)];
+      if (found->word.kind == WordKind::kLittleWord) {
+        m_isApart = true;
+        m_at = end;
+      } else {
+        Add(found->word, end);
+      }
       return true;
     }
     return false;
@@ -310,6 +330,12 @@ class CLexer {
 };
 
 }  // namespace
+
+bool HasMonth(const std::vector<Item>& items) {
+  return std::any_of(items.begin(), items.end(), [](const Item& item) {
+    return item.kind == WordKind::kMonth || item.kind == WordKind::kRepublicanMonth;
+  });
+}
 
 std::vector<Item> ItemsOf(std::u16string_view folded) {
   std::vector<Item> items = CLexer(folded).Items();

@@ -35,6 +35,9 @@ struct Item {
 std::vector<Item> ItemsOf(std::u16string_view folded);
 
 inline bool IsNumber(const Item& item) { return item.kind == WordKind::kNumber; }
+// Returns whether a month is named, of either calendar.
+bool HasMonth(const std::vector<Item>& items);
+
 inline bool HasSign(const Item& item) { return item.isNegative || item.isPositive; }
 
 }  // namespace orbisol::reader

@@ -20,39 +20,39 @@ constexpr int kNumberValues[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  10,  11,  1
 struct Table {
   int textId;  // groups parted by "|", spellings of one word by ","
   WordKind kind;
-  int first;                    // value of the first group; the next ones count on
+  int first = 0;                // value of the first group; the next ones count on
   const int* values = nullptr;  // of the groups, where they do not count
 };
 
 constexpr Table kTables[] = {
-    {kTextReaderLittleWords, WordKind::kLittleWord, 0},
+    {kTextReaderLittleWords, WordKind::kLittleWord},
     {kTextReaderMonths, WordKind::kMonth, 1},
     {kTextReaderWeekdays, WordKind::kWeekday, 1},
     {kTextReaderMarch, WordKind::kMarch, kTuesday},
     {kTextReaderSeptember, WordKind::kSeptember, 7},
     {kTextReaderNumbers, WordKind::kNumberWord, 0, kNumberValues},
-    {kTextReaderDays, WordKind::kDay, 0},
-    {kTextReaderWeeks, WordKind::kWeek, 0},
-    {kTextReaderMonthsAsUnit, WordKind::kMonths, 0},
-    {kTextReaderYears, WordKind::kYears, 0},
-    {kTextReaderIn, WordKind::kIn, 0},
-    {kTextReaderAgo, WordKind::kAgo, 0},
+    {kTextReaderDays, WordKind::kDay},
+    {kTextReaderWeeks, WordKind::kWeek},
+    {kTextReaderMonthsAsUnit, WordKind::kMonths},
+    {kTextReaderYears, WordKind::kYears},
+    {kTextReaderIn, WordKind::kIn},
+    {kTextReaderAgo, WordKind::kAgo},
     {kTextReaderTodays, WordKind::kToday, -2},
-    {kTextReaderNext, WordKind::kNext, 0},
-    {kTextReaderLast, WordKind::kLast, 0},
+    {kTextReaderNext, WordKind::kNext},
+    {kTextReaderLast, WordKind::kLast},
     {kTextReaderFeasts, WordKind::kFeast, 0, kFeastDays},
-    {kTextReaderOrthodox, WordKind::kOrthodox, 0},
+    {kTextReaderOrthodox, WordKind::kOrthodox},
     {kTextReaderRomanDays, WordKind::kRomanDay, 1},
     {kTextReaderDecadeDays, WordKind::kDecadeDay, 1},
     {kTextReaderRepublicanMonths, WordKind::kRepublicanMonth, 1},
-    {kTextReaderComplementary, WordKind::kComplementary, 0},
+    {kTextReaderComplementary, WordKind::kComplementary},
     {kTextReaderComplementaryDays, WordKind::kComplementaryDay, 1},
-    {kTextReaderDayNumber, WordKind::kDayNumber, 0},
-    {kTextReaderJulian, WordKind::kJulian, 0},
-    {kTextReaderGregorian, WordKind::kGregorian, 0},
-    {kTextReaderBeforeEra, WordKind::kBeforeEra, 0},
-    {kTextReaderInEra, WordKind::kInEra, 0},
-    {kTextReaderCivilYear, WordKind::kCivilYear, 0},
+    {kTextReaderDayNumber, WordKind::kDayNumber},
+    {kTextReaderJulian, WordKind::kJulian},
+    {kTextReaderGregorian, WordKind::kGregorian},
+    {kTextReaderBeforeEra, WordKind::kBeforeEra},
+    {kTextReaderInEra, WordKind::kInEra},
+    {kTextReaderCivilYear, WordKind::kCivilYear},
 };
 
 bool ByText(const Phrase& a, const Phrase& b) { return a.text < b.text; }

@@ -68,10 +68,13 @@ bool ReadRomanDay(CAnswer& answer) {
   const std::size_t numbers = request.CountNumbers();
   if (month == nullptr || request.items.size() != numbers + 2 || numbers > 1) return false;
   const int day = DayOfMonth(named->value, month->value);
-  if (numbers == 0) {
+  const Item* const number = request.FirstOf(WordKind::kNumber);
+  if (number == nullptr) {
     answer.AddDate({request.selected.year, month->value, day});
+  } else if (number < named && !LooksLikeYear(*number)) {  // "le 15 des calendes": nothing is counted back
+    answer.Refuse(DateRefusal::kNotADate);
   } else {
-    answer.AddYears(*request.FirstOf(WordKind::kNumber), month->value, day);
+    answer.AddYears(*number, month->value, day);
   }
   return true;
 }

@@ -153,6 +153,20 @@ void AddSixDigits(CAnswer& answer, const Item& number) {
   if (Fits(numbers, answer.Asked().order)) AddInOrder(answer, numbers, answer.Asked().order);
 }
 
+// Reads eight digits with the year first. Where that is no date, the one with the year last is offered.
+void ReadEightDigits(CAnswer& answer, const Item& number) {
+  const YearMonthDay date = Unpack(number.value);
+  answer.AddDate(date);
+  answer.AddGregorianToo(date);
+  const int first = number.value / 1000000;
+  const int second = number.value / 10000 % 100;
+  const bool isMonthFirst = answer.Asked().order == 0;
+  const YearMonthDay yearLast = {number.value % 10000, isMonthFirst ? first : second,
+                                 isMonthFirst ? second : first};
+  if (!answer.HasReadings() && DoesDateExist(yearLast))
+    answer.Offer(Date(yearLast.year, yearLast.month, yearLast.day));
+}
+
 void AddDayNumber(CAnswer& answer, int dayNumber) {
   const int first = Date(kFirstDateShown).DayNumber();
   const int last = Date(kLastDateShown).DayNumber();
@@ -170,12 +184,7 @@ void ReadYear(CAnswer& answer, const Item& number) {
 void ReadOne(CAnswer& answer) {
   const Item& number = answer.Asked().items[0];
   if (CanBeYear(number) || answer.Asked().HasYearRemark()) return ReadYear(answer, number);
-  if (number.digits == kIsoDigits) {
-    const YearMonthDay date = Unpack(number.value);
-    answer.AddDate(date);
-    answer.AddGregorianToo(date);
-    return;
-  }
+  if (number.digits == kIsoDigits) return ReadEightDigits(answer, number);
   if (number.digits != kDateDigits && number.digits != kDayNumberDigits)
     return answer.Refuse(DateRefusal::kOutOfBounds);
   AddDayNumber(answer, number.value);

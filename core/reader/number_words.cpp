@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "core/republican.h"
 #include "core/text.h"
@@ -56,36 +57,34 @@ int ValueOfLetters(std::u16string_view letters) {
   return value > 0 && Folded(RomanNumeral(value)) == letters ? value : 0;
 }
 
-// Value of number words, taken one by one: "quatre vingt" are eighty, "dix sept cent" seventeen hundred.
+// Value of number words, taken one by one: "quatre vingt" are eighty, "dix sept cent" seventeen hundred. Both
+// parts end at kTooGreat, because every "cent" of a row multiplies.
 class CSpokenNumber {
  public:
   void Take(int word) {
     if (word == kThousand) {
-      m_thousands += std::max(m_rest, 1) * kThousand;
+      m_thousands = std::min(m_thousands + std::max(m_rest, kOne) * kThousand, kMost);
       m_rest = 0;
     } else if (word == kHundred) {
-      m_rest = std::max(m_rest, 1) * kHundred;
+      m_rest = std::min(std::max(m_rest, kOne) * kHundred, kMost);
     } else if (word == 20 && m_rest % kHundred == 4) {
       m_rest += 76;
     } else {
       m_rest += word;
     }
   }
-  int Value() const { return std::min(m_thousands + m_rest, kTooGreat); }
+  int Value() const { return static_cast<int>(std::min(m_thousands + m_rest, kMost)); }
 
  private:
-  int m_thousands = 0;
-  int m_rest = 0;
+  static constexpr std::int64_t kOne = 1;
+  static constexpr std::int64_t kMost = kTooGreat;
+
+  std::int64_t m_thousands = 0;
+  std::int64_t m_rest = 0;
 };
 
 bool IsNumberWord(const Item& item) {
   return item.kind == WordKind::kNumberWord || item.kind == WordKind::kSeptember;
-}
-
-bool HasMonth(const std::vector<Item>& items) {
-  return std::any_of(items.begin(), items.end(), [](const Item& item) {
-    return item.kind == WordKind::kMonth || item.kind == WordKind::kRepublicanMonth;
-  });
 }
 
 // Decides what "sept" and "mar" mean by the words beside them.

@@ -62,11 +62,12 @@ bool ReadWeekdayAlone(CAnswer& answer) {
   return true;
 }
 
-// Reads "-44": days from the selected date, and the year.
+// Reads "-44": days from the selected date, and the year. "l'an -44" is the year alone, and no matter here.
 bool ReadSigned(CAnswer& answer) {
   const Request& request = answer.Asked();
-  if (request.items.size() != 1 || !IsNumber(request.items[0]) || !HasSign(request.items[0])) return false;
+  if (request.items.size() != 1 || !IsNumber(request.items[0])) return false;
   const Item& number = request.items[0];
+  if (!HasSign(number) || number.isYear) return false;
   AddDays(answer, request.selected, SignedValue(number));
   if (number.isNegative && number.digits <= kMostYearDigits)
     answer.AddYears(number, request.selected.month, request.selected.day, true);

@@ -68,6 +68,9 @@ class CSorter {
         if (TakeYearWord()) return;
         m_request.items.push_back(item);
         break;
+      case WordKind::kToday:
+        if (!IsOpeningOfRecord(item)) m_request.items.push_back(item);
+        break;
       case WordKind::kMonths:
       case WordKind::kDay:
         if (!IsBeforeMonth()) m_request.items.push_back(item);
@@ -77,6 +80,9 @@ class CSorter {
     }
     ++m_at;
   }
+
+  // "aujourd'hui 14 juillet 1812", as records begin: the date behind it says which day that was.
+  bool IsOpeningOfRecord(const Item& today) const { return today.value == 0 && HasMonth(m_items); }
 
   // "le 14e jour du mois de mars": words between a day and its month.
   bool IsBeforeMonth() const {

@@ -1,6 +1,8 @@
 // Weeks of the year: "2024-W20-3", "semaine 20 2024".
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "core/civil_year.h"
 #include "core/reader/forms.h"
@@ -16,6 +18,12 @@ struct WeekDay {
   int week;
   int weekday;  // 1 Monday .. 7
 };
+
+// Returns whether the items are those of "20e semaine 2024", whose first number can be the week alone.
+bool IsWeekFirst(const std::vector<Item>& items) {
+  return items.size() == 3 && IsNumber(items[0]) && items[1].kind == WordKind::kWeek &&
+         items[0].value <= kMostWeeks && items[2].value > kMostWeeks;
+}
 
 int MondayBefore(int dayNumber) { return dayNumber - (WeekdayOfDayNumber(dayNumber) + 6) % kDaysInWeek; }
 
@@ -62,9 +70,10 @@ void AddWeek(CAnswer& answer, int year, WeekDay asked, bool isStandard) {
 
 bool ReadWeek(CAnswer& answer) {
   const Request& request = answer.Asked();
-  const std::vector<Item>& items = request.items;
   if (!request.Has(WordKind::kWeek)) return false;
+  std::vector<Item> items = request.items;
   const std::size_t numbers = request.CountNumbers();
+  if (IsWeekFirst(items)) std::swap(items[0], items[1]);
   const bool isYearFirst = IsNumber(items[0]);
   const std::size_t place = isYearFirst ? 1 : 0;  // of the word
   const bool isWeek = items.size() == numbers + 1 && items.size() > place + 1 &&

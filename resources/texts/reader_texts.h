@@ -26,25 +26,30 @@ inline constexpr TextEntry kReaderTexts[] = {
     {kTextPeriodDays, u"du %s au %s|1er"},
     {kTextFallsOn, u"Tombe %s.|%s en %s|aucun jour en %s|Ne tombe aucun jour en %s."},
     {kTextList, u", | et "},
-    {kTextReaderLittleWords, u"le,la,les,l,de,des,du,d,en,au,aux,a,et,ce,cet,cette,date,calendrier,grâce"},
+    {kTextReaderLittleWords,
+     u"le,la,les,l,de,des,du,d,en,au,aux,a,et,ce,cet,cette,date,calendrier,grâce,république,française,"
+     u"une indivisible"},
     {kTextReaderMonths,
-     u"janvier,janv,jan|février,févr,fév|mars|avril,avr|mai|juin|juillet,juil,jul|août,aout|"
-     u"septembre,septemb|octobre,oct,viiibre|novembre,nov,ixbre|décembre,déc,xbre"},
+     u"janvier,janv,jan|février,févr,fév,febvrier|mars|avril,avr,apvril|mai,may|juin,juing|juillet,juil,jul|"
+     u"août,aoust|"
+     u"septembre,septemb|octobre,oct|novembre,nov|décembre,déc"},
     {kTextReaderWeekdays,
      u"lundi,lun|mardi|mercredi,mer,merc|jeudi,jeu|vendredi,ven,vendr|samedi,sam|dimanche,dim"},
     {kTextReaderMarch, u"mar"},
     {kTextReaderSeptember, u"sept"},
     {kTextReaderNumbers,
-     u"un,une,premier,première|deux,deuxième,second,seconde|trois,troisième|quatre,quatrième|cinq,cinquième|"
-     u"six,sixième|septième|huit,huitième|neuf,neuvième|dix,dixième|onze,onzième|douze|treize|quatorze|"
-     u"quinze|seize|vingt,vingts|trente|quarante|cinquante|soixante|cent,cents|mille,mil"},
+     u"un,une,unième,premier,première|deux,deuxième,second,seconde|trois,troisième|quatre,quatrième|"
+     u"cinq,cinquième|six,sixième|septième|huit,huitième|neuf,neuvième|dix,dixième|onze,onzième|"
+     u"douze,douzième|treize,treizième|quatorze,quatorzième|quinze,quinzième|seize,seizième|"
+     u"vingt,vingts,vingtième|trente,trentième|quarante|cinquante|soixante|cent,cents,cens|mille,mil"},
     {kTextReaderDays, u"jour,jours"},
     {kTextReaderWeeks, u"semaine,semaines,sem,s,w"},
     {kTextReaderMonthsAsUnit, u"mois"},
     {kTextReaderYears, u"an,ans,année,années"},
     {kTextReaderIn, u"dans"},
     {kTextReaderAgo, u"il y,y"},
-    {kTextReaderTodays, u"avant hier|hier|aujourd hui,ce jour|demain|après demain"},
+    {kTextReaderTodays,
+     u"avant hier|hier|aujourd hui,jourd hui,jourd huy,cejourd hui,cejourd huy,ce jour|demain|après demain"},
     {kTextReaderNext, u"prochain,prochaine,suivant"},
     {kTextReaderLast, u"dernier,dernière,passé"},
     {kTextReaderFeasts,
