@@ -82,7 +82,7 @@ void CContentSearch::AddPeriods(int year, std::vector<SearchHit>& hits) const {
     return Unpack(period->ymdFrom).year <= year && year <= Unpack(period->ymdTo).year;
   });
   if (!isTouched) return;
-  const HolidayPeriod* before = nullptr;  // of the day before, where that is a hit
+  const HolidayPeriod* before = nullptr;  // period of the day before, where that is a hit
   const int last = Date(year, 12, 31).DayNumber();
   for (int n = Date(year, 1, 1).DayNumber(); n <= last; ++n) {
     const PackedDate day = DateOfDayNumber(n).Packed();

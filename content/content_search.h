@@ -25,8 +25,8 @@
 namespace orbisol {
 
 struct SearchHit {
-  PackedDate date = 0;      // of a period, its first day in the year
-  PackedDate lastDate = 0;  // of a period, its last day in the year without a gap; else `date`
+  PackedDate date = 0;      // day of a rule; first day of a period in the year
+  PackedDate lastDate = 0;  // last day of a period in the year without a gap; else `date`
   std::u16string text;      // names or title, as the cell shows them
 
   bool operator==(const SearchHit&) const = default;

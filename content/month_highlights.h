@@ -17,8 +17,8 @@ namespace orbisol {
 enum class HighlightKind { kHoliday, kEvent, kVacation, kMoon };
 
 struct Highlight {
-  PackedDate date = 0;      // of a vacation period its first day in the month
-  PackedDate lastDate = 0;  // of a vacation period the last of its days in the month; else `date`
+  PackedDate date = 0;      // day of a rule; first day of a vacation period in the month
+  PackedDate lastDate = 0;  // last day of a vacation period in the month; else `date`
   HighlightKind kind = HighlightKind::kHoliday;
   std::u16string text;  // names joined by " + ", the title of the period, the name of the phase; never empty
 

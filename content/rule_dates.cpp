@@ -53,7 +53,7 @@ class CCandidates {
   const DayEvent& m_rule;
   int m_year;
   std::vector<PackedDate>& m_days;
-  std::size_t m_begin;  // of this year's days
+  std::size_t m_begin;  // index of the first day of this year
 };
 
 // Returns the last day up to `last` that has a weekday (1 Monday .. 7); both are day numbers.

@@ -40,16 +40,16 @@ enum class DateNote {
   kMissing,         // `typed` was dropped by the reform, and counts as a Julian date
   kDayNumber,       // the day with the Julian day number `number`
   kDayOfYear,       // the day `number` of the year
-  kWeek,            // of the week `number` of the year typed.year
+  kWeek,            // a day of the week `number` of the year typed.year
   kRepublican,      // `typed` holds year, month 1..13 and day
   kFeast,           // `number` days after Easter Sunday, `typed`
 };
 
 struct DateReading {
-  PackedDate date = 0;  // of the calendar in force, within the years shown; exists
+  PackedDate date = 0;  // day of the calendar in force, within the years shown; exists
   DateNote note = DateNote::kNone;
-  YearMonthDay typed = {0, 0, 0};  // as `note` says
-  int number = 0;                  // as `note` says
+  YearMonthDay typed = {0, 0, 0};  // date that `note` tells of
+  int number = 0;                  // number that `note` tells of
   bool isMarked = false;           // true where the text named the calendar
   bool isOtherWeekday = false;     // true where the text names another weekday than the day's, or another day
                                    // of the décade

@@ -1,4 +1,4 @@
-// What changes when one state of a calendar takes the place of another, as a list and in words.
+// The differences between two states of a calendar, as a list and in words.
 //
 //   const CalendarDifference difference = DifferenceOf(now, version);
 //   difference.comingRules;                 // those that `version` alone holds

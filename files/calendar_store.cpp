@@ -134,7 +134,8 @@ bool CCalendarStore::DropName(std::u16string_view name, std::u16string_view othe
   const auto lock = m_files.LockFolderOf(PathOf(name));
   const std::optional<FileBytes> file = m_files.Read(PathOf(name));
   const std::optional<FileBytes> other = m_files.Read(PathOf(otherName));
-  if (!other || (file && file->stamp != other->stamp) || !m_files.Remove(PathOf(name))) return false;
+  const bool isOther = file ? other && file->stamp != other->stamp : m_files.Exists(PathOf(name));
+  if (!other || isOther || !m_files.Remove(PathOf(name))) return false;
   m_stamps.erase(PathOf(name));
   return true;
 }

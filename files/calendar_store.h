@@ -99,9 +99,9 @@ class CCalendarStore {
   //   }
   //
   // AddName() gives the file a second name. Returns false when there is no such file, or one of the new name.
-  // DropName() removes a name. Returns false when the two no longer have the same bytes: somebody saves under
-  // the first, and both stay. MoveVersions() moves the backups and, to a calendar that has none of its own,
-  // the versions.
+  // DropName() removes a name. Returns false when the two no longer have the same bytes, because somebody
+  // saves under the first, or when that cannot be found out; both stay. MoveVersions() moves the backups and,
+  // to a calendar that has none of its own, the versions.
   bool AddName(std::u16string_view name, std::u16string_view newName);
   bool DropName(std::u16string_view name, std::u16string_view otherName);
   void MoveVersions(std::u16string_view name, std::u16string_view newName);

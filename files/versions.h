@@ -34,9 +34,9 @@ struct CalendarVersion {
   bool operator==(const CalendarVersion&) const = default;
 };
 
-constexpr std::size_t kNewestVersions = 10;              // that differ
+constexpr std::size_t kNewestVersions = 10;              // number of those kept that differ
 constexpr std::size_t kVersionDays = 7;                  // before the day of the newest, one version each
-constexpr std::uint64_t kMostVersionBytes = 50'000'000;  // of one calendar
+constexpr std::uint64_t kMostVersionBytes = 50'000'000;  // size of all those of one calendar
 
 // Returns those versions that are to be removed. Kept are the newest ten that differ, and the last of each of
 // the seven latest days before the day of the newest; of these, from the newest on, as many as fit into the

@@ -14,10 +14,12 @@ namespace orbisol {
 std::vector<std::u16string> CDesktopFiles::List(std::u16string_view folder,
                                                 std::u16string_view ending) const {
   std::vector<std::u16string> names;
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(PathBytes(folder), error)) {
-    std::u16string name = PathText(entry.path().filename().native());
-    if (name.ends_with(ending) && entry.is_regular_file(error)) names.push_back(std::move(name));
+  const std::filesystem::path path = PathBytes(folder);
+  for (const std::string& bytes : NamesIn(path.native()).value_or(std::vector<std::string>())) {
+    std::u16string name = PathText(bytes);
+    std::error_code error;
+    if (name.ends_with(ending) && std::filesystem::is_regular_file(path / bytes, error))
+      names.push_back(std::move(name));
   }
   return names;
 }

@@ -6,6 +6,8 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/descriptor.h"
 #include "platform/path_text.h"
@@ -22,10 +24,24 @@ bool IsFree(const std::string& path) {
 bool CopyToNewName(const std::string& path, const std::string& newPath) {
   const std::optional<FileBytes> file = ReadWholeFile(path);
   const FileStamp missing;
-  return file && ReplaceFile(newPath, file->bytes, &missing, nullptr, path) == WriteResult::kWritten;
+  if (!file) return false;
+  const WriteResult result = ReplaceFile(newPath, file->bytes, &missing, nullptr, path);
+  if (result == WriteResult::kNotSynced) unlink(newPath.c_str());
+  return result == WriteResult::kWritten;
 }
 
 }  // namespace
+
+std::optional<std::vector<std::string>> NamesIn(const std::string& folder) {
+  using std::filesystem::directory_iterator;
+  std::vector<std::string> names;
+  std::error_code error;
+  // A range-based loop would throw where the folder cannot be read on.
+  for (directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+    names.push_back(entry->path().filename().native());
+  if (error) return {};
+  return names;
+}
 
 std::optional<std::uint64_t> FileSize(const std::string& path) {
   struct stat status;
@@ -34,8 +50,11 @@ std::optional<std::uint64_t> FileSize(const std::string& path) {
 }
 
 bool AddFileName(const std::string& path, const std::string& newPath) {
-  if (Repeat([&] { return linkat(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str(), 0); }) == 0)
-    return SyncFolder(FolderOf(newPath));
+  if (Repeat([&] { return linkat(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str(), 0); }) == 0) {
+    if (SyncFolder(FolderOf(newPath))) return true;
+    unlink(newPath.c_str());
+    return false;
+  }
   if (errno == EEXIST || errno == ENOENT) return false;
   return CopyToNewName(path, newPath);
 }

@@ -7,14 +7,19 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace orbisol {
+
+// Returns the names of all that a folder holds, in any order; nothing where that cannot be read to its end.
+std::optional<std::vector<std::string>> NamesIn(const std::string& folder);
 
 // Returns the number of bytes of a file; nothing when it is missing.
 std::optional<std::uint64_t> FileSize(const std::string& path);
 
 // Gives a file, or a link as such, a second name on the same file system. Where files have one name only the
-// file is copied with its rights. Returns false when something has the new name already.
+// file is copied with its rights. Returns false when that is not sure, as where something has the new
+// name already; the new name is then not left behind.
 bool AddFileName(const std::string& path, const std::string& newPath);
 
 // Removes a name of a file. Returns true when there is none afterwards.

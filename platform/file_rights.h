@@ -1,4 +1,4 @@
-// Who may do what with a file, carried over from the file that it replaces or copies: owner, group,
+// The rights to a file, carried over from the file that it replaces or copies: owner, group,
 // permissions, access list and the attributes that programs and users have attached to it (user.*).
 #pragma once
 

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "files/byte_hash.h"
+#include "platform/file_names.h"
 #include "platform/file_rights.h"
 #include "platform/path_text.h"
 
@@ -110,10 +111,11 @@ bool IsStale(const std::string& name) {
 
 // Removes temporary files that killed processes left behind. Nothing depends on its success.
 void RemoveStaleTemporaries(const std::string& folder) {
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-    if (IsStale(entry.path().filename().string()) && entry.is_regular_file(error))
-      unlink(entry.path().c_str());
+  for (const std::string& name : NamesIn(folder).value_or(std::vector<std::string>())) {
+    const std::string path = folder + "/" + name;
+    std::error_code error;
+    if (IsStale(name) && std::filesystem::is_regular_file(path, error)) unlink(path.c_str());
+  }
 }
 
 // Lock of a folder. If another program holds it for too long, the save goes on without it.

@@ -21,8 +21,8 @@ namespace orbisol {
 struct InstancePlace {
   std::string folder;                        // empty: every start is the first
   std::string display;                       // a second start on another display is a first one there
-  std::string token;                         // of the desktop, handed to the first; empty for none
-  std::chrono::milliseconds patience{2000};  // with a first that does not answer
+  std::string token;                         // token of the desktop, handed to the first; empty for none
+  std::chrono::milliseconds patience{2000};  // time to wait for a first that does not answer
 };
 
 enum class InstanceRole {
@@ -52,7 +52,7 @@ class CSingleInstance {
 
   CDescriptor m_lock;
   CDescriptor m_socket;
-  std::string m_path;  // of the socket, while it is ours
+  std::string m_path;  // path of the socket, while it is ours
   InstanceRole m_role = InstanceRole::kFirst;
 };
 

@@ -4,13 +4,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
+#include "platform/file_names.h"
 #include "platform/posix_file.h"
 
 namespace orbisol {
@@ -79,26 +82,23 @@ bool CopyFile(const std::string& from, const std::string& to) {
 }
 
 bool CopyFolder(const std::string& from, const std::string& to) {
-  std::error_code error;
-  if (!MakeFolders(to)) return false;
-  for (const auto& entry : std::filesystem::directory_iterator(from, error))
-    if (!CopyFile(entry.path().native(), to + "/" + entry.path().filename().native())) return false;
-  return !error;
+  const std::optional<std::vector<std::string>> names = NamesIn(from);
+  return names && MakeFolders(to) && std::all_of(names->begin(), names->end(), [&](const std::string& name) {
+           return CopyFile(from + "/" + name, to + "/" + name);
+         });
 }
 
 // Moves a file or a folder to a name that is not in use. rename() cannot leave a file system: there all is
-// copied, and removed only when the copies are on the disk.
+// copied, and removed only when the copies are on the disk. What of a folder cannot be removed then stays
+// beside its copy: the copy is whole, and what is left may not be.
 bool Move(const std::string& from, const std::string& to, bool isFolder) {
   if (Repeat([&] { return rename(from.c_str(), to.c_str()); }) == 0) return true;
   if (errno != EXDEV) return false;
   std::error_code error;
   if (isFolder) {
-    if (CopyFolder(from, to)) {
-      std::filesystem::remove_all(from, error);
-      return !error;
-    }
-    std::filesystem::remove_all(to, error);
-    return false;
+    const bool isCopied = CopyFolder(from, to);
+    std::filesystem::remove_all(isCopied ? from : to, error);
+    return isCopied;
   }
   if (CopyFile(from, to) && unlink(from.c_str()) == 0) return true;
   unlink(to.c_str());

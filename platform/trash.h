@@ -17,7 +17,8 @@ namespace orbisol {
 // Returns true when the file is in the trash and no more where it was. `trash` is the trash folder itself and
 // is made when missing. A link goes as a link. From another file system the file, or the one that a link
 // points to, is copied with its rights, and removed only when the copy is on the disk. A folder goes with the
-// files in it; from another file system it stays where it holds folders of its own.
+// files in it; from another file system it stays where it holds folders of its own, and of the files that
+// were copied those stay too that cannot be removed.
 bool MoveToTrashFolder(const std::string& path, const std::string& trash, const LocalMoment& when);
 
 }  // namespace orbisol

@@ -6,7 +6,7 @@
 //   SaveOutcome outcome = SaveSettings(store, calendars, Display(), Rules(), Content());
 //   if (outcome.calendar == WriteResult::kChanged) …  // ask
 //
-// What belongs to a calendar lies in its file (files/calendar_store.h), all else under the key
+// All that belongs to a calendar lies in its file (files/calendar_store.h), all else under the key
 // (settings_store.h). Both functions must be given the same CCalendarStore: it remembers the file as it was
 // read.
 #pragma once

@@ -21,7 +21,7 @@ constexpr int kTooGreat = 1000000000;
 struct Item {
   WordKind kind = WordKind::kNone;
   int value = 0;
-  int digits = 0;           // of a number written in digits, else 0
+  int digits = 0;           // count of them in a number written in digits, else 0
   bool isNegative = false;  // a minus sign right before the number
   bool isPositive = false;  // a plus sign
   bool hasApostrophe = false;

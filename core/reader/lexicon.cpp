@@ -21,7 +21,7 @@ struct Table {
   int textId;  // groups parted by "|", spellings of one word by ","
   WordKind kind;
   int first = 0;                // value of the first group; the next ones count on
-  const int* values = nullptr;  // of the groups, where they do not count
+  const int* values = nullptr;  // values of the groups, where they do not count on
 };
 
 constexpr Table kTables[] = {

@@ -55,7 +55,7 @@ struct Word {
 struct Phrase {
   std::u16string text;
   Word word;          // kNone where the text only begins longer phrases
-  int mostWords = 1;  // of the phrases that begin with this word
+  int mostWords = 1;  // length of the longest phrase that begins with this word
 };
 
 // Returns the phrase with this text; null where there is none.

@@ -20,7 +20,7 @@ struct Request {
 
   std::vector<Item> items;  // without what the fields below hold
   Date selected;
-  int order = 1;  // of three numbers, as Date::dateOrder, within 0..2
+  int order = 1;  // order of three numbers, as Date::dateOrder, within 0..2
 
   int weekday = 0;    // 1 Monday .. 7; 0 where none is named
   int decadeDay = 0;  // 1..10; 0 likewise

@@ -75,7 +75,7 @@ bool ReadWeek(CAnswer& answer) {
   const std::size_t numbers = request.CountNumbers();
   if (IsWeekFirst(items)) std::swap(items[0], items[1]);
   const bool isYearFirst = IsNumber(items[0]);
-  const std::size_t place = isYearFirst ? 1 : 0;  // of the word
+  const std::size_t place = isYearFirst ? 1 : 0;  // index of the word
   const bool isWeek = items.size() == numbers + 1 && items.size() > place + 1 &&
                       items[place].kind == WordKind::kWeek && numbers <= (isYearFirst ? 3U : 2U) &&
                       request.calendar == Calendar::kInForce && !request.civilYear;

@@ -1,4 +1,4 @@
-// What is stored of a range marks exactly what was entered.
+// The records of a range mark exactly what was entered.
 
 #include "content/record_range.h"
 

@@ -30,7 +30,7 @@ FakeLocale English() {
   return locale;
 }
 
-// What the rows from an "@" line on are read under.
+// The state under which the rows from an "@" line on are read.
 struct Scene {
   PackedDate today = 20240515;
   PackedDate selected = 20240515;
@@ -136,7 +136,7 @@ bool HasDay(const DateReadings& read, PackedDate date) {
   return false;
 }
 
-// What the program prints for a day, and whether that names no other day.
+// A text that the program prints for a day, and whether it names no other day.
 struct Printed {
   std::u16string text;
   bool isAlone;

@@ -176,6 +176,9 @@ TEST_F(SavedVersionsTest, VersionsFollowTheirCalendar) {
   ASSERT_TRUE(store.AddName(u"a", u"C"));
   files.Put(u"/user/a.xml", BytesWith(u"of another program"));
   EXPECT_FALSE(store.DropName(u"a", u"C"));
+  files.unreadable = {u"/user/a.xml"};
+  EXPECT_FALSE(store.DropName(u"a", u"C"));
+  files.unreadable.clear();
   EXPECT_TRUE(store.Exists(u"a") && store.Exists(u"C")) << "nobody's bytes are lost";
 
   EXPECT_TRUE(store.Delete(u"a"));

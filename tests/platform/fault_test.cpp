@@ -121,6 +121,32 @@ TEST(FaultTest, TheStoreIsTheOldOneOrTheNewOne) {
   ForEachFault({EIO, ENOSPC, EACCES, EPERM, EINTR, kShortFault, kKillFault}, 2, step, prepare, check);
 }
 
+// The versions of a calendar go as a folder. On most machines the two folders lie on different file systems,
+// so that it is copied.
+TEST(FaultTest, AFolderIsWholeInItsPlaceOrInTheTrash) {
+  const CTestFolder onDisk(std::getenv("TMPDIR"));
+  const CTestFolder inMemory;
+  const std::string trash = inMemory / "Trash";
+  const std::string moved = onDisk / "versions/A";
+  const auto isWhole = [](const std::string& place) {
+    return BytesOf(place + "/1.xml") == kOld && BytesOf(place + "/2.xml") == kNew;
+  };
+  const auto prepare = [&] {
+    fs::remove_all(trash);
+    PutFile(moved + "/1.xml", kOld);
+    PutFile(moved + "/2.xml", kNew);
+  };
+  const auto check = [&](const Outcome& outcome) {
+    const bool inTrash = isWhole(trash + "/files/A");
+    EXPECT_TRUE(inTrash || isWhole(moved));
+    EXPECT_TRUE(outcome.isDone == inTrash || outcome.isKilled);
+    EXPECT_TRUE(inTrash == fs::exists(trash + "/info/A.trashinfo") || outcome.isKilled ||
+                std::string_view(outcome.failed) == "unlink");
+  };
+  const Step step = [&] { return MoveToTrashFolder(moved, trash, {{2024, 5, 1}, 7, 8, 9}); };
+  ForEachFault({EIO, ENOSPC, kKillFault}, 4, step, prepare, check);
+}
+
 TEST(FaultTest, AFileIsInItsPlaceOrInTheTrash) {
   const CTestFolder folder;
   const std::string file = folder / "file.xml";

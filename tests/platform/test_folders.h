@@ -18,7 +18,8 @@ namespace orbisol {
 // and a busy disk would be slow. It is removed with its content at the end.
 class CTestFolder {
  public:
-  CTestFolder() : m_path(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : std::getenv("TMPDIR")) {
+  CTestFolder() : CTestFolder(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : std::getenv("TMPDIR")) {}
+  explicit CTestFolder(const char* place) : m_path(place) {
     m_path += "/orbisol-test-XXXXXX";
     EXPECT_NE(mkdtemp(m_path.data()), nullptr);
   }

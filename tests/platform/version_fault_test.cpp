@@ -74,7 +74,10 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
     PutFile(folders.versions + "/A/version", "kept");
     PutFile(remembered, "A");
   };
+  bool isNamedTwice = false;
   const auto check = [&](const Outcome& outcome) {
+    const bool mayLeave = isNamedTwice || outcome.isKilled || std::string_view(outcome.failed) == "unlink";
+    EXPECT_TRUE(mayLeave || FileCount(folders.calendars) == 1u) << "a name that was refused is left";
     EXPECT_EQ(BytesOf(folders.calendars + "/" + BytesOf(remembered) + ".xml"), bytes);
     EXPECT_TRUE(BytesOf(folders.versions + "/A/version") == "kept" ||
                 BytesOf(folders.versions + "/B/version") == "kept");
@@ -83,7 +86,8 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
   CDesktopFiles files(folders.trash);
   const Step step = [&] {
     CCalendarStore calendars(files, CalendarFoldersOf(folders));
-    if (!calendars.AddName(u"A", u"B")) return false;
+    isNamedTwice = calendars.AddName(u"A", u"B");
+    if (!isNamedTwice) return false;
     if (ReplaceFile(remembered, "B", nullptr, nullptr) != WriteResult::kWritten) return false;
     if (!calendars.DropName(u"A", u"B")) return false;
     calendars.MoveVersions(u"A", u"B");

@@ -152,6 +152,10 @@ DIR* opendir(const char* path) {
   static const auto real = Real<DIR*(const char*)>("opendir");
   return Fails("opendir") ? nullptr : real(path);
 }
+struct dirent* readdir(DIR* folder) {
+  static const auto real = Real<struct dirent*(DIR*)>("readdir");
+  return Fails("readdir") ? nullptr : real(folder);
+}
 
 }  // extern "C"
 // NOLINTEND(readability-inconsistent-declaration-parameter-name)
