@@ -87,7 +87,7 @@ void CContentSearch::AddPeriods(int year, std::vector<SearchHit>& hits) const {
   for (int n = Date(year, 1, 1).DayNumber(); n <= last; ++n) {
     const PackedDate day = DateOfDayNumber(n).Packed();
     const HolidayPeriod* const period = PeriodOfDay(m_content.vacations, day);
-    const bool isHit = period != nullptr && Holds(period->title.View());
+    const bool isHit = std::find(m_periods.begin(), m_periods.end(), period) != m_periods.end();
     if (isHit && period == before) {
       hits.back().lastDate = day;
     } else if (isHit) {

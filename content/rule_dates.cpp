@@ -118,15 +118,6 @@ std::vector<PackedDate> RuleDatesInYear(const DayEvent& rule, int year) {
   return days;
 }
 
-std::vector<PackedDate> RuleDates(const DayEvent& rule, PackedDate from, PackedDate to) {
-  std::vector<PackedDate> days;
-  const int first = std::max(Unpack(from).year, FirstYear(rule));
-  const int last = std::min(Unpack(to).year, LastYear(rule));
-  for (int year = first; year <= last; ++year) AppendRuleDates(rule, year, days);
-  std::erase_if(days, [&](PackedDate day) { return Precedes(day, from) || Precedes(to, day); });
-  return days;
-}
-
 PackedDate NextRuleDate(const DayEvent& rule, PackedDate after) {
   std::vector<PackedDate> days;
   for (int year = std::max(Unpack(after).year, FirstYear(rule)); year <= LastYear(rule); ++year) {
@@ -134,17 +125,6 @@ PackedDate NextRuleDate(const DayEvent& rule, PackedDate after) {
     AppendRuleDates(rule, year, days);
     for (const PackedDate day : days)
       if (Precedes(after, day)) return day;
-  }
-  return 0;
-}
-
-PackedDate PreviousRuleDate(const DayEvent& rule, PackedDate before) {
-  std::vector<PackedDate> days;
-  for (int year = std::min(Unpack(before).year, LastYear(rule)); year >= FirstYear(rule); --year) {
-    days.clear();
-    AppendRuleDates(rule, year, days);
-    std::erase_if(days, [&](PackedDate day) { return !Precedes(day, before); });
-    if (!days.empty()) return days.back();
   }
   return 0;
 }

@@ -2,9 +2,7 @@
 // to the matcher (day_rules.h). It answers as if every day of every month's page had been asked.
 //
 //   RuleDatesInYear(easterMonday, 2024);                // {20240401}
-//   RuleDates(easterMonday, 20240101, 20261231);        // {20240401, 20250421, 20260406}
 //   NextRuleDate(easterMonday, 20240401);               // 20250421: after that day
-//   PreviousRuleDate(easterMonday, 20240401);           // 20230410: before it
 //
 //   std::vector<PackedDate> days;                       // of many rules, without a vector for each
 //   for (const DayEvent& rule : rules) AppendRuleDates(rule, 2024, days);
@@ -30,12 +28,8 @@ void AppendRuleDates(const DayEvent& rule, int year, std::vector<PackedDate>& da
 
 std::vector<PackedDate> RuleDatesInYear(const DayEvent& rule, int year);
 
-// Returns the days of a rule from `from` to `to`, both included; empty where `from` comes after `to`.
-std::vector<PackedDate> RuleDates(const DayEvent& rule, PackedDate from, PackedDate to);
-
-// Return the first day of a rule after a date, and the last one before it; 0 for none. Only the years in
-// which the rule is valid are gone through.
+// Returns the first day of a rule after a date; 0 for none. Only the years in which the rule is valid are
+// gone through.
 PackedDate NextRuleDate(const DayEvent& rule, PackedDate after);
-PackedDate PreviousRuleDate(const DayEvent& rule, PackedDate before);
 
 }  // namespace orbisol

@@ -117,10 +117,6 @@ std::u16string PlainDateText(PackedDate ymd) {
   return DayAndMonth(date.month, date.day) + u' ' + DecimalText(date.year);
 }
 
-std::u16string RuleKindText(DayEventType type) {
-  return std::u16string(TextPiece(kTextRuleKinds, static_cast<int>(type)));
-}
-
 std::u16string RuleDayText(const DayEvent& rule) {
   if (!IsTellable(rule)) return std::u16string(StringText(kTextNoRuleDay));
   enum { kItself, kNotWeekend, kNotSunday };

@@ -23,9 +23,6 @@
 
 namespace orbisol {
 
-// Returns the label of a kind as the chooser of kinds shows it; empty for a number that is no kind.
-std::u16string RuleKindText(DayEventType type);
-
 // Returns the day that a rule names, without its validity: "le 1er lundi d'octobre". A rule that can fall on
 // no day, as one of month 0 that a file may hold, says so: "aucun jour".
 std::u16string RuleDayText(const DayEvent& rule);
