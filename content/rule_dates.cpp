@@ -79,16 +79,15 @@ void AppendRuleDates(const DayEvent& rule, int year, std::vector<PackedDate>& da
     case DayEventType::kFixedDate:
       candidates.TryDate(rule.month, day);
       break;
-    case DayEventType::kRomanEaster:
-      if (year >= kFirstEasterYear) {
-        Date easter(year, 1, 1);
-        RomanEaster(easter);
-        candidates.TryDayNumber(easter.DayNumber() + day);
-      }
+    case DayEventType::kRomanEaster: {
+      Date easter(year, 1, 1);
+      RomanEaster(easter);
+      candidates.TryDayNumber(easter.DayNumber() + day);
       break;
+    }
     case DayEventType::kOrthodoxEaster: {
       const YearMonthDay easter = Unpack(OrthodoxEaster(year, rule.day));
-      if (easter.year == year) candidates.TryDate(easter.month, easter.day);
+      candidates.TryDate(easter.month, easter.day);
       break;
     }
     case DayEventType::kNthWeekday:

@@ -85,7 +85,7 @@ struct DateReadings {
 // Reads a text. `selected` (within the years shown) gives what the text leaves out: "15 mars", "1789".
 DateReadings ReadDates(std::u16string_view text, PackedDate selected);
 
-// Returns the day of a reading, unmistakably: "dimanche 15 mars −44 (45 av. J.-C.), julien". French, whatever
+// Returns the day of a reading, unmistakably: "mardi 15 mars −44 (45 av. J.-C.), julien". French, whatever
 // the locale is. The year is the one that begins on 1 January; a civil year that differs is named beside it.
 std::u16string ReadingText(const DateReading& reading);
 

@@ -32,7 +32,7 @@ bool BackUp(FileSystem& files, std::u16string_view path, std::string_view bytes)
 }
 
 void RenameBackups(FileSystem& files, std::u16string_view path, std::u16string_view newPath) {
-  for (int number = 0; files.Exists(BackupPath(path, number)); ++number)
+  for (int number = 0; files.SizeOf(BackupPath(path, number)); ++number)
     if (files.AddName(BackupPath(path, number), BackupPath(newPath, number)))
       files.Remove(BackupPath(path, number));
 }

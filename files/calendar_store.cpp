@@ -23,9 +23,11 @@ bool CCalendarStore::Exists(std::u16string_view name) const {
 }
 
 std::u16string CCalendarStore::FreeName(std::u16string_view name) const {
+  constexpr int kMostNumbers = 10000;  // in a folder that is closed to the user every name may exist
   const std::u16string known = CalendarNameOrDefault(name);
-  for (int number = 2;; ++number)
-    if (const std::u16string free = NumberedName(known, number); !Exists(free)) return free;
+  int number = 2;
+  while (number < kMostNumbers && Exists(NumberedName(known, number))) ++number;
+  return NumberedName(known, number);
 }
 
 std::optional<std::string> CCalendarStore::BytesOf(std::u16string_view name) const {

@@ -58,7 +58,8 @@ class CCalendarStore {
 
   bool Exists(std::u16string_view name) const;
 
-  // Returns a name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)".
+  // Returns a name that no file bears yet: "Famille (2)" for "Famille" and for "Famille (1)". Where that
+  // cannot be found out it is any name, and no file can be made.
   std::u16string FreeName(std::u16string_view name) const;
 
   // Returns the bytes of a calendar's file; nothing when it is missing or cannot be read. Saving remembers

@@ -80,14 +80,13 @@ std::vector<CalendarVersion> SurplusVersions(std::span<const CalendarVersion> ve
   std::vector<std::uint64_t> newest;
   std::vector<YearMonthDay> days;
   std::uint64_t bytes = 0;
-  bool fits = true;
   for (const CalendarVersion& version : versions) {
     const bool isAmongNewest = newest.size() < kNewestVersions && AddIfNew(newest, version.hash);
     const bool isEarlierDay = version.kept.day != versions.front().kept.day;
     const bool isLastOfDay = isEarlierDay && days.size() < kVersionDays && AddIfNew(days, version.kept.day);
     const bool isWanted = isAmongNewest || isLastOfDay;
-    if (isWanted) fits = fits && (bytes += version.size) <= kMostVersionBytes;
-    if (!isWanted || !fits) surplus.push_back(version);
+    if (isWanted) bytes += version.size;
+    if (!isWanted || bytes > kMostVersionBytes) surplus.push_back(version);
   }
   return surplus;
 }

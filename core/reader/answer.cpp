@@ -210,7 +210,7 @@ void CAnswer::AddGregorianDay(int dayNumber) {
   DateReading reading;
   reading.note = DateNote::kFromGregorian;
   reading.typed = GregorianDate(dayNumber);
-  if (m_request.calendar == Calendar::kInForce) Add(date, reading, false);
+  Add(date, reading, false);
 }
 
 void CAnswer::AddDay(const Date& date, const DateReading& reading) { Add(date, reading, false); }

@@ -118,6 +118,7 @@ void ReadTwo(CAnswer& answer) {
   const Item& second = request.items[1];
   const bool isOrdinal = second.separator == u'-' && second.digits == kOrdinalDigits &&
                          (first.digits == kMostYearDigits || HasSign(first));
+  if (isOrdinal && request.calendar != Calendar::kInForce) return answer.Refuse(DateRefusal::kNotADate);
   if (isOrdinal) return ReadDayOfYear(answer, first, second.value);
   if (LooksLikeYear(first) || LooksLikeYear(second)) {
     const bool isYearFirst = LooksLikeYear(first);

@@ -71,6 +71,10 @@ TEST(ContentSearchTest, HitsAreTheDaysWhoseCellsShowTheWord) {
                            1583,  1655, 1752, 1800, 1835, 1900, 2023, 2024, 2025, 3999})
       EXPECT_EQ(DaysOf(search.HitsInYear(year)), ShownInYear(content, year)) << year;
   }
+  CalendarContent twins;
+  twins.vacations = {{20240701, 20240710, NameText()}, {20240711, 20240720, NameText()}};
+  for (HolidayPeriod& period : twins.vacations) period.title.Set(u"Fête");
+  EXPECT_EQ(CContentSearch(twins, u"fête").HitsInYear(2024).size(), 2u) << "one behind the other";
 }
 
 // Return the nearest hit of all years.

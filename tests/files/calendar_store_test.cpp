@@ -158,6 +158,9 @@ TEST_F(CalendarStoreTest, AFreeNameCountsOnFromTheName) {
   files.Put(u"/user/A (3).xml", "");
   EXPECT_EQ(store.FreeName(u"A (3)"), u"A (4)");
   EXPECT_EQ(store.FreeName(u"A (b)"), u"A (b) (2)");
+  files.isClosed = true;
+  EXPECT_EQ(Save(u"one", IfChanged::kKeepBoth), WriteResult::kFailed) << "and does not look for ever";
+  files.isClosed = false;
   EXPECT_EQ(store.FreeName(std::u16string(196, u'a') + u"🎂"), std::u16string(196, u'a') + u" (2)");
 }
 

@@ -40,6 +40,10 @@ TEST_F(VersionsTest, AFileIsNamedByTimeCountAndHash) {
             (std::vector<CalendarVersion>{{{{2026, 5, 13}, 7, 8, 9}, 18, 0xCBF29CE484222325, 0},
                                           {{{2026, 5, 13}, 14, 5, 9}, 17, 0x85944171F73967E8, 6}}));
   EXPECT_EQ(files.files.size(), 5u) << "what is no version is left alone";
+  files.Put(u"/versions/B/2026-05-13 14.05.09 999999 85944171f73967e8.xml", "foobar");
+  EXPECT_TRUE(versions.Keep(u"B", "last", {{2026, 5, 14}, 0, 0, 0}));
+  EXPECT_EQ(Kept(u"B"), (std::vector<std::string>{"last", "foobar"}))
+      << "the count ends, the versions do not";
 }
 
 TEST_F(VersionsTest, EachCalendarHasAFolderOfItsOwn) {
@@ -122,9 +126,10 @@ class SavedVersionsTest : public testing::Test {
 };
 
 TEST_F(SavedVersionsTest, ASaveKeepsTheBytesThatItReplaces) {
-  for (const char16_t* rule : {u"one", u"two", u"two", u"three"})
-    EXPECT_EQ(Save(rule), WriteResult::kWritten);
-  EXPECT_EQ(Kept(u"A"), "two one ") << "the same bytes again replace nothing";
+  for (const char16_t* rule : {u"one", u"two", u"two"}) EXPECT_EQ(Save(rule), WriteResult::kWritten);
+  EXPECT_EQ(Kept(u"A"), "one ") << "the same bytes again replace nothing";
+  EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
+  EXPECT_EQ(Kept(u"A"), "two one ");
   files.Put(u"/user/A.xml", BytesWith(u"theirs"));
   EXPECT_EQ(Save(u"four"), WriteResult::kChanged);
   files.failingWrites = {u"/user/A.xml"};
@@ -166,6 +171,7 @@ TEST_F(SavedVersionsTest, VersionsFollowTheirCalendar) {
   ASSERT_TRUE(store.AddName(u"A", u"a"));
   EXPECT_EQ(store.BytesOf(u"A"), store.BytesOf(u"a")) << "a crash here loses nothing";
   ASSERT_TRUE(store.DropName(u"A", u"a"));
+  files.Put(u"/versions/a/2026-05-13 14.05.09 000017 85944171f73967e8.xml", "of an older calendar");
   store.MoveVersions(u"A", u"a");
   EXPECT_FALSE(store.Exists(u"A"));
   EXPECT_EQ(Kept(u"a"), "one ");
@@ -183,7 +189,7 @@ TEST_F(SavedVersionsTest, VersionsFollowTheirCalendar) {
 
   EXPECT_TRUE(store.Delete(u"a"));
   EXPECT_EQ(Kept(u"a"), "");
-  EXPECT_EQ(files.trash.size(), 3u) << "the calendar and its two versions";
+  EXPECT_EQ(files.trash.size(), 4u) << "the calendar, its two versions and the one of an older calendar";
 }
 
 TEST_F(SavedVersionsTest, ANewCalendarOfAnOldNameBeginsWithout) {
@@ -196,6 +202,12 @@ TEST_F(SavedVersionsTest, ANewCalendarOfAnOldNameBeginsWithout) {
   EXPECT_EQ(later.Save(u"A", CalendarWith(u"new"), IfChanged::kRefuse).result, WriteResult::kWritten);
   EXPECT_EQ(Kept(u"A"), "");
   EXPECT_EQ(files.trash.size(), 1u);
+
+  for (const char16_t* rule : {u"four", u"five"})
+    store.Save(u"A (2)", CalendarWith(rule), IfChanged::kRefuse);
+  files.files.erase(u"/user/A (2).xml");
+  EXPECT_EQ(store.Save(u"A", CalendarWith(u"six"), IfChanged::kKeepBoth).name, u"A (2)");
+  EXPECT_EQ(Kept(u"A (2)"), "") << "a copy kept beside is a new calendar";
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ class CMemoryFiles : public FileSystem {
   std::function<void()> beforeLock;        // act of another copy of the program, before the lock; called once
   std::function<void()> beforeReplace;     // act of another program, at the last moment; called once
   std::u16string lastModel;                // path of the file whose rights the file last written was to take
+  bool isClosed = false;  // whether the folders are closed: nothing can be found out, read or written
   bool trashFails = false;
   bool syncFails = false;  // whether the sync fails once the new bytes are in place
 
@@ -53,13 +54,13 @@ class CMemoryFiles : public FileSystem {
   }
 
   bool Exists(std::u16string_view path) const override {
-    return files.count(std::u16string(path)) > 0 || unreadable.count(std::u16string(path)) > 0 ||
+    return isClosed || files.count(std::u16string(path)) > 0 || unreadable.count(std::u16string(path)) > 0 ||
            HoldsFiles(path);
   }
 
   std::optional<FileBytes> Read(std::u16string_view path) const override {
     const auto found = files.find(std::u16string(path));
-    if (found == files.end() || unreadable.count(found->first) > 0) return std::nullopt;
+    if (isClosed || found == files.end() || unreadable.count(found->first) > 0) return std::nullopt;
     return FileBytes{found->second.bytes, found->second.stamp};
   }
 
@@ -83,7 +84,7 @@ class CMemoryFiles : public FileSystem {
     if (beforeReplace) std::exchange(beforeReplace, nullptr)();
     lastModel = model;
     const std::u16string key(path);
-    if (failingWrites.count(key) > 0) return WriteResult::kFailed;
+    if (isClosed || failingWrites.count(key) > 0) return WriteResult::kFailed;
     const auto found = files.find(key);
     if (expected != nullptr && *expected != (found == files.end() ? FileStamp() : found->second.stamp))
       return WriteResult::kChanged;
