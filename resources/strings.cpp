@@ -7,6 +7,7 @@
 #include "resources/texts/calendar_texts.h"
 #include "resources/texts/command_texts.h"
 #include "resources/texts/editing_texts.h"
+#include "resources/texts/preferences_texts.h"
 #include "resources/texts/print_texts.h"
 #include "resources/texts/reader_texts.h"
 #include "resources/texts/window_texts.h"
@@ -29,8 +30,8 @@ constexpr auto Joined(const TextEntry (&... tables)[kSizes]) {
 }
 
 // A number in two tables, or in the wrong one, is found by the check below.
-constexpr auto kStrings =
-    Joined(kBaseTexts, kCalendarTexts, kWindowTexts, kEditingTexts, kPrintTexts, kReaderTexts, kCommandTexts);
+constexpr auto kStrings = Joined(kBaseTexts, kCalendarTexts, kWindowTexts, kEditingTexts, kPrintTexts,
+                                 kPreferencesTexts, kReaderTexts, kCommandTexts);
 
 constexpr bool IsStrictlySorted() {
   return std::adjacent_find(kStrings.begin(), kStrings.end(), [](const TextEntry& a, const TextEntry& b) {

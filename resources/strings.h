@@ -183,6 +183,8 @@ enum TextId : int {
   kTextPrintProgress = 5456,  // pages done, number of pages
   kTextPrintEnds = 5457,      // pages, target: one and many printed, one and many written; aborted, the same
   kTextPrintFaults = 5458,    // first page asked for and number of pages; printer; path of a file
+  kTextReformCountries = 5500,  // in the order of NationalReforms()
+  kTextCivilYearStyles = 5501,  // by StyleIndex
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel
