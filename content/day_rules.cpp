@@ -191,6 +191,11 @@ DayMatch MatchDay(std::span<const DayEvent> events, PackedDate ymd) {
   return match;
 }
 
+void ForEachRuleOfDays(std::span<const DayEvent> events, std::span<const RuleDay> days,
+                       const std::function<void(std::size_t, const DayEvent&)>& found) {
+  ForEachMatch(events, days, found);
+}
+
 void MatchDaysOfMonth(std::span<const DayEvent> events, std::span<const RuleDay> days,
                       std::span<DayMatch> matches) {
   for (DayMatch& match : matches)

@@ -12,6 +12,7 @@
 //   MatchDayEvents(rules, 20281031, nullptr, 0);  // kHolidayMark: a Tuesday
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 
@@ -51,5 +52,10 @@ RuleDay RuleDayOf(const Date& date);
 // Sets the matches of days of one month, as many as there are days, going through the rules once for all.
 void MatchDaysOfMonth(std::span<const DayEvent> events, std::span<const RuleDay> days,
                       std::span<DayMatch> matches);
+
+// Calls `found` with the index of a day and a rule, for every rule that falls on one of the days, which lie
+// in one month. Rules come in list order, each with its days in their order.
+void ForEachRuleOfDays(std::span<const DayEvent> events, std::span<const RuleDay> days,
+                       const std::function<void(std::size_t, const DayEvent&)>& found);
 
 }  // namespace orbisol

@@ -29,7 +29,8 @@ struct DisplaySettings : CalendarLook {
   bool tipsForEventsOnly = true;
   FixedText<kMaxPathUnits + 1> calendarName;  // empty reads as "Calendar"
   bool magnetMouse = false;                   // whether the pointer stays on the active cell
-  std::u16string calendarPath;                // file of the calendar, empty before it is known
+  bool cellTexts = false;       // whether cells show the names of their days, where they have room
+  std::u16string calendarPath;  // file of the calendar, empty before it is known
 
   CalendarLook& Look() { return *this; }
   const CalendarLook& Look() const { return *this; }

@@ -10,6 +10,7 @@ namespace {
 
 constexpr char kMainLayout[] = "WindowLayout";
 constexpr char kPrintLayout[] = "PrintWindowLayout";
+constexpr char kCellTexts[] = "CellTexts";
 
 constexpr Rect kPrintRect{50, 50, 800, 600};  // rectangle of the print window while none is stored
 
@@ -30,6 +31,7 @@ constexpr NumberValue kNumbers[] = {
     {"FullCellBkgnd", &DisplaySettings::fullCellBackground, 0},
     {"BkgndAlpha", &DisplaySettings::backgroundAlpha, 128},
     {"MagnetMouse", &DisplaySettings::magnetMouse, 1},
+    {kCellTexts, &DisplaySettings::cellTexts, 0},  // unknown to older releases, and so the last
 };
 
 void ReadNumbers(const StoredValues& values, DisplaySettings& display) {
@@ -120,6 +122,24 @@ SaveOutcome RestoreSettings(SettingsStore& store, CCalendarStore& calendars, Dis
                             std::string_view version, IfChanged ifChanged) {
   const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
   return FinishSave(store, calendars, display, calendars.Restore(name, version, ifChanged), {});
+}
+
+Preferences ReadPreferences(const SettingsStore& store, const CCalendarStore& calendars,
+                            const DisplaySettings& display, const CalendarRules& rules) {
+  Preferences read{display, rules};
+  const std::optional<StoredValues> values = store.Read();
+  if (values && TextOf(*values, kCalendarNameValue, kMaxPathUnits)) ReadNumbers(*values, read.display);
+  read.display.cellTexts = display.cellTexts;
+  if (const auto bytes = calendars.BytesOf(CalendarNameOrDefault(display.calendarName.View()))) {
+    const CalendarFile stored = ReadCalendar(*bytes);
+    read.display.Look() = stored.look;
+    read.rules = stored.rules;
+  }
+  return read;
+}
+
+bool SaveCellTexts(SettingsStore& store, const DisplaySettings& display) {
+  return store.Write({{kCellTexts, DwordValue(display.cellTexts ? 1 : 0)}});
 }
 
 bool SwitchCalendar(SettingsStore& store, const CCalendarStore& calendars, DisplaySettings& display,

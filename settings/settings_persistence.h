@@ -65,6 +65,27 @@ SaveOutcome SaveSettings(SettingsStore& store, CCalendarStore& calendars, Displa
 SaveOutcome RestoreSettings(SettingsStore& store, CCalendarStore& calendars, DisplaySettings& display,
                             std::string_view version, IfChanged ifChanged = IfChanged::kRefuse);
 
+// The part of the settings that the preferences edit: look, switches and rules.
+struct Preferences {
+  DisplaySettings display;
+  CalendarRules rules;
+
+  bool operator==(const Preferences&) const = default;
+};
+
+// Returns the preferences as they are stored: switches from the key, look and rules from the file of the
+// calendar in use. What cannot be read, or was taken over from an older release and not stored yet, is as in
+// `display` and `rules`, which are in force, and so are the windows, name and path. The switch that
+// SaveCellTexts writes is that in force as well, because it may be ahead of a key that cannot be written.
+//
+// Nothing is written, and `calendars` remembers nothing: a later save still finds that somebody else changed
+// the file.
+Preferences ReadPreferences(const SettingsStore& store, const CCalendarStore& calendars,
+                            const DisplaySettings& display, const CalendarRules& rules);
+
+// Writes the one value that says whether cells show texts. Returns whether it was stored.
+bool SaveCellTexts(SettingsStore& store, const DisplaySettings& display);
+
 // Sets name and path of a calendar and writes the key; no calendar's file is read or written. Returns whether
 // the key was stored. `name` is a valid name.
 bool SwitchCalendar(SettingsStore& store, const CCalendarStore& calendars, DisplaySettings& display,

@@ -104,6 +104,7 @@ bool CMonthWindow::event(QEvent* event) {
 // Paints the month. The toolkit shows the result in one step, so nothing flickers.
 void CMonthWindow::paintEvent(QPaintEvent* event) {
   m_builtFor = 0;  // rules, periods or colors may have changed since the model was built
+  m_painter.SetTexts(Month(), Content());
   QPainter painter(this);
   m_painter.Paint(painter, Month(), Marks(), event->region());
   painter.end();

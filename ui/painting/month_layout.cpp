@@ -117,6 +117,37 @@ std::vector<Rect> MonthLayout::FrameStrokes(const Rect& frame, int thickness) {
           {inner.right, inner.top, frame.right, inner.bottom}};
 }
 
+int MonthLayout::TextInset() const { return std::max(columnWidth / 20, 6 * lineScale); }
+
+int MonthLayout::CornerHeight() const {
+  return std::min(std::max(SmallFontHeight(), 11 * lineScale), rowHeight / 3);
+}
+
+int MonthLayout::TextLineHeight(int dialogHeight) const {
+  const int mostInDialogs = MulDiv(dialogHeight * lineScale, 115, 100);
+  return std::max(10 * lineScale, std::min(rowHeight / 6, mostInDialogs));
+}
+
+Rect MonthLayout::CornerGlyphRect(int cell) const {
+  const Rect rect = CellRect(cell).Shrunk(TextInset());
+  return {rect.right - CornerHeight(), rect.top, rect.right, rect.top + CornerHeight()};
+}
+
+Rect MonthLayout::TextRect(int cell) const {
+  Rect rect = CellRect(cell).Shrunk(TextInset());
+  rect.top += CornerHeight() + lineScale;
+  return rect;
+}
+
+int MonthLayout::TextLines(int dialogHeight) const {
+  constexpr int kLeastLines = 2;
+  constexpr int kLeastWidth = 3;  // room for a number and a moon, in their height
+  const Rect rect = TextRect(firstCell);
+  const int lineHeight = TextLineHeight(dialogHeight);
+  const int lines = rect.Height() / lineHeight;
+  return lines >= kLeastLines && rect.Width() >= kLeastWidth * CornerHeight() ? lines : 0;
+}
+
 Rect MonthLayout::DirtyRect(int cell) const {
   constexpr int kWidestStroke = 3;  // pixels by which the mark may extend beyond a small cell
   return CellRect(cell).Shrunk(-std::max(columnWidth / 10, kWidestStroke),

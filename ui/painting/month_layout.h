@@ -73,6 +73,17 @@ struct MonthLayout {
   // stroke.
   static std::vector<Rect> FrameStrokes(const Rect& frame, int thickness);
 
+  // Cells with texts: the number at the upper left, the moon at the upper right, lines of text below. Heights
+  // of text are ascent and descent together; `dialogHeight` is that of the dialogs' font.
+  int TextInset() const;     // space between the edges of a cell and what stands in it
+  int CornerHeight() const;  // height of number and moon
+  int TextLineHeight(int dialogHeight) const;
+  Rect CornerGlyphRect(int cell) const;
+  Rect TextRect(int cell) const;  // place of the lines
+  // Returns how many lines fit; 0 where fewer than two would, or hardly a word fits into one. The month is
+  // then drawn without texts.
+  int TextLines(int dialogHeight) const;
+
   // Returns the area to repaint when the mark comes to a cell or leaves it.
   Rect DirtyRect(int cell) const;
 

@@ -79,11 +79,17 @@ void CMonthPainter::SetUp(const MonthLayout& layout, const DisplaySettings& sett
   m_lineHeight = metrics.height();
   m_stretched = QImage();
   m_glyphs = {};
+  m_texts.SetUp(layout, settings, dialogFont);
 }
 
 void CMonthPainter::SetBackground(const QImage& picture) {
   m_background = picture;
   m_stretched = QImage();
+  m_texts.SetPicture(picture);
+}
+
+void CMonthPainter::SetTexts(const MonthModel& month, const CalendarContent& content) {
+  m_texts.SetNames(month, content);
 }
 
 // Paints from back to front: each step paints one layer and relies on none of the others.
@@ -117,7 +123,8 @@ void CMonthPainter::Paint(QPainter& painter, const MonthModel& month, const Mont
     PaintRange(painter, month, marks);
   } else {
     const int cell = month.CellOf(marks.month, marks.day);
-    if (cell != kNoCell && isAsked(m_layout.DirtyRect(cell))) PaintMark(painter, cell);
+    if (cell != kNoCell && isAsked(m_layout.DirtyRect(cell)))
+      PaintMark(painter, month.cells[static_cast<std::size_t>(cell)], cell);
   }
   painter.restore();
 }
@@ -214,9 +221,8 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
   if (day.marks != 0 && day.backColor != kWindowColor) PaintFill(painter, day, cell);
 
   const QColor ink = ToQColor(day.textColor);
-  painter.setFont(day.month == month.month ? m_fonts.upright : m_fonts.italic);
   painter.setPen(ink);
-  const QRect number = DrawCentered(painter, ToQRect(m_layout.CellRect(cell)), QString::number(day.day));
+  const QRect number = PaintNumber(painter, day, cell, day.month != month.month);
   if (isToday) {
     const int descent = painter.fontMetrics().descent();
     const int thickness = std::max(1, number.height() / 20);
@@ -224,6 +230,15 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
                      number.width(), thickness, ink);
   }
   if (day.moonPhase != kNoPhase) PaintMoon(painter, cell, day.moonPhase);
+  m_texts.Paint(painter, cell);
+}
+
+// Draws the number of a day: large in the middle of its cell, or small above its texts. Returns its
+// rectangle.
+QRect CMonthPainter::PaintNumber(QPainter& painter, const DayCell& day, int cell, bool isItalic) const {
+  if (m_texts.AreShown()) return m_texts.PaintNumber(painter, cell, day.day, isItalic);
+  painter.setFont(isItalic ? m_fonts.italic : m_fonts.upright);
+  return DrawCentered(painter, ToQRect(m_layout.CellRect(cell)), QString::number(day.day));
 }
 
 void CMonthPainter::PaintFill(QPainter& painter, const DayCell& day, int cell) const {
@@ -245,7 +260,8 @@ void CMonthPainter::PaintFill(QPainter& painter, const DayCell& day, int cell) c
 }
 
 void CMonthPainter::PaintMoon(QPainter& painter, int cell, MoonPhase phase) const {
-  const QRect square = ToQRect(m_layout.GlyphRect(cell, m_pairWidth, m_lineHeight));
+  const QRect square = ToQRect(m_texts.AreShown() ? m_layout.CornerGlyphRect(cell)
+                                                  : m_layout.GlyphRect(cell, m_pairWidth, m_lineHeight));
   if (square.isEmpty()) return;
   if (m_medium == kPaper) {
     DrawMoonOnPaper(painter, square, phase, std::max(1.0, square.width() / 16.0));
@@ -279,7 +295,7 @@ void CMonthPainter::PaintRange(QPainter& painter, const MonthModel& month, const
   painter.restore();
 }
 
-void CMonthPainter::PaintMark(QPainter& painter, int cell) const {
+void CMonthPainter::PaintMark(QPainter& painter, const DayCell& day, int cell) const {
   const QColor color = ToQColor(m_settings.ColorAt(kCircleColor));
   const int pen = m_settings.CircleWidth();
   if (!m_settings.circleTheDay) {
@@ -299,7 +315,8 @@ void CMonthPainter::PaintMark(QPainter& painter, int cell) const {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(color, pen));
   painter.setBrush(Qt::NoBrush);
-  painter.drawEllipse(QRectF(ToQRect(m_layout.CircleRect(cell))));
+  painter.drawEllipse(
+      QRectF(m_texts.AreShown() ? m_texts.CircleRect(cell, day.day) : ToQRect(m_layout.CircleRect(cell))));
   painter.restore();
 }
 

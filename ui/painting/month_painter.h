@@ -3,6 +3,7 @@
 //   CMonthPainter painter;
 //   painter.SetUp(layout, settings, font(), CMonthPainter::kScreen);
 //   painter.SetBackground(BuiltInBackground());
+//   painter.SetTexts(model, content);  // shown where the settings ask for them and cells have room
 //   painter.Paint(canvas, model, marks);
 //
 // Painting changes nothing but the canvas. The painter's origin is the upper left corner of the layout.
@@ -17,6 +18,7 @@
 #include "content/month_model.h"
 #include "core/moon.h"
 #include "settings/display_settings.h"
+#include "ui/painting/cell_texts.h"
 #include "ui/painting/month_fonts.h"
 #include "ui/painting/month_layout.h"
 
@@ -50,6 +52,11 @@ class CMonthPainter {
   // Sets the picture that is stretched over the rows; null for none, which leaves the plain background color.
   void SetBackground(const QImage& picture);
 
+  // Lays out the names of a month for its cells; `content` is what the month was built with. Does nothing
+  // while cells show no texts, or the month has the same cells as before. Where rules were changed, call
+  // SetUp() first.
+  void SetTexts(const MonthModel& month, const CalendarContent& content);
+
   const MonthLayout& Layout() const { return m_layout; }
 
   // Paints a month. With a region only that part is painted, and looks as if all had been painted anew.
@@ -62,10 +69,11 @@ class CMonthPainter {
   void PaintGrid(QPainter& painter) const;
   void PaintCell(QPainter& painter, const MonthModel& month, int cell, const MonthMarks& marks) const;
   void PaintFill(QPainter& painter, const DayCell& day, int cell) const;
+  QRect PaintNumber(QPainter& painter, const DayCell& day, int cell, bool isItalic) const;
   void PaintMoon(QPainter& painter, int cell, MoonPhase phase) const;
   void PaintWeekNumber(QPainter& painter, int row, int week) const;
   void PaintRange(QPainter& painter, const MonthModel& month, const MonthMarks& marks) const;
-  void PaintMark(QPainter& painter, int cell) const;
+  void PaintMark(QPainter& painter, const DayCell& day, int cell) const;
   void FillLine(QPainter& painter, int position, Qt::Orientation orientation) const;
   void AlignToPixels(QPainter& painter) const;
   double Ratio(const QPainter& painter) const;
@@ -77,6 +85,7 @@ class CMonthPainter {
   int m_pairWidth = 0;  // width of a number of two digits in the upright font
   int m_lineHeight = 0;
   QImage m_background;
+  CCellTexts m_texts;
 
   mutable QSize m_pixels;  // size of the layout in device pixels, in the paint under way
 
