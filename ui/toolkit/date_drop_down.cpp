@@ -85,7 +85,7 @@ CDateDropDown::CDateDropDown(QWidget* field)
   });
 
   auto* const today = new QPushButton(TableText(kTextToday));
-  connect(today, &QPushButton::clicked, this, [this] { Choose(Date::Today().Packed()); });
+  connect(today, &QPushButton::clicked, this, [this] { ChooseToday(); });
   connect(m_none, &QPushButton::clicked, this, [this] { Choose(0); });
   auto* const foot = new QHBoxLayout;
   foot->addWidget(m_none);
@@ -100,12 +100,13 @@ CDateDropDown::CDateDropDown(QWidget* field)
   column->addLayout(foot);
 }
 
-void CDateDropDown::Open(PackedDate ymd, const QString& noneText) {
+void CDateDropDown::Open(PackedDate ymd, const QString& noneText, const std::optional<CalendarRules>& rules) {
+  m_rules = rules;
   setFont(parentWidget()->font());  // a top-level window has the application's font by default
   m_none->setText(MenuText(UpperFirst(Utf16View(noneText))));
   m_none->setVisible(!noneText.isEmpty());
   SetColumnWidths();
-  Mark(ymd == 0 ? Date::Today() : Date(ymd));
+  MarkDay(ymd);
 
   adjustSize();
   const QWidget* const field = parentWidget();
@@ -135,6 +136,13 @@ void CDateDropDown::SetColumnWidths() {
   m_table->setFixedSize(kColumns * width, names + kRows * height);
 }
 
+// Marks a day of the calendar; today for 0.
+void CDateDropDown::MarkDay(PackedDate ymd) {
+  const ScopedRules inForce(RulesOfMonths());
+  Mark(ymd == 0 ? Date::Today() : Date(ymd));
+}
+
+// Call this and all below it under RulesOfMonths().
 void CDateDropDown::Mark(const Date& date) {
   Date shown = date;
   ClampToBounds(shown);
@@ -143,6 +151,7 @@ void CDateDropDown::Mark(const Date& date) {
 }
 
 void CDateDropDown::StepMonth(int months) {
+  const ScopedRules inForce(RulesOfMonths());
   Date date(m_marked);
   StepMonths(date, months);
   Mark(date);
@@ -185,6 +194,11 @@ void CDateDropDown::ShowMonth() {
 }
 
 bool CDateDropDown::HandleKey(int key, Qt::KeyboardModifiers modifiers) {
+  if (IsEnter(key) || key == Qt::Key_Space) {
+    Choose(m_marked);
+    return true;
+  }
+  const ScopedRules inForce(RulesOfMonths());
   Date date(m_marked);
   const int months = modifiers.testFlag(Qt::ControlModifier) ? kMonthsAYear : 1;
   switch (key) {
@@ -213,9 +227,7 @@ bool CDateDropDown::HandleKey(int key, Qt::KeyboardModifiers modifiers) {
       date.day = date.DaysInMonth();
       break;
     default:
-      if (!IsEnter(key) && key != Qt::Key_Space) return false;
-      Choose(m_marked);
-      return true;
+      return false;
   }
   Mark(date);
   return true;
@@ -229,9 +241,19 @@ bool CDateDropDown::eventFilter(QObject* watched, QEvent* event) {
   return QFrame::eventFilter(watched, event);
 }
 
+void CDateDropDown::ChooseToday() {
+  Choose([&] {
+    const ScopedRules inForce(RulesOfMonths());
+    return Date::Today().Packed();
+  }());
+}
+
 void CDateDropDown::Choose(PackedDate ymd) {
-  const YearMonthDay date = Unpack(ymd);
-  if (ymd != 0 && !DoesDateExist(date)) return;
+  const bool exists = [&] {
+    const ScopedRules inForce(RulesOfMonths());
+    return ymd == 0 || DoesDateExist(Unpack(ymd));
+  }();
+  if (!exists) return;
   close();
   emit dateChosen(ymd);
 }

@@ -12,6 +12,8 @@
 
 #include <QFrame>
 
+#include <optional>
+
 #include "content/month_model.h"
 #include "core/date.h"
 
@@ -29,8 +31,8 @@ class CDateDropDown : public QFrame {
   explicit CDateDropDown(QWidget* field);
 
   // Shows the month of `ymd` with that day marked; that of today for 0. With `noneText` a button of that text
-  // chooses no date.
-  void Open(PackedDate ymd, const QString& noneText);
+  // chooses no date. Months are those under `rules`, or under the rules in force.
+  void Open(PackedDate ymd, const QString& noneText, const std::optional<CalendarRules>& rules = {});
 
   PackedDate Marked() const { return m_marked; }
 
@@ -41,17 +43,21 @@ class CDateDropDown : public QFrame {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  CalendarRules RulesOfMonths() const { return m_rules.value_or(Rules()); }
+  void MarkDay(PackedDate ymd);
   void Mark(const Date& date);
   void StepMonth(int months);
   void ShowMonth();
   void SetColumnWidths();
   bool HandleKey(int key, Qt::KeyboardModifiers modifiers);
+  void ChooseToday();
   void Choose(PackedDate ymd);
   int CellAt(int row, int column) const { return m_month.FirstCell() + row * 7 + column; }
 
   QLabel* m_title;
   QTableWidget* m_table;
   QPushButton* m_none;
+  std::optional<CalendarRules> m_rules;
   MonthModel m_month;
   PackedDate m_marked = 0;
 };

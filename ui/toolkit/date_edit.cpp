@@ -85,8 +85,11 @@ void CDateEdit::ReadText() {
     Take(0, {});
     return;
   }
-  const PackedDate selected = m_date != 0 ? m_date : orbisol::Date::Today().Packed();
-  const TypedDate date = ReadFieldDate(Utf16View(typed), UserOrder(), selected);
+  const TypedDate date = [&] {
+    const ScopedRules inForce(m_rules.value_or(Rules()));
+    const PackedDate selected = m_date != 0 ? m_date : orbisol::Date::Today().Packed();
+    return ReadFieldDate(Utf16View(typed), UserOrder(), selected);
+  }();
   const bool isBeginningOfNone = m_noneText.startsWith(typed, Qt::CaseInsensitive);
   m_isUnfinished = date.fault == DateFault::kIncomplete || isBeginningOfNone;
   Take(date.ymd, ToQString(DateFaultText(date, UserOrder())));
@@ -164,11 +167,14 @@ void CDateEdit::SelectPart(Part part) {
 
 void CDateEdit::Step(Part part, int steps) {
   if (isReadOnly() || !IsValid()) return;
-  if (m_date == 0) {
-    SetDate(orbisol::Date::Today().Packed());
-    SelectPart(part);
-    return;
-  }
+  SetDate(Stepped(part, steps));
+  SelectPart(part);
+}
+
+// Returns the date some steps away; today where there is none.
+PackedDate CDateEdit::Stepped(Part part, int steps) const {
+  const ScopedRules inForce(m_rules.value_or(Rules()));
+  if (m_date == 0) return orbisol::Date::Today().Packed();
   orbisol::Date date(m_date);
   if (part == Part::kDay) {
     date.AddDays(steps);
@@ -178,8 +184,7 @@ void CDateEdit::Step(Part part, int steps) {
   ClampToBounds(date);
   // A step of a month may end on a date that the reform removed; the field takes the day that it counts as.
   if (!DoesDateExist({date.year, date.month, date.day})) date.SetDayNumber(date.DayNumber());
-  SetDate(date.Packed());
-  SelectPart(part);
+  return date.Packed();
 }
 
 void CDateEdit::keyPressEvent(QKeyEvent* event) {
@@ -228,7 +233,7 @@ void CDateEdit::OpenDropDown() {
       selectAll();
     });
   }
-  m_dropDown->Open(m_date, m_noneText);
+  m_dropDown->Open(m_date, m_noneText, m_rules);
 }
 
 // Returns a size that holds the widest date, or the text of no date, with both buttons.

@@ -7,10 +7,10 @@
 //   connect(from, &CDateEdit::dateChanged, this, [this](PackedDate ymd) { … });
 //   if (!from->IsValid()) warn(from->Error());
 //
-// Dates lie within -3999-01-01 … 3999-12-31 and exist under the rules in force. A text that is none is kept
-// as it was typed. The reason stands in a line below the field where it has one (SetNote), else in the tip of
-// a warning sign beside the text; it is the field's accessible description as well. An unfinished date is
-// marked only when the field loses the focus.
+// Dates lie within -3999-01-01 … 3999-12-31 and exist under the rules in force, or under those of SetRules().
+// A text that is none is kept as it was typed. The reason stands in a line below the field where it has one
+// (SetNote), else in the tip of a warning sign beside the text; it is the field's accessible description as
+// well. An unfinished date is marked only when the field loses the focus.
 //
 // Keys: Up and Down step the day, month or year at the cursor, Page Up and Page Down the month, with Ctrl the
 // year; Alt+Down or F4 opens a calendar below the field.
@@ -18,7 +18,9 @@
 
 #include <QLineEdit>
 
-#include "core/packed_date.h"
+#include <optional>
+
+#include "core/calendar_config.h"
 
 class QAction;
 
@@ -35,6 +37,10 @@ class CDateEdit : public QLineEdit {
 
   // Allows the state without a date, shown as `text`; an empty text forbids it, which is the default.
   void SetNoneText(const QString& text);
+
+  // Reads, steps and shows dates under other rules than those in force, as for the date of a reform that is
+  // yet to be set. The rules hold from the next text on.
+  void SetRules(const CalendarRules& rules) { m_rules = rules; }
 
   // Shows a date, or none for 0. A date that does not exist is shown and marked. Emits dateChanged() when it
   // differs from Date().
@@ -79,8 +85,10 @@ class CDateEdit : public QLineEdit {
   void Step(Part part, int steps);
   Part PartAtCursor() const;
   void SelectPart(Part part);
+  PackedDate Stepped(Part part, int steps) const;
   QString TextOf(PackedDate ymd) const;
 
+  std::optional<CalendarRules> m_rules;  // nothing: those in force
   PackedDate m_date = 0;
   QString m_noneText;
   QString m_error;
