@@ -20,6 +20,7 @@ constexpr void (*kRegister[])() = {
     RegisterMonthView,
     RegisterPrintFrame,
     RegisterPrinting,
+    RegisterPreferences,
 };
 
 void LoadFrance() {

@@ -8,4 +8,6 @@ void RegisterMonthView();   // repaints, the next month, moving the selection, b
 void RegisterPrintFrame();  // opening it, with its first page
 void RegisterPrinting();    // PDF files of a year and of a hundred years
 
+void RegisterPreferences();  // the preview after a change, texts in the cells
+
 }  // namespace orbisol

@@ -60,6 +60,7 @@ enum CommandId : int {
   kCmdActualSize = 5246,
   kCmdFirstPage = 5247,
   kCmdLastPage = 5248,
+  kCmdToggleCellTexts = 5260,
   kCmdHelpPrinting = 40024,
   kCmdPrintImage = 40025,
   kCmdEditVacations = 40027,

@@ -23,9 +23,13 @@ constexpr MenuItem kEditMenu[] = {
 };
 
 constexpr MenuItem kViewMenu[] = {
-    {kCmdToggleToolBar, u"Barre d'outils", u"", true},    {kCmdToggleStatusBar, u"Barre d'état", u"", true},
-    {kCmdTogglePane, u"Fenêtre d'infos", u"Space", true}, {kNoCommand, u"", u""},
-    {kCmdGoBack, u"Date précédente", u"Alt+Left"},        {kCmdGoForward, u"Date suivante", u"Alt+Right"},
+    {kCmdToggleToolBar, u"Barre d'outils", u"", true},
+    {kCmdToggleStatusBar, u"Barre d'état", u"", true},
+    {kCmdTogglePane, u"Fenêtre d'infos", u"Space", true},
+    {kCmdToggleCellTexts, u"Événements dans les cases", u"", true},
+    {kNoCommand, u"", u""},
+    {kCmdGoBack, u"Date précédente", u"Alt+Left"},
+    {kCmdGoForward, u"Date suivante", u"Alt+Right"},
     {kCmdGoToToday, u"Aujourd'hui", u"Alt+Home"},
 };
 
@@ -60,6 +64,7 @@ constexpr ToolItem kMainToolBar[] = {
     {kCmdEditEvents, "events"},
     {kCmdEditVacations, "vacations"},
     {kCmdPreferences, "preferences"},
+    {kCmdToggleCellTexts, "celltexts"},
     {kCmdTogglePane, "pane"},
     {kNoCommand, ""},
     {kCmdHelpContents, "help"},

@@ -30,14 +30,16 @@ enum TextId : int {
   kTextPageOfMonths = 289,  // page, count, first month and year, last month and year
   kTextWeek = 295,
   kTextColorCaptions = 297,   // one for each color, in the order of ColorTable()
+  kTextCircleWidths = 298,    // from 1 on
   kTextCenturies = 299,       // ordinals from 1 to 19
   kTextTenthCenturies = 300,  // from 20 on by tens
   kTextCenturyTens = 301,     // the same as the first part of another ordinal
   kTextCenturyFirst = 302,    // its second part for 21, 31, 41
   kTextCentury = 303,
   kTextCenturyBeforeEra = 304,
-  kTextOpenPicture = 305,   // title of the file dialog
-  kTextDatePatterns = 309,  // by Date::dateOrder
+  kTextOpenPicture = 305,      // title of the file dialog
+  kTextPreviewElements = 306,  // in the order of PreviewElement, without the last
+  kTextDatePatterns = 309,     // by Date::dateOrder
 
   kTextFrenchMonths = 5001,
   kTextFrenchMonthAbbrevs = 5002,
@@ -185,6 +187,18 @@ enum TextId : int {
   kTextPrintFaults = 5458,    // first page asked for and number of pages; printer; path of a file
   kTextReformCountries = 5500,  // in the order of NationalReforms()
   kTextCivilYearStyles = 5501,  // by StyleIndex
+  kTextPreferences = 5502,     // title of the sheet, its pages, names of the list of pages and of the preview
+  kTextRowRefusals = 5503,     // why a row of the civil years is refused: empty, after the reform, not later
+  kTextReformPreset = 5504,    // country, last Julian and first Gregorian day; the same of a doubtful one
+  kTextClosedEarly = 5505,     // year in which a style ends with the reform
+  kTextCivilYearNames = 5506,  // of a row: accessible names of date and box, the text of no date
+  kTextTitleElement = 5507,
+  kTextColorPresets = 5508,  // by ColorPreset
+  kTextPictureHidden = 5509,
+  kTextElementTip = 5510,    // element
+  kTextColorColumns = 5511,  // text, background; accessible name of the slider
+  kTextCalendarFont = 5512,  // title of the dialog, the font that no name stands for, accessible name
+  kTextSwitchesNotStored = 5513,
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

@@ -66,6 +66,10 @@ BUDGETS = [
     ("B18", "a hundred years to PDF, beside four times 25: by how much more",
      lambda t: ratio(t, ["YearsToPdf/100"], ["YearsToPdf/25"] * 4), 1.2, ""),
     ("B18", "memory that 75 pages more take", lambda t: scaled(t, "YearsToPdfGrowth/iterations:1", 1e-6), 1, "MB"),
+    *[("B19", f"preview of the preferences after a change: {what}", lambda t, name=name: scaled(t, name, 1e-6), 16, "ms")
+      for what, name in (("sample", "Preview_Elements"), ("month of the reform", "Preview_Reform"))],
+    ("B20", "repaint with texts in the cells, beside without",
+     lambda t: ratio(t, ["CellTexts_Shown"], ["CellTexts_Hidden"]), 1.5, ""),
     ("B14", "processor time in 5 s without a user", lambda t: scaled(t, "IdleTime", 1e-6), 0, "ms"),
     ("B14", "wake-ups, likewise", lambda t: scaled(t, "IdleWakeUps", 1), 0, ""),
 ]

@@ -28,6 +28,9 @@ enum HelpTopic : int {
   kHelpMoon = 15,
   kHelpKeys = 16,
   kHelpFiles = 17,
+  kHelpConfiguration = 18,
+  kHelpDisplay = 19,
+  kHelpColors = 20,
   kHelpPrinting = 100,
 };
 

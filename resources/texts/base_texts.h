@@ -66,6 +66,7 @@ inline constexpr TextEntry kBaseTexts[] = {
      u"Couleur d'arrière-plan du jour de vacances|Couleur du cadre actif|Couleur du texte grisé|"
      u"Couleur du texte du titre du mois|Couleur d'arrière-plan du calendrier|"
      u"Couleur du numéro de semaine"},
+    {kTextCircleWidths, u"Fin|Moyen|Épais"},
     {kTextCenturies,
      u"premier|deuxième|troisième|quatrième|cinquième|sixième|septième|huitième|neuvième|dixième|"
      u"onzième|douzième|treizième|quatorzième|quinzième|seizième|dix-septième|dix-huitième|"
@@ -76,6 +77,9 @@ inline constexpr TextEntry kBaseTexts[] = {
     {kTextCentury, u"siècle"},
     {kTextCenturyBeforeEra, u"siècle avant notre ère"},
     {kTextOpenPicture, u"Ouvrir le fichier image"},
+    {kTextPreviewElements,
+     u"En-tête|Autre mois|Jour normal|Cercle du jour actif|N° de semaine|Événement|Jour férié|"
+     u"Période de vacances||"},
     {kTextDatePatterns, u"MM/JJ/AAAA|JJ/MM/AAAA|AAAA/MM/JJ|"},
     {kCmdAbout, u"Afficher la version du programme\nÀ propos"},
     {kCmdZoomIn, u"Agrandir l'aperçu"},

@@ -24,6 +24,8 @@ inline constexpr TextEntry kEditingTexts[] = {
     {kCmdActualSize, u"Montrer la page dans la taille du papier"},
     {kCmdFirstPage, u"Afficher la première page"},
     {kCmdLastPage, u"Afficher la dernière page"},
+    {kCmdToggleCellTexts,
+     u"Écrire les jours fériés et les événements dans les cases\nÉvénements dans les cases"},
     {kTextCalendarChanged,
      u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
      u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"

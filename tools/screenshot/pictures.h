@@ -38,11 +38,12 @@ std::string FileOfFrance();
 
 void TakeFirstWindow(CPictureFolder& folder);  // the window of a first start, on the screen of this run
 void TakeMainWindow(CPictureFolder& folder);
-void TakeMonths(CPictureFolder& folder);   // the month alone, in what the settings can make of it
-void TakeHelp(CPictureFolder& folder);     // the help and the about box
-void TakeEditors(CPictureFolder& folder);  // of events and vacation periods
-void TakeFields(CPictureFolder& folder);   // the fields that dialogs share
-void TakeFind(CPictureFolder& folder);     // going to a date, and searching
+void TakeMonths(CPictureFolder& folder);       // the month alone, in what the settings can make of it
+void TakeHelp(CPictureFolder& folder);         // the help and the about box
+void TakeEditors(CPictureFolder& folder);      // of events and vacation periods
+void TakeFields(CPictureFolder& folder);       // the fields that dialogs share
+void TakeFind(CPictureFolder& folder);         // going to a date, and searching
+void TakePreferences(CPictureFolder& folder);  // the preferences, and months with texts in their cells
 void TakePrintFrame(CPictureFolder& folder);
 void TakePrinting(CPictureFolder& folder);   // printed pages in every format
 void TakeCalendars(CPictureFolder& folder);  // the choice of a calendar, versions, the import

@@ -29,6 +29,7 @@ constexpr struct {
     {"find", TakeFind},
     {"calendars", TakeCalendars},
     {"print_frame", TakePrintFrame},
+    {"preferences", TakePreferences},
     {"help", TakeHelp},
     {"editors", TakeEditors},
     {"printing", TakePrinting},

@@ -57,6 +57,7 @@ const CCalendarFrame::Handler CCalendarFrame::kHandlers[] = {
     {kCmdToggleToolBar, &CCalendarFrame::OnToggleToolBar},
     {kCmdToggleStatusBar, &CCalendarFrame::OnToggleStatusBar},
     {kCmdTogglePane, &CCalendarFrame::OnTogglePane},
+    {kCmdToggleCellTexts, &CCalendarFrame::OnToggleCellTexts},
     {kCmdGoBack, &CCalendarFrame::OnGoBack},
     {kCmdGoForward, &CCalendarFrame::OnGoForward},
     {kCmdGoToToday, &CCalendarFrame::OnGoToToday},
@@ -241,6 +242,7 @@ void CCalendarFrame::UpdateCommands() {
   m_commands->SetChecked(kCmdToggleToolBar, m_toolBar->isVisibleTo(this));
   m_commands->SetChecked(kCmdToggleStatusBar, Display().mainLayout.statusBarShown);
   m_commands->SetChecked(kCmdTogglePane, m_dialog->IsPaneShown());
+  m_commands->SetChecked(kCmdToggleCellTexts, Display().cellTexts);
   m_commands->SetEnabled(kCmdCopyRepublicanDate, !m_dialog->RepublicanText().isEmpty());
   m_commands->SetEnabled(kCmdGoBack, m_dialog->History().CanGoBack());
   m_commands->SetEnabled(kCmdGoForward, m_dialog->History().CanGoForward());
@@ -273,6 +275,13 @@ void CCalendarFrame::OnTogglePane() {
   m_dialog->ShowPane(isShown);
   layout()->activate();  // updates the least size
   if (!isShown) m_placement->Widen(-m_dialog->PaneWidth());
+}
+
+// Stores this one switch at once. Where that fails it holds for this run.
+void CCalendarFrame::OnToggleCellTexts() {
+  Display().cellTexts = !Display().cellTexts;
+  SaveCellTexts(m_services.store, Display());
+  m_dialog->SettingsChanged();
 }
 
 void CCalendarFrame::OnGoBack() { m_dialog->GoBack(); }

@@ -99,6 +99,7 @@ class CCalendarFrame : public QMainWindow {
   void OnToggleToolBar();
   void OnToggleStatusBar();
   void OnTogglePane();
+  void OnToggleCellTexts();
   void OnGoBack();
   void OnGoForward();
   void OnGoToToday();

@@ -11,6 +11,7 @@
 #include "ui/editors/vacations_dialog.h"
 #include "ui/find/find_day_dialog.h"
 #include "ui/find/go_to_date_dialog.h"
+#include "ui/preferences/prefs_prop_sheet.h"
 #include "ui/shell/about.h"
 #include "ui/shell/calendar_frame.h"
 #include "ui/window/help.h"
@@ -49,6 +50,14 @@ void OpenVacations(const OpeningRequest& request) {
   request.frame.CalendarChanged();
 }
 
+void OpenPreferences(const OpeningRequest& request) {
+  CCalendarFrame& frame = request.frame;
+  CPrefsPropSheet sheet({frame.Services().store, frame.Services().calendars}, &frame);
+  QObject::connect(&sheet, &CPrefsPropSheet::settingsSaved, &frame, &CCalendarFrame::CalendarChanged);
+  sheet.exec();
+  frame.Dialog().FocusMonth();
+}
+
 void OpenGoToDate(const OpeningRequest& request) {
   CGoToDateDialog dialog(&request.frame, Selected().Packed());
   if (dialog.exec() == QDialog::Accepted && dialog.Date() != 0) request.frame.GoTo(dialog.Date());
@@ -83,7 +92,7 @@ constexpr Opening kOpenings[] = {
     {kCmdPrint, OpenPrint},
     {kCmdEditEvents, OpenEvents},
     {kCmdEditVacations, OpenVacations},
-    {kCmdPreferences, nullptr},
+    {kCmdPreferences, OpenPreferences},
     {kCmdHelpContents, OpenHelpContents},
     {kCmdHelpIndex, OpenHelpIndex},
     {kCmdAbout, OpenAbout},

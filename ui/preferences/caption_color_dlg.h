@@ -1,0 +1,25 @@
+// The choice of a color, with the name of what is colored as its title.
+//
+//   CCaptionColorDlg dialog(ColorTable()[kHolidayText].text, color, this);
+//   if (dialog.exec() == QDialog::Accepted) color = dialog.Chosen();
+//
+// The first eight of the user's own colors are those that a desktop would supply (content/calendar_look.h).
+#pragma once
+
+#include <QColorDialog>
+
+#include <string_view>
+
+#include "content/calendar_look.h"
+
+namespace orbisol {
+
+class CCaptionColorDlg : public QColorDialog {
+ public:
+  CCaptionColorDlg(std::u16string_view caption, Color color, QWidget* parent);
+
+  // Returns the color chosen; the one that the dialog began with until then.
+  Color Chosen() const;
+};
+
+}  // namespace orbisol
