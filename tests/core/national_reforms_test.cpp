@@ -83,7 +83,7 @@ TEST(NationalReformsTest, StylesCountAsTheirTimeDid) {
   };
   for (const auto& known : kKnown) {
     SCOPED_TRACE(known.date);
-    const CivilYearStyle& style = CivilYearStyles()[known.style];
+    const CivilYearStyle& style = CivilYearStyles()[static_cast<std::size_t>(known.style)];
     const PackedDate reform = style.reform != 0 ? style.reform : 19180214;
     const auto table = CivilYearRowsOf(style, reform);
     const ScopedRules inForce(RulesWith(reform, {.rows = {table.begin(), table.end()}}));

@@ -1,7 +1,6 @@
 #include "ui/preferences/caption_color_dlg.h"
 
 #include "ui/toolkit/colors.h"
-#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
@@ -15,12 +14,12 @@ constexpr Color kDesktopColors[] = {
 
 }  // namespace
 
-CCaptionColorDlg::CCaptionColorDlg(std::u16string_view caption, Color color, QWidget* parent)
+CCaptionColorDlg::CCaptionColorDlg(const QString& caption, Color color, QWidget* parent)
     : QColorDialog(parent) {
   int place = 0;
   for (const Color desktop : kDesktopColors) setCustomColor(place++, ToQColor(desktop));
   setOption(QColorDialog::DontUseNativeDialog);  // the desktop's own would be in the session's language
-  setWindowTitle(ToQString(caption));
+  setWindowTitle(caption);
   setCurrentColor(ToQColor(color));
 }
 

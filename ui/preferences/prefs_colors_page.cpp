@@ -20,6 +20,8 @@ constexpr int kAlphaStep = 16;
 
 enum ColorColumn { kForeground, kBackground, kAlphaName };  // pieces of kTextColorColumns
 
+QString CaptionOf(ColorIndex index) { return ToQString(ColorTable()[static_cast<std::size_t>(index)].text); }
+
 // Returns whether the background of an element has a button in its row: one that several share has it once.
 bool OwnsBackground(PreviewElement element) {
   return element == kElementNormalDay || ColorsOf(element).background != kStandardBgColor;
@@ -74,14 +76,14 @@ void CPrefsColorsPage::MakeButtons() {
 void CPrefsColorsPage::AddButton(int row, int column, ColorIndex index) {
   auto* const button = new QPushButton;
   button->setAutoDefault(false);
-  const QString caption = ToQString(ColorTable()[index].text);
+  const QString caption = CaptionOf(index);
   button->setAccessibleName(caption);
   button->setToolTip(caption);
   const int line = fontMetrics().height();
   button->setIconSize({line * 3, line});
   connect(button, &QPushButton::clicked, this, [this, index] { Choose(index); });
   m_form->elements->addWidget(button, row, column);
-  m_buttons[index] = button;
+  m_buttons[static_cast<std::size_t>(index)] = button;
 }
 
 void CPrefsColorsPage::MakePresets() {
@@ -111,7 +113,7 @@ void CPrefsColorsPage::EditElement(PreviewElement element, Qt::MouseButton butto
 
 void CPrefsColorsPage::Choose(ColorIndex index) {
   Color& color = m_edited.display.colors[static_cast<std::size_t>(index)];
-  CCaptionColorDlg dialog(ColorTable()[index].text, color, this);
+  CCaptionColorDlg dialog(CaptionOf(index), color, this);
   if (dialog.exec() != QDialog::Accepted) return;
   color = dialog.Chosen();
   ShowColors();
