@@ -42,6 +42,7 @@ void PaintAsOnScreen(QPainter& painter, const PrintSource& source, const PageSpa
                          std::max(1, MulDiv(1, space.resolution, kScreenResolution))),
              source.settings, source.dialogFont, CMonthPainter::kPaper);
   view.SetBackground(source.background);
+  view.SetTexts(model, source.content);
   painter.save();
   painter.translate(body.left, body.top);
   painter.setClipRect(0, 0, body.Width(), body.Height(), Qt::IntersectClip);
