@@ -281,7 +281,7 @@ void CCalendarFrame::OnTogglePane() {
 void CCalendarFrame::OnToggleCellTexts() {
   Display().cellTexts = !Display().cellTexts;
   SaveCellTexts(m_services.store, Display());
-  m_dialog->SettingsChanged();
+  CalendarChanged();
 }
 
 void CCalendarFrame::OnGoBack() { m_dialog->GoBack(); }

@@ -60,7 +60,8 @@ TEST(HelpTextTest, TopicsHavePagesWhoseLinksResolve) {
           << qPrintable(link);
     }
   }
-  for (int topic = kHelpMainWindow; topic <= kHelpColors; ++topic) EXPECT_EQ(topics.count(topic), 1U) << topic;
+  for (int topic = kHelpMainWindow; topic <= kHelpColors; ++topic)
+    EXPECT_EQ(topics.count(topic), 1U) << topic;
   EXPECT_EQ(static_cast<std::size_t>(QDir(QStringLiteral(":/help")).entryList().size()), HelpPages().size());
 }
 
