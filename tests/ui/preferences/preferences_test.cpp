@@ -97,8 +97,14 @@ class PreferencesTest : public FrameTest {
     EXPECT_TRUE(isOpened);
   }
 
+  // The main window without what depends on the focus and the pointer.
+  struct Seen {
+    QImage month, header;
+    QString status;
+    bool operator==(const Seen&) const = default;
+  };
   // Returns the main window as it is with that date after a restart.
-  QImage AfterRestart(PackedDate date) {
+  Seen AfterRestart(PackedDate date) {
     sheet.reset();
     frame.reset();
     Display() = DisplaySettings();
@@ -107,8 +113,9 @@ class PreferencesTest : public FrameTest {
     Select(date);
     Open();
     Show(date);
+    Dialog().Month().clearFocus();
     Settle();
-    return frame->grab().toImage();
+    return {Dialog().Month().grab().toImage(), Dialog().Header().grab().toImage(), frame->StatusText()};
   }
   std::string Stored() const { return files.files.at(u"/user/Calendar.xml").bytes + *store.text; }
 
@@ -234,14 +241,13 @@ TEST_F(PreferencesControlTest, EachIsFoundAgainInFileKeyAndOnScreenAndCancelChan
   for (const ControlRow& control : Controls()) {
     SCOPED_TRACE(control.name + (" " + control.stored));
     EXPECT_EQ(fresh.find(control.stored), std::string::npos);
-    const QImage before = AfterRestart(control.shown);
+    const Seen before = AfterRestart(control.shown);
 
     OpenSheet();
-    const QImage preview = sheet->Preview().grab().toImage();
     Change(control);
     Press(QDialogButtonBox::Cancel);
     EXPECT_EQ(Stored(), fresh);
-    EXPECT_EQ(AfterRestart(control.shown), before);
+    EXPECT_TRUE(AfterRestart(control.shown) == before);
 
     OpenSheet();
     Change(control);
