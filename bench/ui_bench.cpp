@@ -16,11 +16,7 @@ namespace orbisol {
 namespace {
 
 constexpr void (*kRegister[])() = {
-    RegisterEditors,
-    RegisterMonthView,
-    RegisterPrintFrame,
-    RegisterPrinting,
-    RegisterPreferences,
+    RegisterEditors, RegisterMonthView, RegisterPrintFrame, RegisterPrinting, RegisterPreferences,
 };
 
 void LoadFrance() {
