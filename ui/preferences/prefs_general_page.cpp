@@ -157,10 +157,11 @@ QWidget* CPrefsGeneralPage::FaultyField() {
     Say(m_form->start->Error(), m_form->start);
     return m_form->start;
   }
-  for (auto row = m_rows.rbegin(); row != m_rows.rend(); ++row) {
-    if (row->from->IsValid()) continue;
-    Say(row->from->Error(), row->from);
-    return row->from;
+  for (std::size_t i = m_rows.size(); i-- > 0;) {
+    CDateEdit* const from = m_rows[i].from;
+    if (from->IsValid()) continue;
+    Say(from->Error(), from);
+    return from;
   }
   const CalendarRules& rules = m_edited.rules;
   const int bad = FirstBadRow({rules.firstDayOfYear, kCivilYearRows}, rules.startGregorian);
