@@ -276,7 +276,7 @@ TEST(ConcordanceTest, DatesOfOtherCalendarsNameTheirMonthWhereItBegins) {
   EXPECT_EQ(brumaire[0].text, u"10 brumaire");
   EXPECT_EQ(brumaire[8].text, u"18");
   EXPECT_EQ(brumaire[21].text, u"1er frimaire");
-  for (const std::size_t day : {1, 11, 21}) EXPECT_TRUE(brumaire[day].beginsDecade);
+  for (const std::size_t day : {1u, 11u, 21u}) EXPECT_TRUE(brumaire[day].beginsDecade);
   EXPECT_FALSE(brumaire[0].beginsDecade);
   const auto complementary = dates(1793, 9, OtherCalendar::kRepublican);
   EXPECT_EQ(complementary[16].text, u"1er complémentaire");
