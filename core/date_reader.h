@@ -79,7 +79,8 @@ struct DateReadings {
   std::vector<DateReading> readings;          // best first, no day twice, at most kMostReadings
   DateRefusal refusal = DateRefusal::kEmpty;  // kNone where there are readings
   std::u16string reason;                      // one French sentence; empty where there are readings
-  std::vector<DateReading> offers;            // days that can be meant instead, nearest first; may be empty
+  std::vector<DateReading>
+      offers;  // days that can be meant instead, nearest first, no day twice; may be empty
 };
 
 // Reads a text. `selected` (within the years shown) gives what the text leaves out: "15 mars", "1789".

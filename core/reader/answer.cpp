@@ -69,7 +69,9 @@ void CAnswer::Offer(const Date& date) {
   if (!IsWithinBounds(date)) return;
   DateReading reading;
   reading.date = date.Packed();
-  m_result.offers.push_back(reading);
+  const auto isSame = [&](const DateReading& offer) { return offer.date == reading.date; };
+  if (std::none_of(m_result.offers.begin(), m_result.offers.end(), isSame))
+    m_result.offers.push_back(reading);
 }
 
 std::vector<YearChoice> CAnswer::YearsOf(const Item& number) {
