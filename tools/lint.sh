@@ -3,7 +3,7 @@
 #
 #   tools/lint.sh         all of them
 #   tools/lint.sh --ci    all without Qt, and those with Qt that the last 20 commits touched: a source
-#                         with Qt takes ten times as long; these without the slowest checks
+#                         with Qt takes ten times as long; these and the tests without the slowest checks
 
 set -u
 cd "$(dirname "$0")/.." || exit 1
