@@ -27,15 +27,16 @@ SinCos operator-(SinCos a, SinCos b) {
   return {a.sin * b.cos - a.cos * b.sin, a.cos * b.cos + a.sin * b.sin};
 }
 
-// Returns the angle moved by up to a hundredth of a degree, right to the last bit but one: what the series
-// leave out is below 1e-19.
+// Returns the angle moved by up to 3.4 degrees, right to the last bit but one: what the series leave out is
+// below 3e-17.
 SinCos Nudged(SinCos angle, double degrees) {
-  const double r = degrees * kRadians;  // [-0.00018, 0.00018]
+  const double r = degrees * kRadians;  // [-0.06, 0.06]
   const double square = r * r;
-  return angle + SinCos{r * (1.0 - square / 6.0), 1.0 - square / 2.0 + square * square / 24.0};
+  const double sine = r * (1.0 - square * (1.0 / 6.0 - square * (1.0 / 120.0 - square / 5040.0)));
+  const double cosine =
+      1.0 - square * (0.5 - square * (1.0 / 24.0 - square * (1.0 / 720.0 - square / 40320.0)));
+  return angle + SinCos{sine, cosine};
 }
-
-double DegreesOf(double y, double x) { return std::atan2(y, x) * kDegrees; }
 
 // Returns the angle in [0, 360]. A negative angle too small for the sum gives 360 itself.
 double Reduce(double degrees) { return degrees - 360.0 * std::floor(degrees / 360.0); }
@@ -67,34 +68,47 @@ constexpr Element kMeanLead{kMoonNode.atStart + kMoonPerigee.atStart + kMoonAnom
                             kMoonNode.perDay + kMoonPerigee.perDay + kMoonAnomaly.perDay -
                                 kSunAnomaly.perDay - kSunPerihelion.perDay};
 
-double SunLongitude(double t, double perihelion, double meanAnomaly, SinCos anomaly) {
-  const double e = kSunEccentricity.At(t);  // above 1 two million years ago; the root is then a NaN
-  const SinCos eccentric = SinCosOf(meanAnomaly + e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
-  return DegreesOf(std::sqrt(1.0 - e * e) * eccentric.sin, eccentric.cos - e) + perihelion;
+// Place seen from the Earth, in units of the orbit's semi-major axis, on two axes of the ecliptic: a
+// direction whose angle counts from the first.
+struct Place {
+  double along;
+  double across;
+};
+
+// Returns the angle from the direction `from` to the direction `to`, in degrees [-180, 180]. One arc tangent
+// does where the angles of both would cost one each.
+double DegreesBetween(Place from, Place to) {
+  const double sine = from.along * to.across - from.across * to.along;
+  const double cosine = from.along * to.along + from.across * to.across;
+  return std::atan2(sine, cosine) * kDegrees;
 }
 
-// Solves Kepler's equation and returns the eccentric anomaly; the mean one is in degrees. The orbit is so
-// round that the first guess is never more than 0.0048 degrees off, and one correction by Newton's method
-// leaves less than a millionth.
-SinCos MoonEccentricAnomaly(double meanAnomaly, SinCos anomaly) {
-  const double guess =
-      meanAnomaly + kMoonEccentricityInDegrees * anomaly.sin * (1.0 + kMoonEccentricity * anomaly.cos);
-  const SinCos eccentric = SinCosOf(guess);
-  const double correction = (guess - kMoonEccentricityInDegrees * eccentric.sin - meanAnomaly) /
+// Returns the place of the Sun, counted from its perihelion.
+Place SunPlace(double t, SinCos anomaly) {
+  const double e =
+      kSunEccentricity.At(t);  // above 1 two million years ago; the root is then a NaN, and no phase
+  const SinCos eccentric = Nudged(anomaly, e * kDegrees * anomaly.sin * (1.0 + e * anomaly.cos));
+  return {eccentric.cos - e, std::sqrt(1.0 - e * e) * eccentric.sin};
+}
+
+// Solves Kepler's equation and returns the eccentric anomaly. The orbit is so round that the first guess is
+// never more than 0.0048 degrees off, and one correction by Newton's method leaves less than a millionth.
+SinCos MoonEccentricAnomaly(SinCos anomaly) {
+  const double guess = kMoonEccentricityInDegrees * anomaly.sin * (1.0 + kMoonEccentricity * anomaly.cos);
+  const SinCos eccentric = Nudged(anomaly, guess);
+  const double correction = (guess - kMoonEccentricityInDegrees * eccentric.sin) /
                             (1.0 - kMoonEccentricity * eccentric.cos);  // divided by [0.945, 1.055]
   return Nudged(eccentric, -correction);
 }
 
-// Returns the Moon's longitude on its ellipse, seen from the Earth and projected on the ecliptic, in degrees.
-double UnperturbedMoonLongitude(double node, SinCos toPerigee, double meanAnomaly, SinCos anomaly) {
+// Returns the place of the Moon on its ellipse, projected on the ecliptic and counted from its node.
+Place UnperturbedMoonPlace(SinCos toPerigee, SinCos anomaly) {
   static const double axes = std::sqrt(kMoonMinorAxis);
   static const double tilt = SinCosOf(kMoonInclination).cos;
-  const SinCos eccentric = MoonEccentricAnomaly(meanAnomaly, anomaly);
+  const SinCos eccentric = MoonEccentricAnomaly(anomaly);
   const double x = eccentric.cos - kMoonEccentricity;
   const double y = axes * eccentric.sin;
-  const double along = x * toPerigee.cos - y * toPerigee.sin;  // toward the node
-  const double across = x * toPerigee.sin + y * toPerigee.cos;
-  return DegreesOf(across * tilt, along) + node;
+  return {x * toPerigee.cos - y * toPerigee.sin, (x * toPerigee.sin + y * toPerigee.cos) * tilt};
 }
 
 // Returns what the Sun adds to the Moon's longitude, in degrees [-2.5, 2.5]: the twelve greatest terms.
@@ -182,9 +196,9 @@ int MoonElongation(double t) {
   const SinCos sun = SinCosOf(sunAnomaly);
   const SinCos moon = SinCosOf(moonAnomaly);
   const SinCos toPerigee = SinCosOf(perigee);
-  const double longitude = UnperturbedMoonLongitude(node, toPerigee, moonAnomaly, moon) +
-                           Perturbations(moon, sun, SinCosOf(lead), toPerigee + moon);
-  const double elongation = Reduce(SunLongitude(t, sunPerihelion, sunAnomaly, sun) - longitude);
+  const double unperturbed = DegreesBetween(UnperturbedMoonPlace(toPerigee, moon), SunPlace(t, sun));
+  const double elongation =
+      Reduce(unperturbed + sunPerihelion - node - Perturbations(moon, sun, SinCosOf(lead), toPerigee + moon));
   return elongation < 360.0 ? static_cast<int>(elongation) : 0;  // 0 also for a NaN
 }
 
