@@ -101,7 +101,7 @@ class CProgramIcon : public QIconEngine {
   QString key() const override { return QStringLiteral("orbisol-program"); }
 
   QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
-    return {{16, 16}, {22, 22}, {32, 32}, {48, 48}, {64, 64}, {128, 128}};
+    return {{16, 16}, {22, 22}, {24, 24}, {32, 32}, {48, 48}, {64, 64}, {128, 128}};
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
@@ -128,8 +128,9 @@ class CProgramIcon : public QIconEngine {
  private:
   // Small icons have drawings of their own, whose lines fall on whole pixels.
   static QString DrawingFor(int side) {
-    if (side <= 16) return QStringLiteral("orbisol-16");
-    return side <= 24 ? QStringLiteral("orbisol-22") : QStringLiteral("orbisol");
+    for (const int drawn : {16, 22, 24, 32})
+      if (side <= drawn) return QStringLiteral("orbisol-%1").arg(drawn);
+    return QStringLiteral("orbisol");
   }
 };
 
