@@ -15,7 +15,7 @@ build = cmake --preset $(1) --log-level=WARNING && cmake --build --preset $(1)
 groups_sanitize := clang
 groups_coverage := coverage
 
-.PHONY: help run test screenshot bench coverage fuzz lint format count install clean
+.PHONY: help run test screenshot bench coverage fuzz lint format count install package clean
 .DEFAULT_GOAL := help
 
 help:
@@ -29,6 +29,7 @@ help:
 	@echo 'make format      let clang-format settle the spaces'
 	@echo 'make count       lines of the tests and of the product'
 	@echo 'make install     install into PREFIX ($(PREFIX)), below DESTDIR where given'
+	@echo 'make package     a Debian package in build/release/package, checked'
 	@echo 'make clean       forget what was built'
 
 run:
@@ -74,7 +75,12 @@ count:
 install:
 	@$(need) build run
 	@$(call build,release)
-	@cmake --install build/release --prefix $(PREFIX)
+	@umask 022; cmake --install build/release --prefix $(PREFIX)
+
+package:
+	@$(need) build package
+	@$(call build,release)
+	@tools/package.sh build/release
 
 clean:
 	rm -rf build

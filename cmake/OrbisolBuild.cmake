@@ -33,6 +33,10 @@ endif()
 # The days of the moon follow from doubles, which a fused multiply-add would round differently on some
 # machines.
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow -ffp-contract=off)
+# What is installed names no folder of the machine that built it.
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  add_compile_options("-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+endif()
 if(ORBISOL_WERROR)
   add_compile_options(-Werror)
 endif()
