@@ -9,7 +9,8 @@
 # later release of the checker knows more of them.
 
 set -u
-umask 022  # for the folders in the package
+umask 022              # for the folders in the package
+export LC_ALL=C.UTF-8  # for the names of the public calendars, which CPack cannot read elsewhere
 cd "${1:?usage: tools/package.sh BUILD}" || exit 1
 packages=$PWD/package
 rm -rf "$packages"
@@ -32,7 +33,7 @@ check() {  # command...
 }
 
 manual() {  # page
-  complaints=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$1" 2>&1 >/dev/null)
+  complaints=$(MANWIDTH=80 man --warnings -l "$1" 2>&1 >/dev/null)
   [ -z "$complaints" ] || { echo "$complaints" >&2; return 1; }
   mandoc -T lint -W warning "$1"
 }
