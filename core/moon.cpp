@@ -1,5 +1,6 @@
 #include "core/moon.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -170,14 +171,26 @@ class CNoonElongations {
   Noon m_noons[4];
 };
 
+// Returns whether the day of a candidate is nearer to the phase angle than its two neighbors. From one noon
+// to the next the angle falls by 10 to 15 over the years shown, so that most days need no neighbor: one up to
+// 4 off is the nearest, and one more than 7 off is not.
+constexpr int kMostOffPhase = 7;
+bool IsNearestDay(CNoonElongations& noons, std::int64_t dayNumber, int phase) {
+  const int angle = noons.At(dayNumber);
+  const int apart = std::abs(angle - phase);
+  const int off = std::min(apart, 360 - apart);
+  if (off <= 4 || off > kMostOffPhase) return off <= 4;
+  return IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), phase);
+}
+
 constexpr int kLeastGap = 6;  // least number of days from one phase to the next
 
 // Returns whether the mean Moon is too far from all phase angles for the true one to be near.
 bool IsFarFromPhases(double t) {
   constexpr double kMostFromMean = 12.0;  // degrees between true and mean Moon, over the whole range shown
-  constexpr double kPhaseReach = 10.0;    // degrees from a phase within which CandidateOf looks for it
-  constexpr double kFar = 23.0;
-  static_assert(kFar > kMostFromMean + kPhaseReach && kFar < 45.0);
+  constexpr double kCut = 1.0;            // angles are cut to whole degrees
+  constexpr double kFar = 20.5;
+  static_assert(kFar > kMostFromMean + kMostOffPhase + kCut && kFar < 45.0);
   const double lead = kMeanLead.At(t);
   const double fromPhase = lead - 90.0 * std::floor(lead / 90.0);  // [0, 90]
   return fromPhase > kFar && fromPhase < 90.0 - kFar;
@@ -218,10 +231,8 @@ void MoonPhasesOfDays(int firstDayNumber, std::span<MoonPhase> phases) {
     phases[i] = kNoPhase;
     const std::int64_t dayNumber = firstDayNumber + static_cast<std::int64_t>(i);
     if (IsFarFromPhases(MoonTimeOfNoon(dayNumber))) continue;
-    const int angle = noons.At(dayNumber);
-    const Candidate candidate = CandidateOf(angle);
-    if (candidate.phase != kNoPhase &&
-        IsNearestDay(noons.At(dayNumber - 1), angle, noons.At(dayNumber + 1), candidate.angle)) {
+    const Candidate candidate = CandidateOf(noons.At(dayNumber));
+    if (candidate.phase != kNoPhase && IsNearestDay(noons, dayNumber, candidate.angle)) {
       phases[i] = candidate.phase;
       for (int next = 1; next < kLeastGap && i + 1 < phases.size(); ++next) phases[++i] = kNoPhase;
     }
