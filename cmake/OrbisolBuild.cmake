@@ -33,9 +33,12 @@ endif()
 # The days of the moon follow from doubles, which a fused multiply-add would round differently on some
 # machines.
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow -ffp-contract=off)
-# What is installed names no folder of the machine that built it.
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  # What is installed names no folder of the machine that built it.
   add_compile_options("-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+  # Four fields of a record are stored faster one by one than gathered in a vector register first: the date of a
+  # day number takes a fifth less time.
+  add_compile_options(-fno-tree-slp-vectorize)
 endif()
 if(ORBISOL_WERROR)
   add_compile_options(-Werror)
