@@ -5,6 +5,7 @@ The words stand in resources/texts/holiday_info.toml. A rule is a pair: its reco
 
 ALWAYS_FROM, ALWAYS_TO = -39991231, 39991231
 LONGEST_LIST = 20  # names that a description lists; of more it tells the number
+MOST_DAYS = 4  # of a rule that lists its days; likewise
 
 
 def packed(date):
@@ -27,6 +28,11 @@ class Describer:
         first, last = records[0]["ymdFrom"], records[-1]["ymdTo"]
         if first == last:
             return self.words["once"].format(self.date(first))
+        if all(record["ymdFrom"] == record["ymdTo"] for record in records):
+            days = [self.date(record["ymdFrom"]) for record in records]
+            if len(days) > MOST_DAYS:
+                return self.words["listed"].format(len(days), first // 10000, last // 10000)
+            return self.words["several"].format(", ".join(days[:-1]), days[-1])
         if first == ALWAYS_FROM:
             return "" if last == ALWAYS_TO else self.words["until"].format(self.date(last))
         if last == ALWAYS_TO:
@@ -42,7 +48,7 @@ class Describer:
         sentences = []
         for (validity, source), found in names.items():
             listed = ", ".join(found) if len(found) <= LONGEST_LIST else self.words["many"].format(len(found))
-            sentences.append(self.words["rule"].format(names=listed, validity=validity, source=source))
+            sentences.append(self.words["sentence"].format(names=listed, validity=validity, source=source))
         return sentences
 
     def text(self, calendar):

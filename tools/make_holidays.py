@@ -12,11 +12,13 @@ import datetime
 import os
 import re
 import sys
-import tomllib
 
 from holiday_info import ALWAYS_FROM, ALWAYS_TO, Describer, packed
+from holiday_source import Fault, Source, is_file_name, is_text
 
 LONGEST_NAME = 254  # UTF-16 units
+LAST_YEAR = 3999
+FARTHEST_FROM_EASTER = 99  # days
 WEEKDAYS = ["Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"]
 MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
           "November", "December"]
@@ -43,48 +45,9 @@ RULE_KEYS = {"name", "kind", "public", "date", "dates", "days", "which", "weekda
 LOCALE = re.compile(r"(?:[a-z]{2,3}_)?[A-Z]{2}")
 
 
-class Fault(Exception):
-    """A fault in a source. Its text is the whole line to print."""
-
-
-class Source:
-    """One file, and the lines of its keys."""
-
-    def __init__(self, path):
-        self.path = path
-        self.stem = os.path.splitext(os.path.basename(path))[0]
-        with open(path, "rb") as file:
-            text = file.read()
-        try:
-            self.lines = text.decode("utf-8").splitlines()
-            self.data = tomllib.loads("\n".join(self.lines))
-        except UnicodeDecodeError as error:
-            self.fail(text.count(b"\n", 0, error.start) + 1, "is not UTF-8")
-        except tomllib.TOMLDecodeError as error:
-            place = re.search(r"\(at line (\d+), column \d+\)", str(error))
-            self.fail(int(place[1]) if place else len(self.lines), str(error))
-
-    def fail(self, line, reason):
-        raise Fault(f"{self.path}:{line}: {reason}")
-
-    def line_of(self, key=None, rule=None):
-        """Returns the line of a key, of the calendar or of one of its rules; else the line where that begins."""
-        heads = [n for n, line in enumerate(self.lines, 1) if line.strip() == "[[rule]]"]
-        begin, end = 1, heads[0] if heads else len(self.lines) + 1
-        if rule is not None:
-            begin, end = heads[rule], [*heads, len(self.lines) + 1][rule + 1]
-        for number in range(begin, end):
-            if key and re.match(rf"\s*{key}\s*=", self.lines[number - 1]):
-                return number
-        return begin
-
-    def fault(self, key, reason, rule=None):
-        self.fail(self.line_of(key, rule), reason)
-
-
-def is_text(value):
-    """Returns whether a value is a text of one line that begins and ends without a blank."""
-    return isinstance(value, str) and value != "" and value == value.strip() and not re.search(r"[\x00-\x1f]", value)
+def is_date(value):
+    """Returns whether a value is a date without a time that a rule can hold."""
+    return type(value) is datetime.date and value.year <= LAST_YEAR
 
 
 class RuleReader:
@@ -108,7 +71,7 @@ class RuleReader:
         if value is None:
             self.fault(None, f"the rule has no '{key}'")
         if not is_text(value):
-            self.fault(key, f"'{key}' is a text of one line without a blank at its ends")
+            self.fault(key, f"'{key}' is a text of one line with single blanks and none at its ends")
         return value
 
     def choice(self, key, words):
@@ -130,7 +93,7 @@ class RuleReader:
         value = self.rule.get(key)
         if value is None:
             return otherwise
-        if type(value) is not datetime.date:
+        if not is_date(value):
             self.fault(key, f"'{key}' is a date such as 1981-10-02")
         return packed(value)
 
@@ -148,8 +111,8 @@ class RuleReader:
             fields.update(self.date_of_year(self.text("date"), "date"))
         if "days" in keys:
             fields["day"] = self.rule.get("days")
-            if type(fields["day"]) is not int or abs(fields["day"]) > 366:
-                self.fault("days", "'days' is the distance from Easter Sunday, negative before it")
+            if type(fields["day"]) is not int or abs(fields["day"]) > FARTHEST_FROM_EASTER:
+                self.fault("days", f"'days' is the distance from Easter Sunday, at most {FARTHEST_FROM_EASTER}, negative before it")
         if "weekday" in keys:
             fields["weekday"] = self.choice("weekday", WEEKDAYS)
             fields["weeknum"] = 1
@@ -174,6 +137,8 @@ class RuleReader:
         if self.rule.get("kind") == "listed days":
             return [{"public": int(public), "name": name, "type": 0, "month": date.month, "day": date.day,
                      "ymdFrom": packed(date), "ymdTo": packed(date)} for date in self.listed()]
+        if public and "from" not in self.rule:
+            self.fault(None, "a holiday needs a 'from', the day of its law")
         first, last = self.bound("from", ALWAYS_FROM), self.bound("to", ALWAYS_TO)
         if first > last:
             self.fault("to", "'to' lies before 'from'")
@@ -192,7 +157,7 @@ class RuleReader:
 
     def dates(self, key):
         dates = self.rule.get(key, [])
-        if not isinstance(dates, list) or any(type(date) is not datetime.date for date in dates):
+        if not isinstance(dates, list) or not all(map(is_date, dates)):
             self.fault(key, f"'{key}' is a list of dates such as 2020-06-07")
         return dates
 
@@ -228,12 +193,12 @@ class Calendar:
         for key, value in data.items():
             if key not in CALENDAR_KEYS:
                 source.fault(key, f"a calendar has no key '{key}'")
-            if not isinstance(value, CALENDAR_KEYS[key]):
+            if not isinstance(value, CALENDAR_KEYS[key]) or CALENDAR_KEYS[key] is datetime.date and not is_date(value):
                 kinds = {str: "text", list: "list", dict: "table", datetime.date: "date"}
                 source.fault(key, f"'{key}' is no {kinds[CALENDAR_KEYS[key]]}")
         self.source = source
         self.name = data.get("name", "")
-        if not self.name or re.search(r'[\x00-\x1f/\\]', self.name):
+        if not is_file_name(self.name):
             source.fault("name", "the calendar needs a 'name' that can be the name of a file")
         base = None
         if "extends" in data:
@@ -242,25 +207,40 @@ class Calendar:
                 source.fault("extends", f"there is no source '{data['extends']}.toml', or it extends another one")
         self.info = data.get("info", base.info if base else "")
         if not is_text(self.info):
-            source.fault("info", "the calendar needs an 'info', a text of one line without a blank at its ends")
+            source.fault("info", "the calendar needs an 'info', a text of one line with single blanks and none at its ends")
         self.checked = data.get("checked", base.checked if base else None)
         self.locales = data.get("first_start", [])
         for locale in self.locales:
             if not isinstance(locale, str) or not LOCALE.fullmatch(locale):
                 source.fault("first_start", "'first_start' lists locales such as \"FR\" or \"fr_CH\"")
-        for country in data.get("countries", []):
+        self.countries = data.get("countries", [])
+        for country in self.countries:
             if not isinstance(country, str) or not re.fullmatch(r"[A-Z]{2}(-[A-Z0-9]{1,3})?", country):
                 source.fault("countries", "'countries' lists codes such as \"FR\" or \"FR-67\"")
         self.rules = self.inherited(base, data.get("without", []), data.get("since"))
         for number, rule in enumerate(data.get("rule", [])):
             reader = RuleReader(source, number, rule)
             self.rules.append((reader.records(), reader.rule["source"]))
+        self.refuse_doubles(len(data.get("rule", [])))
         self.rules += self.named_days(data.get("days", {}))
         # Public days first, those of the extended calendar before the own ones.
         self.records = sorted((record for records, _ in self.rules for record in records),
                               key=lambda record: -record["public"])
         if not self.records:
             source.fault(None, "the calendar has no rules")
+
+    def refuse_doubles(self, own):
+        """Fails if one of the calendar's own rules says again what a rule before it says on the same days."""
+        seen = []
+        for place, (records, _) in enumerate(self.rules):
+            for record in records:
+                days = {key: value for key, value in record.items() if key not in ("ymdFrom", "ymdTo")}
+                if any(days == other and record["ymdFrom"] <= last and first <= record["ymdTo"]
+                       for other, first, last in seen):
+                    number = place - (len(self.rules) - own)
+                    self.source.fault("name", f"'{record['name']}' is marked twice on the same days",
+                                      number if number >= 0 else None)
+                seen.append((days, record["ymdFrom"], record["ymdTo"]))
 
     def named_days(self, months):
         """Returns the rules of a calendar that names every day of the year: events, no holidays."""
@@ -349,6 +329,9 @@ def read_all(paths):
                             {stem: base for stem, base in found.items() if "extends" not in base.source.data})
         if any(calendar.name.casefold() == other.name.casefold() for other in found.values()):
             source.fault("name", f"there is another calendar named '{calendar.name}'")
+        for country in calendar.countries:
+            if any(country in other.countries for other in found.values()):
+                source.fault("countries", f"there is another calendar of {country}")
         found[source.stem] = calendar
     return [found[source.stem] for source in sources]
 
