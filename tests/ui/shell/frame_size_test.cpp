@@ -177,9 +177,12 @@ TEST_F(FrameTest, TheFirstStartMarksTheNextHolidayOfTheCountryOfTheSession) {
     PackedDate next;  // after 26 May 2026
     const char* name;
   } kFirstStarts[] = {
-      {"fr_BE.UTF-8", 20260721, "Fête nationale"}, {"fr_CH.UTF-8", 20260801, "Fête nationale"},
-      {"fr_CA.UTF-8", 20260624, "Fête nationale"}, {"de_DE.UTF-8", 20261003, "Jour de l'Unité allemande"},
-      {"en_US.UTF-8", 20260619, "Juneteenth"},     {"pt_BR.UTF-8", 20260907, "Indépendance"},
+      {"fr_BE.UTF-8", 20260721, "Fête nationale"},
+      {"fr_CH.UTF-8", 20260801, "Fête nationale"},
+      {"fr_CA.UTF-8", 20260624, "Fête nationale"},
+      {"de_DE.UTF-8", 20261003, "Jour de l'Unité allemande"},
+      {"en_US.UTF-8", 20260619, "Fin de l'esclavage (Juneteenth)"},
+      {"pt_BR.UTF-8", 20260907, "Fête de l'Indépendance"},
       {"C", 20260714, "Fête nationale"},
   };
   for (const auto& entry : std::filesystem::directory_iterator(ORBISOL_LEGALS))
