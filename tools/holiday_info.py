@@ -3,9 +3,12 @@
 The words stand in resources/texts/holiday_info.toml. A rule is a pair: its records and the source of its dates.
 """
 
+import re
+
 ALWAYS_FROM, ALWAYS_TO = -39991231, 39991231
 LONGEST_LIST = 20  # names that a description lists; of more it tells the number
 MOST_DAYS = 4  # of a rule that lists its days; likewise
+UNBREAKABLE = re.compile(r" (?=[;:?!»])|(?<=[«°]) ")
 
 
 def packed(date):
@@ -52,6 +55,7 @@ class Describer:
         return sentences
 
     def text(self, calendar):
+        """Returns the description of a calendar, in one line and with the blanks of French typography."""
         public = [rule for rule in calendar.rules if rule[0][0]["public"]]
         others = [rule for rule in calendar.rules if not rule[0][0]["public"]]
         parts = [calendar.info, *self.rules(public)]
@@ -59,4 +63,4 @@ class Describer:
             parts += [self.words["events"], *self.rules(others)]
         if calendar.checked:
             parts.append(self.words["checked"].format(self.date(packed(calendar.checked))))
-        return " ".join(parts)
+        return UNBREAKABLE.sub("\u00a0", " ".join(parts))

@@ -104,13 +104,13 @@ class MakeHolidaysTest(unittest.TestCase):
     def test_a_calendar_gives_its_rules_what_they_leave_out_and_tells_their_laws(self):
         day = '[[rule]]\nname = "Day"\nkind = "fixed date"\ndate = "1 May"\n'
         listed = '[[rule]]\nname = "Once"\nkind = "listed days"\ndates = [1950-06-02, 1951-06-03]\n'
-        event = day.replace("Day", "Eve") + 'public = false\nto = 1999-12-31\nsource = "use"\n'
+        event = day.replace("Day", "Eve") + 'public = false\nto = 1999-12-31\nsource = "use ; n° 3"\n'
         head = HEAD.replace("1900-01-01", "1949-05-23") + 'checked = 2026-11-22\nsource = "law"\n'
         made = made_of({"XX": head + day + listed + event})[2]["Here.xml"]
         self.assertIn("<ymdFrom>19490523</ymdFrom>\r\n\t\t<ymdTo>39991231</ymdTo>", made)
         self.assertIn("<ymdFrom>19510603</ymdFrom>\r\n\t\t<ymdTo>19510603</ymdTo>", made)
         info = ("Day (depuis le 23 mai 1949)\u00a0: law. Once (les 2 juin 1950 et 3 juin 1951)\u00a0: law. "
-                "Événements non fériés\u00a0: Eve (du 23 mai 1949 au 31 décembre 1999)\u00a0: use. "
+                "Événements non fériés\u00a0: Eve (du 23 mai 1949 au 31 décembre 1999)\u00a0: use\u00a0; n°\u00a03. "
                 "Dernière vérification\u00a0: 22 novembre 2026.")
         self.assertIn(info + "</info>", made)
 
