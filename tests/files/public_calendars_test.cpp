@@ -65,47 +65,23 @@ TEST(PublicCalendarsTest, FewDaysComeFromRulesOfOneDay) {
   }
 }
 
-// Holidays by year, from the year of each change on: no holiday is older than its law.
+// Holidays by year, from the year of each change on: no holiday is older than its law. Alsace and Moselle
+// keep nothing French from 1871 to 1918.
 TEST(PublicCalendarsTest, FrenchHolidaysBeginAndEndWithTheirLaws) {
-  const std::map<std::string, std::map<int, std::size_t>> changes = {
-      {"France",
-       {{1792, 0},
-        {1802, 4},
-        {1811, 5},
-        {1880, 6},
-        {1886, 8},
-        {1922, 9},
-        {1947, 10},
-        {1953, 11},
-        {1959, 10},
-        {1965, 11},
-        {1966, 10},
-        {1982, 11}}},
-      // Nothing French from 1871 to 1918.
-      {"France (Alsace-Moselle)",
-       {{1792, 0},
-        {1802, 4},
-        {1811, 5},
-        {1871, 1},
-        {1872, 0},
-        {1892, 3},
-        {1893, 9},
-        {1919, 10},
-        {1922, 11},
-        {1947, 12},
-        {1953, 13},
-        {1959, 12},
-        {1965, 13},
-        {1966, 12},
-        {1982, 13}}},
-  };
-  for (const auto& [name, counts] : changes) {
+  using Changes = std::map<int, std::size_t>;
+  const Changes france = {{1792, 0},  {1802, 4},  {1811, 5},  {1880, 6},  {1886, 8},  {1922, 9},
+                          {1947, 10}, {1953, 11}, {1959, 10}, {1965, 11}, {1966, 10}, {1982, 11}};
+  const Changes alsace = {{1792, 0},  {1802, 4},  {1811, 5},  {1871, 1},  {1872, 0},
+                          {1892, 3},  {1893, 9},  {1919, 10}, {1922, 11}, {1947, 12},
+                          {1953, 13}, {1959, 12}, {1965, 13}, {1966, 12}, {1982, 13}};
+  for (const auto& [name, changes] :
+       {std::pair("France", france), std::pair("France (Alsace-Moselle)", alsace)}) {
     const CalendarContent content = ContentOfCalendar(name);
     for (int year = 1792; year <= 2040; ++year) {
       std::size_t days = 0;
       for (const DayEvent& rule : content.dayEvents)
         if (rule.isPublic) days += RuleDatesInYear(rule, year).size();
-      EXPECT_EQ(days, std::prev(counts.upper_bound(year))->second) << name << ", " << year;
+      EXPECT_EQ(days, std::prev(changes.upper_bound(year))->second) << name << ", " << year;
     }
   }
 }
