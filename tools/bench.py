@@ -141,8 +141,8 @@ def run_command(command, items):
     return statistics.median(seconds) * 1e9 / items
 
 
-# Peers that are programs: what must be installed, their command, and how many items it makes. rem2pdf is part of the
-# sources of remind and in no package of Debian 12; without it that budget is not checked.
+# Peers that are programs: what must be installed, their command, and how many items it makes. rem2pdf is in the
+# package remind-tools.
 PEERS = {
     "AllMonths_Remind": ("remind", ["remind", "-c600", "bench/peers/france.rem", "2000-01-01"], 600),
     "YearsOfTheEra_Gcal": ("gcal", ["gcal", "-n", "-q", "FR", "1+3999"], 12 * 3999),

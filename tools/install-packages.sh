@@ -22,8 +22,8 @@ packages_of() {
     clang) echo "clang=clang++ $(clang_runtime)=-" ;;
     lint) echo "clang-tidy=clang-tidy clang-format=clang-format git=git" ;;
     coverage) echo "gcovr=gcovr" ;;
-    bench) echo "libbenchmark-dev=pc:benchmark libicu-dev=pc:icu-i18n remind=remind gcal=gcal
-                 python3=python3" ;;
+    bench) echo "libbenchmark-dev=pc:benchmark libicu-dev=pc:icu-i18n remind=remind remind-tools=rem2pdf
+                 gcal=gcal python3=python3" ;;
     package) echo "dpkg-dev=dpkg-shlibdeps file=file lintian=lintian desktop-file-utils=desktop-file-validate
                    appstream=appstreamcli man-db=man mandoc=mandoc" ;;
     fresh) echo "debootstrap=debootstrap util-linux=unshare" ;;
