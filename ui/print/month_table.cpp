@@ -37,6 +37,10 @@ class CTablePainter {
       m_marksDecades = true;
     }
     m_dateFont = DateFont(printed);
+    if (!FitsDates(m_dateFont, printed)) {
+      m_table.hasDatesBelow = true;
+      m_dateFont = DateFont(printed);
+    }
     const DayCell* const cells = m_model.cells.data();
     for (int cell = m_model.FirstCell(); !days.empty() && cell <= m_model.LastCell(); ++cell) {
       const DayCell& day = cells[cell];
@@ -89,10 +93,11 @@ class CTablePainter {
     DrawWrapped(m_painter, parts.text, printed.runs, {});
   }
 
-  // Returns the place of the dates of other calendars, left of the moon. Where there is none, a name of a
+  // Returns the right end of a date of another calendar, left of the moon. Where there is none, a name of a
   // month that is too long for that may stand in its place.
-  static int RightOfDate(const TableCell& parts, bool hasMoon, int width) {
-    return !hasMoon && width > parts.dates.Width() ? parts.moon.right : parts.dates.right;
+  int RightOfDate(const TableCell& parts, bool hasMoon, int width) const {
+    const bool takesMoon = !m_table.hasDatesBelow && !hasMoon && width > parts.dates.Width();
+    return takesMoon ? parts.moon.right : parts.dates.right;
   }
 
   void PaintOtherDates(const TableCell& parts, bool hasMoon, std::size_t index) const {
@@ -112,7 +117,8 @@ class CTablePainter {
     for (const std::vector<OtherDate>& dates : m_dates) {
       for (std::size_t i = 0; i < dates.size(); ++i) {
         const int width = WidthOf(font, ToQString(dates[i].text));
-        if (width > RightOfDate(parts, printed[i].hasMoon, width) - parts.dates.left) return false;
+        // Some columns are narrower than this one by a unit.
+        if (width >= RightOfDate(parts, printed[i].hasMoon, width) - parts.dates.left) return false;
       }
     }
     return true;
@@ -173,7 +179,7 @@ class CTablePainter {
 
   QPainter& m_painter;
   const PageStyle& m_style;
-  const TableLayout& m_table;
+  TableLayout m_table;
   const MonthModel& m_model;
   QFont m_names;
   QFont m_small;

@@ -13,11 +13,18 @@ constexpr int kRows = 32;  // a title row and 31 days
 constexpr int kTableColumns = 7;
 
 // Returns the part of an edge that a picture may take, in percent: the more months stand on a page, the less.
-int PicturePercent(int monthsPerPage) {
+// Above a column it leaves rows in which the small font can be read.
+int PicturePercent(int monthsPerPage, bool isTable, bool isUpright) {
   if (monthsPerPage >= 12) return 15;
   if (monthsPerPage >= 6) return 20;
   if (monthsPerPage >= 3) return 25;
-  return 42;
+  return isTable || !isUpright ? 42 : 28;
+}
+
+// Returns the height of the title, which grows with the paper, so that it can be read from where the page is.
+int TitleHeight(const Rect& area, const PageUnits& units, int monthsPerPage) {
+  const int wanted = std::min(area.Height() / 20, area.Width() / (monthsPerPage == 1 ? 16 : 20));
+  return std::clamp(wanted, 14 * units.point, 72 * units.point);
 }
 
 // Returns a rectangle whose corners are in order and lie inside `area`.
@@ -58,14 +65,14 @@ Rect FittedPicture(const Rect& room, const PictureSize& picture) {
   return {left, top, left + width, top + height};
 }
 
-PageBands PageBandsOf(const Rect& area, const PageUnits& units, int monthsPerPage,
+PageBands PageBandsOf(const Rect& area, const PageUnits& units, int monthsPerPage, bool isTable,
                       const PictureSize& picture) {
   PageBands bands;
   Rect rest = area;
   const int gap = 6 * units.point;
   if (picture.width > 0 && picture.height > 0) {
-    const int percent = PicturePercent(monthsPerPage);
     const bool isUpright = area.Height() >= area.Width();
+    const int percent = PicturePercent(monthsPerPage, isTable, isUpright);
     Rect room = area;
     if (isUpright) {
       room.bottom = room.top + MulDiv(area.Height(), percent, 100);
@@ -83,8 +90,7 @@ PageBands PageBandsOf(const Rect& area, const PageUnits& units, int monthsPerPag
     }
   }
   const int captionHeight = 12 * units.point;
-  const int titleHeight =
-      std::clamp(area.Height() / 20, 14 * units.point, (monthsPerPage == 1 ? 34 : 26) * units.point);
+  const int titleHeight = TitleHeight(area, units, monthsPerPage);
   bands.caption = Inside({rest.left, rest.bottom - captionHeight, rest.right, rest.bottom}, area);
   bands.title = Inside({rest.left, rest.top, rest.right, rest.top + titleHeight}, area);
   bands.body = Inside(
@@ -160,38 +166,41 @@ Rect TableLayout::Cell(int row, int column) const {
   return {ColumnLeft(column), RowTop(row), ColumnLeft(column + 1), RowTop(row + 1)};
 }
 
-// Fonts are bound by the width of a column, in which a weekday's name must fit, and have a size for reading
-// from afar at most.
+// Fonts follow the width of a column, in which a weekday's name must fit, and the height of the lowest row,
+// and so grow with the paper.
 int TableLayout::HeaderFontHeight() const {
-  return std::clamp(frame.Width() / kTableColumns / 6, units.point, 16 * units.point);
+  return std::max(units.point, std::min(frame.Width() / kTableColumns / 6, frame.Height() / 6 / 5));
 }
 
 int TableLayout::NumberFontHeight() const {
-  const bool hasDates = dateLines > 0;
-  const int least = std::min(frame.Width() / kTableColumns / (hasDates ? 5 : 4), frame.Height() / 6 / 3);
-  return std::clamp(least, units.point, (hasDates ? 18 : 26) * units.point);
+  const int part = dateLines > 0 ? 5 : 4;  // beside dates of other calendars it is smaller
+  return std::max(units.point,
+                  std::min(frame.Width() / kTableColumns / part, frame.Height() / 6 / (part - 1)));
 }
 
 int TableLayout::SmallFontHeight() const {
-  const int least = std::min(frame.Width() / kTableColumns / 8, frame.Height() / 6 / 7);
-  return std::clamp(least, units.point, 11 * units.point);
+  return std::max(units.point, std::min(frame.Width() / kTableColumns / 8, frame.Height() / 6 / 7));
 }
 
 TableCell PartsOf(const Rect& cell, const TableLayout& table) {
-  const int inset = 3 * table.units.point;
+  const int inset = std::max(3 * table.units.point, cell.Width() / 28);
   const int number = table.NumberFontHeight();
   const int small = table.SmallFontHeight();
   TableCell parts;
   parts.head = cell;
-  parts.head.bottom =
-      std::min(cell.bottom, cell.top + std::max(number, table.dateLines * small) + 2 * table.units.point);
+  const int dates = table.dateLines * small;
+  const int headHeight = table.hasDatesBelow ? number + dates : std::max(number, dates);
+  parts.head.bottom = std::min(cell.bottom, cell.top + headHeight + 2 * table.units.point);
   const int upper = cell.top + table.units.point;
   parts.number = Inside({cell.left + inset, upper, cell.left + inset + 2 * number, upper + number}, cell);
   const int moon = number * 3 / 5;
   const int moonTop = upper + (number - moon) / 2;
   parts.moon = Inside({cell.right - inset - moon, moonTop, cell.right - inset, moonTop + moon}, cell);
-  parts.dates = Inside(
-      {parts.number.left + number * 5 / 4, upper, parts.moon.left - inset / 2, parts.head.bottom}, cell);
+  parts.dates = table.hasDatesBelow
+                    ? Inside({cell.left + inset, upper + number, cell.right - inset, parts.head.bottom}, cell)
+                    : Inside({parts.number.left + number * 5 / 4, upper, parts.moon.left - inset / 2,
+                              parts.head.bottom},
+                             cell);
   parts.text = Inside({cell.left + inset, parts.head.bottom + table.units.point, cell.right - inset,
                        cell.bottom - table.units.point},
                       cell);

@@ -1,7 +1,7 @@
 // The geometry of printed pages, in device units: plain integers, so that paper, preview and tests agree.
 //
 //   const Rect area = PageArea({2100, 2970, {150, 150, 150, 150}}, 600);
-//   const PageBands bands = PageBandsOf(area, PageUnits(600), 12, {});
+//   const PageBands bands = PageBandsOf(area, PageUnits(600), 12, false, {});
 //   const ColumnLayout column = ColumnOnPage(bands.body, PageUnits(600), 12, 0);
 //
 // Positions count from the upper left corner of the paper. On paper too small for its content rectangles may
@@ -38,14 +38,15 @@ struct PictureSize {
 };
 
 // The parts of a page. `picture` has the proportions of the picture and is empty without one: above the title
-// on an upright page, left of all else on a wide one.
+// on an upright page, left of all else on a wide one. `isTable` says that a single month is no column of
+// days: it leaves a picture more room.
 struct PageBands {
   Rect picture;
   Rect title;
   Rect body;
   Rect caption;
 };
-PageBands PageBandsOf(const Rect& area, const PageUnits& units, int monthsPerPage,
+PageBands PageBandsOf(const Rect& area, const PageUnits& units, int monthsPerPage, bool isTable,
                       const PictureSize& picture);
 
 // Returns the largest rectangle in those proportions inside `room`, in its middle.
@@ -83,8 +84,9 @@ ColumnLayout ColumnOnPage(const Rect& body, const PageUnits& units, int monthsPe
 struct TableLayout {
   Rect frame;
   PageUnits units;
-  int rows = 0;       // weeks shown
-  int dateLines = 0;  // other calendars whose dates are shown
+  int rows = 0;                // weeks shown
+  int dateLines = 0;           // other calendars whose dates are shown
+  bool hasDatesBelow = false;  // whether they stand below the number, where there is no room beside it
 
   int HeaderBottom() const;
   int WeekColumnRight() const;

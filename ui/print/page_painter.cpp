@@ -81,8 +81,9 @@ bool CPagePainter::Paint(QPainter& painter, int page, const PageSpace& space) co
 void CPagePainter::PaintBands(QPainter& painter, int page, const PageSpace& space) const {
   const PageUnits units(space.resolution);
   const QImage picture = m_job.Has(kImageOption) ? m_source.picture : QImage();
+  const bool isTable = m_job.formatCommand == kCmdFormatTable;
   const PageBands bands =
-      PageBandsOf(space.area, units, m_job.MonthsPerPage(), {picture.width(), picture.height()});
+      PageBandsOf(space.area, units, m_job.MonthsPerPage(), isTable, {picture.width(), picture.height()});
   if (GroundColor() != Qt::white) painter.fillRect(ToQRect(space.area), GroundColor());
   if (!picture.isNull()) painter.drawImage(ToQRect(bands.picture), picture);
   PaintTitle(painter, page, bands.title, units);

@@ -13,7 +13,6 @@ namespace orbisol {
 namespace {
 
 constexpr QChar kEllipsis(0x2026);
-constexpr double kUnseenSpacing = 0.02;  // in device units
 
 // Runs as one text, with the lettering of each part.
 struct LetteredText {
@@ -30,12 +29,14 @@ QString OneLine(QString text) {
   return text;
 }
 
-LetteredText Joined(std::span<const TextRun> runs) {
-  LetteredText joined;
+// Returns the paragraphs of runs, each of which is parted by spaces; or all of them as one.
+std::vector<LetteredText> ParagraphsOf(std::span<const TextRun> runs, bool asOne) {
+  std::vector<LetteredText> paragraphs;
   for (const TextRun& run : runs) {
     if (run.text.isEmpty()) continue;
-    if (!joined.text.isEmpty())
-      joined.text += run.beginsLine ? QChar(QChar::LineSeparator) : QChar(QLatin1Char(' '));
+    if (paragraphs.empty() || (run.beginsLine && !asOne)) paragraphs.emplace_back();
+    LetteredText& joined = paragraphs.back();
+    if (!joined.text.isEmpty()) joined.text += QLatin1Char(' ');
     QTextLayout::FormatRange range;
     range.start = static_cast<int>(joined.text.size());
     joined.text += OneLine(run.text);
@@ -44,7 +45,7 @@ LetteredText Joined(std::span<const TextRun> runs) {
     range.format.setFontItalic(run.lettering == Lettering::kItalic);
     joined.formats.append(range);
   }
-  return joined;
+  return paragraphs;
 }
 
 // Returns the text from `begin` on, `length` units of it, with an ellipsis in the lettering of its end.
@@ -88,9 +89,8 @@ double WidthOfLine(const LetteredText& text, const QFont& font) {
 // Draws as much of the text from `begin` on as one line holds, with an ellipsis.
 void DrawCut(QPainter& painter, const QPointF& corner, double width, const LetteredText& text,
              qsizetype begin) {
-  const qsizetype lineEnd = text.text.indexOf(QChar(QChar::LineSeparator), begin);
   qsizetype fits = 0;
-  qsizetype tooLong = (lineEnd < 0 ? text.text.size() : lineEnd) - begin + 1;
+  qsizetype tooLong = text.text.size() - begin + 1;
   while (tooLong - fits > 1) {
     const qsizetype middle = (fits + tooLong) / 2;
     if (WidthOfLine(Cut(text, begin, middle), painter.font()) <= width)
@@ -110,14 +110,76 @@ void DrawCut(QPainter& painter, const QPointF& corner, double width, const Lette
   layout.draw(&painter, corner);
 }
 
-// Returns the right end of a line between two heights.
-double RightEnd(const Rect& box, double top, double bottom, std::span<const Rect> taken) {
-  double right = box.right;
-  for (const Rect& rect : taken)
-    if (rect.Width() > 0 && rect.top < bottom && rect.bottom > top)
-      right = std::min<double>(right, rect.left);
-  return right;
+// Room for a line of text.
+struct LinePlace {
+  QPointF corner;  // upper left
+  double width = 0;
+};
+
+// Returns the lines that a box has room for, none of which meets a rectangle of `taken`.
+std::vector<LinePlace> PlacesOf(const Rect& box, double lineHeight, std::span<const Rect> taken) {
+  std::vector<LinePlace> places;
+  for (double top = box.top; top + lineHeight <= box.bottom; top += lineHeight) {
+    double right = box.right;
+    for (const Rect& rect : taken)
+      if (rect.Width() > 0 && rect.top < top + lineHeight && rect.bottom > top)
+        right = std::min<double>(right, rect.left);
+    // Less has no room for a letter and an ellipsis.
+    if (right - box.left >= lineHeight) places.push_back({QPointF(box.left, top), right - box.left});
+  }
+  return places;
 }
+
+// A paragraph in the lines that it has room for.
+class CParagraph {
+ public:
+  CParagraph(const LetteredText& text, const QFont& font) : m_text(text) { SetText(m_layout, text, font); }
+
+  // Lays out the text from the first place on and returns whether there is room for all of it. Where
+  // `keepsWords` is set, a place stays empty if it would break a word and a later one is wider.
+  bool LayOut(std::span<const LinePlace> places, bool keepsWords) {
+    m_places.clear();
+    m_layout.clearLayout();
+    m_layout.beginLayout();
+    QTextLine line = m_layout.createLine();
+    for (std::size_t place = 0; line.isValid() && place < places.size(); ++place) {
+      const double width = places[place].width;
+      line.setLineWidth(width);
+      const auto isWider = [&](const LinePlace& next) { return next.width > width; };
+      const bool hasWider = std::ranges::any_of(places.subspan(place + 1), isWider);
+      if (keepsWords && hasWider && IsInWord(line.textStart() + line.textLength())) continue;
+      m_places.push_back(place);
+      line = m_layout.createLine();
+    }
+    m_isWhole = !line.isValid();
+    m_layout.endLayout();
+    return m_isWhole;
+  }
+
+  // Draws the lines, the last one cut if there was no room for all. Returns the number of places used.
+  std::size_t Draw(QPainter& painter, std::span<const LinePlace> places) const {
+    for (std::size_t i = 0; i < m_places.size(); ++i) {
+      const LinePlace& place = places[m_places[i]];
+      const QTextLine line = m_layout.lineAt(static_cast<int>(i));
+      if (i + 1 == m_places.size() && !m_isWhole)
+        DrawCut(painter, place.corner, place.width, m_text, line.textStart());
+      else
+        line.draw(&painter, place.corner);
+    }
+    return m_places.empty() ? 0 : m_places.back() + 1;
+  }
+
+ private:
+  bool IsInWord(int position) const {
+    return position > 0 && position < m_text.text.size() && m_text.text[position - 1].isLetterOrNumber() &&
+           m_text.text[position].isLetterOrNumber();
+  }
+
+  const LetteredText& m_text;
+  QTextLayout m_layout;
+  std::vector<std::size_t> m_places;  // index of the place of each line
+  bool m_isWhole = true;
+};
 
 }  // namespace
 
@@ -125,9 +187,10 @@ CPageFonts::CPageFonts(const DisplaySettings& settings, const QFont& dialogFont)
     : m_face(CalendarFont(settings, dialogFont)) {
   m_face.setWeight(QFont::Normal);
   m_face.setHintingPreference(QFont::PreferNoHinting);
-  // A spacing that nobody sees keeps letters from being joined to ligatures, under which no reader of a PDF
-  // file would find "floréal".
-  m_face.setLetterSpacing(QFont::AbsoluteSpacing, kUnseenSpacing);
+  // On purpose: a spacing that changes nothing keeps letters from being joined to ligatures, under which no
+  // reader of a PDF file would find "floréal". In percent, for one in units would grow with the resolution of
+  // the device, and paper would break lines otherwise than a preview.
+  m_face.setLetterSpacing(QFont::PercentageSpacing, 100);
 }
 
 QFont CPageFonts::OfHeight(int height, Lettering lettering) const {
@@ -162,31 +225,17 @@ void DrawLine(QPainter& painter, const Rect& rect, Qt::Alignment alignment, cons
 
 void DrawWrapped(QPainter& painter, const Rect& box, std::span<const TextRun> runs,
                  std::span<const Rect> taken) {
-  const LetteredText text = Joined(runs);
-  const double lineHeight = QFontMetricsF(painter.font()).height();
-  if (text.text.isEmpty() || box.top + lineHeight > box.bottom) return;
-
-  QTextLayout layout;
-  SetText(layout, text, painter.font());
-  std::vector<QPointF> corners;  // of the lines that are shown whole
-  layout.beginLayout();
-  for (double top = box.top; top + lineHeight <= box.bottom; top += lineHeight) {
-    const QPointF corner(box.left, top);
-    const double width = RightEnd(box, top, top + lineHeight, taken) - box.left;
-    if (width < lineHeight) break;  // no room for a letter and an ellipsis
-    QTextLine line = layout.createLine();
-    if (!line.isValid()) break;
-    line.setLineWidth(width);
-    const bool isLastLine = top + 2 * lineHeight > box.bottom;
-    if (isLastLine && line.textStart() + line.textLength() < text.text.size()) {
-      DrawCut(painter, corner, width, text, line.textStart());
-      break;
-    }
-    corners.push_back(corner);
+  const std::vector<LinePlace> all = PlacesOf(box, QFontMetricsF(painter.font()).height(), taken);
+  std::span<const LinePlace> places = all;
+  std::vector<LetteredText> paragraphs = ParagraphsOf(runs, false);
+  if (paragraphs.size() > places.size()) paragraphs = ParagraphsOf(runs, true);
+  for (std::size_t i = 0; i < paragraphs.size() && !places.empty(); ++i) {
+    const std::size_t kept = paragraphs.size() - 1 - i;  // a line for each paragraph that follows
+    const std::span<const LinePlace> own = places.first(places.size() - kept);
+    CParagraph paragraph(paragraphs[i], painter.font());
+    if (!paragraph.LayOut(own, true)) paragraph.LayOut(own, false);
+    places = places.subspan(paragraph.Draw(painter, own));
   }
-  layout.endLayout();
-  for (std::size_t i = 0; i < corners.size(); ++i)
-    layout.lineAt(static_cast<int>(i)).draw(&painter, corners[i]);
 }
 
 }  // namespace orbisol

@@ -50,7 +50,8 @@ int WidthOf(const QFont& font, const QString& text);
 void DrawLine(QPainter& painter, const Rect& rect, Qt::Alignment alignment, const QString& text);
 
 // Draws runs, parted by spaces and broken between words, from the top of `box` in the painter's font. No line
-// meets a rectangle of `taken`, each of which lies at the right.
+// meets a rectangle of `taken`, each of which lies at the right. A run that begins a line has one of its own,
+// however long the runs before it are; where the box has too few lines for that, it follows on the line.
 void DrawWrapped(QPainter& painter, const Rect& box, std::span<const TextRun> runs,
                  std::span<const Rect> taken);
 

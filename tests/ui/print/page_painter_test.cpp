@@ -30,6 +30,7 @@ struct PaintedPage {
     image.fill(Qt::white);
     const PageSpace space = SpaceOf(layout, kResolution);
     bands = PageBandsOf(space.area, PageUnits(kResolution), job.MonthsPerPage(),
+                        job.formatCommand == kCmdFormatTable,
                         job.Has(kImageOption) ? PictureSize{300, 200} : PictureSize());
     QPainter painter(&image);
     CPagePainter(job, source).Paint(painter, 0, space);
@@ -243,6 +244,16 @@ TEST(PagePainterTest, AMonthAsOnTheScreenHasItsColorsAndItsGround) {
     const Rect body = page.bands.body;
     EXPECT_EQ(page.Ground({body.left, body.top, body.right, body.top + body.Height() / 8}), qRgb(10, 60, 20));
   }
+}
+
+TEST(PagePainterTest, AMonthAsOnTheScreenHasTheTextsOfItsCells) {
+  PrintSource source = SourceOfTests();
+  PrintSource other = source;
+  other.content.dayEvents[0].name.Set(u"Muguet");
+  const PrintJob job = JobOf(kCmdFormatScreen);
+  EXPECT_EQ(PaintedPage(job, source).image, PaintedPage(job, other).image) << "they are off";
+  source.settings.cellTexts = other.settings.cellTexts = true;
+  EXPECT_NE(PaintedPage(job, source).image, PaintedPage(job, other).image);
 }
 
 // A page keeps the state it began with, and does not touch the rules in force.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "core/text.h"
 #include "resources/command_ids.h"
 #include "tests/support/rules.h"
@@ -200,7 +202,7 @@ TEST(PageLayoutTest, ThePartsOfAPageLieInsideItAndDoNotMeet) {
                        << paper.width << " " << picture.width << " " << resolution << " " << months);
           const Rect area = PageArea(paper, resolution);
           const PageUnits units(resolution);
-          const PageBands bands = PageBandsOf(area, units, months, picture);
+          const PageBands bands = PageBandsOf(area, units, months, resolution == 96, picture);
           for (const Rect& band : {bands.title, bands.body, bands.caption}) EXPECT_TRUE(isInside(band, area));
           EXPECT_LE(bands.title.bottom, std::max(bands.body.top, bands.title.bottom));
           EXPECT_LE(bands.body.bottom, std::max(bands.caption.top, bands.body.top));
@@ -214,17 +216,36 @@ TEST(PageLayoutTest, ThePartsOfAPageLieInsideItAndDoNotMeet) {
           }
           const ColumnLayout last = ColumnOnPage(bands.body, units, months, months - 1);
           EXPECT_TRUE(isInside({last.left, last.top, last.left + last.width, last.Bottom()}, bands.body));
-          const TableLayout table = TableOnPage(bands.body, units, 6, 2);
+          TableLayout table = TableOnPage(bands.body, units, 6, 2);
+          table.hasDatesBelow = months == 1;
           for (int cell = 0; cell < 42; ++cell) {
             const Rect place = table.Cell(cell / 7, cell % 7);
             EXPECT_TRUE(isInside(place, bands.body));
             const TableCell parts = PartsOf(place, table);
             for (const Rect& part : {parts.head, parts.number, parts.dates, parts.moon, parts.text})
               EXPECT_TRUE(isInside(part, place));
+            if (table.hasDatesBelow) {
+              EXPECT_GE(parts.dates.top, std::max(parts.number.bottom, parts.moon.bottom));
+            }
           }
         }
       }
     }
+  }
+}
+
+TEST(PageLayoutTest, TitlesAndTablesGrowWithThePaper) {
+  const PageUnits units(600);
+  const auto heights = [&](int width, int height) {
+    const PageBands bands = PageBandsOf({0, 0, width, height}, units, 1, true, {});
+    const TableLayout table = TableOnPage(bands.body, units, 6, 0);
+    return std::array{bands.title.Height(), table.HeaderFontHeight(), table.NumberFontHeight(),
+                      table.SmallFontHeight()};
+  };
+  for (const bool isWide : {false, true}) {
+    const auto once = isWide ? heights(6500, 4400) : heights(4400, 6500);
+    const auto twice = isWide ? heights(13000, 8800) : heights(8800, 13000);
+    for (std::size_t i = 0; i < once.size(); ++i) EXPECT_NEAR(twice[i], 2 * once[i], once[i] / 8) << i;
   }
 }
 
