@@ -21,6 +21,18 @@ namespace {
 constexpr int kScreenResolution = 96;  // for which the line widths of the month view are meant
 constexpr int kCaptionPoints = 8;      // height of its font
 
+constexpr int kFineResolution = 150;  // pixels per inch of a picture in which none of them is seen
+
+// Returns a picture that looks smooth in its place on paper, where engines show each pixel as a square. A
+// small one is enlarged into `fine`, which serves all pages, so that a PDF file holds it once.
+const QImage& Smooth(const QImage& picture, const Rect& place, int resolution, QImage& fine) {
+  const auto pixels = [&](int length) { return MulDiv(length, kFineResolution, resolution); };
+  const QSize size = picture.size().expandedTo(QSize(pixels(place.Width()), pixels(place.Height())));
+  if (picture.isNull() || size == picture.size()) return picture;
+  if (fine.size() != size) fine = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  return fine;
+}
+
 int Tenths(double millimetres) { return static_cast<int>(std::lround(millimetres * 10)); }
 
 MonthModel ModelOf(const PrintSource& source, const PrintMonth& month, bool withMoon) {
@@ -33,15 +45,15 @@ MonthModel ModelOf(const PrintSource& source, const PrintMonth& month, bool with
 }
 
 // Paints a month as the window shows it, without the mark of the selected day.
-void PaintAsOnScreen(QPainter& painter, const PrintSource& source, const PageSpace& space, const Rect& body,
-                     const PrintMonth& month) {
+void PaintAsOnScreen(QPainter& painter, const PrintSource& source, const QImage& background,
+                     const PageSpace& space, const Rect& body, const PrintMonth& month) {
   const MonthModel model = ModelOf(source, month, true);
   if (model.month != month.month) return;
   CMonthPainter view;
   view.SetUp(MonthLayout(body.Width(), body.Height(), source.settings.showWeekNumber, Rules().iso8601,
                          std::max(1, MulDiv(1, space.resolution, kScreenResolution))),
              source.settings, source.dialogFont, CMonthPainter::kPaper);
-  view.SetBackground(source.background);
+  view.SetBackground(background);
   view.SetTexts(model, source.content);
   painter.save();
   painter.translate(body.left, body.top);
@@ -85,7 +97,9 @@ void CPagePainter::PaintBands(QPainter& painter, int page, const PageSpace& spac
   const PageBands bands =
       PageBandsOf(space.area, units, m_job.MonthsPerPage(), isTable, {picture.width(), picture.height()});
   if (GroundColor() != Qt::white) painter.fillRect(ToQRect(space.area), GroundColor());
-  if (!picture.isNull()) painter.drawImage(ToQRect(bands.picture), picture);
+  if (!picture.isNull())
+    painter.drawImage(ToQRect(bands.picture),
+                      Smooth(picture, bands.picture, space.resolution, m_finePicture));
   PaintTitle(painter, page, bands.title, units);
   PaintMonths(painter, page, space, bands.body);
   painter.setPen(LegibleOn(GroundColor(), ToQColor(kGreyTextColor)));
@@ -103,7 +117,8 @@ void CPagePainter::PaintTitle(QPainter& painter, int page, const Rect& title, co
 
 void CPagePainter::PaintMonths(QPainter& painter, int page, const PageSpace& space, const Rect& body) const {
   if (m_job.formatCommand == kCmdFormatScreen) {
-    PaintAsOnScreen(painter, m_source, space, body, m_job.MonthOnPage(page, 0));
+    const QImage& background = Smooth(m_source.background, body, space.resolution, m_fineBackground);
+    PaintAsOnScreen(painter, m_source, background, space, body, m_job.MonthOnPage(page, 0));
     return;
   }
   const PageStyle style = {m_job, m_fonts, PageUnits(space.resolution)};

@@ -72,6 +72,8 @@ class CPagePainter {
   PrintJob m_job;
   PrintSource m_source;
   CPageFonts m_fonts;
+  mutable QImage m_fineBackground;  // small pictures enlarged for the size last painted
+  mutable QImage m_finePicture;
 };
 
 }  // namespace orbisol

@@ -156,6 +156,29 @@ TEST(PdfTest, NamesAreWholeWhereThereIsRoom) {
   }
 }
 
+// Printers show the pixels of a picture as squares.
+TEST(PdfTest, ASmallPictureIsMadeFineOnceForAllPages) {
+  PrintSource source = SourceOfTests();
+  source.background = QImage(6, 4, QImage::Format_RGB32);
+  for (int i = 0; i < 24; ++i) source.background.setPixel(i % 6, i / 6, qRgb(10 * i, 255 - 10 * i, 100));
+  for (const int format : {kCmdFormatScreen, kCmdFormatTable}) {
+    PrintJob job = JobOf(format, kCmdPeriodQuarter1);
+    if (format == kCmdFormatTable) job.ToggleOption(kCmdPrintImage);
+    const PdfFile file(job, source, Paper(QPageLayout::Landscape));
+    const QStringList images =
+        QString::fromUtf8(Output(QStringLiteral("pdfimages"), {QStringLiteral("-list"), file.path}))
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+            .mid(2);
+    ASSERT_EQ(images.size(), 3) << "one on each page";
+    enum Column { kObject = 10, kPixelsPerInch = 12 };
+    const auto column = [&](int page, int index) {
+      return images[page].simplified().split(QLatin1Char(' '))[index].toInt();
+    };
+    EXPECT_GE(column(0, kPixelsPerInch), 149);
+    EXPECT_EQ(column(0, kObject), column(2, kObject));
+  }
+}
+
 constexpr int kComparedResolution = 300;
 
 // Returns the grey of squares of two millimetres, each that of all its pixels together.
