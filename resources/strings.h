@@ -183,8 +183,10 @@ enum TextId : int {
   kTextPrintName = 5454,      // of a proposed file: calendar without a name; year before the era; from and to
   kTextExportPdf = 5455,      // title and filter of the file dialog
   kTextPrintProgress = 5456,  // pages done, number of pages
-  kTextPrintEnds = 5457,      // pages, target: one and many printed, one and many written; aborted, the same
-  kTextPrintFaults = 5458,    // first page asked for and number of pages; printer; path of a file
+  kTextPrintEnds = 5457,      // target, or pages and target: one and many printed, written; aborted, the same
+  kTextPrintFaults = 5458,    // no such pages: of one, of that many; printer; path of a file
+  kTextPageList = 5459,       // cannot be read
+  kTextPrintControls = 5460,  // accessible names of the toolkit's controls
   kTextReformCountries = 5500,  // in the order of NationalReforms()
   kTextCivilYearStyles = 5501,  // by StyleIndex
   kTextPreferences = 5502,     // title of the sheet, its pages, names of the list of pages and of the preview

@@ -22,16 +22,24 @@ inline constexpr TextEntry kPrintTexts[] = {
     {kTextExportPdf, u"Exporter en PDF|Documents PDF (*.pdf)"},
     {kTextPrintProgress, u"Page %d sur %d"},
     {kTextPrintEnds,
-     u"Une page envoyée à l'imprimante|%d pages envoyées à l'imprimante|Une page écrite dans %s|"
-     u"%d pages écrites dans %s|Impression interrompue\u00A0: les dernières pages manquent|"
+     u"Une page envoyée à %s|%d pages envoyées à %s|Une page écrite dans %s|%d pages écrites dans %s|"
+     u"Impression interrompue\u00A0: les dernières pages manquent|"
      u"Exportation interrompue\u00A0: aucun fichier n'a été écrit"},
     {kTextPrintFaults,
-     u"Il n'y a pas de page %d\u00A0: le document a %d page(s). Rien n'a été imprimé.|"
+     u"Aucune de ces pages n'existe\u00A0: le document n'en a qu'une. Rien n'a été imprimé.|"
+     u"Aucune de ces pages n'existe\u00A0: le document en a %d. Rien n'a été imprimé.|"
      u"L'imprimante «\u00A0%s\u00A0» n'a pas accepté les pages.\n\n"
      u"Vérifiez qu'elle est allumée et prête, puis recommencez, ou exportez les pages en PDF.|"
      u"Le fichier %s n'a pas pu être écrit.\n\n"
      u"Vérifiez que vous pouvez écrire dans ce dossier et qu'il reste de la place sur le disque. "
      u"Si un fichier de ce nom existait, il n'a pas changé."},
+    {kTextPageList,
+     u"Cette liste de pages ne peut pas être lue.\n\n"
+     u"Séparez les pages par des virgules et écrivez une plage avec un trait d'union\u00A0: 1-3,5"},
+    {kTextPrintControls,
+     u"Unité de mesure|Papier|Pages par feuille|Ordre des pages|Imprimante|Choisir le fichier|Première page|"
+     u"Dernière page|Liste de pages, par exemple 1-3,5|Pages paires ou impaires|"
+     u"Source du papier"},
 };
 
 }  // namespace orbisol

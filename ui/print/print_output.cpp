@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPageSetupDialog>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QStandardPaths>
 
@@ -14,7 +13,9 @@
 #include "core/date_text.h"
 #include "files/calendar_name.h"
 #include "resources/strings.h"
+#include "ui/print/print_dialog.h"
 #include "ui/print/print_progress.h"
+#include "ui/print/toolkit_dialogs.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 
@@ -23,8 +24,15 @@ namespace {
 
 enum NameText { kPlainName, kYearBeforeEra, kFromTo };  // indices of its pieces
 enum ExportText { kExportTitle, kPdfFilter };           // likewise
-enum EndText { kOnePage, kManyPages, kOneWritten, kManyWritten, kAbortedPrint, kAbortedFile };
-enum FaultText { kNoSuchPages, kPrinterFault, kFileFault };
+enum EndText {
+  kOnePrinted,
+  kManyPrinted,
+  kOneWritten,
+  kManyWritten,
+  kAbortedPrint,
+  kAbortedFile
+};                                                                                 // likewise
+enum FaultText { kNotTheOnePage, kNotTheseManyPages, kPrinterFault, kFileFault };  // likewise
 
 QString PdfPath(const QString& folder, const QString& name) {
   return QDir(folder).filePath(name + QStringLiteral(".pdf"));
@@ -56,6 +64,7 @@ CPrintOutput::CPrintOutput(QWidget& window) : QObject(&window), m_window(window)
 
 CPrintOutput::~CPrintOutput() = default;
 
+// Returns the printer of this window, set up for a document.
 QPrinter& CPrintOutput::Printer(const QPageLayout& layout, const QString& name) {
   if (!m_printer) {
     m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -64,14 +73,21 @@ QPrinter& CPrintOutput::Printer(const QPageLayout& layout, const QString& name) 
   m_printer->setResolution(kPrintResolution);
   m_printer->setDocName(name);
   m_printer->setPageLayout(layout);
+  SetPaper(*m_printer, layout);
   return *m_printer;
 }
 
+// The dialog gets a printer of its own, without a machine: it would put that one's usual paper in the place
+// of the one that was set up before.
 bool CPrintOutput::SetUpPage(QPageLayout& layout) {
-  QPrinter& printer = Printer(layout, QString());
-  QPageSetupDialog dialog(&printer, &m_window);
+  QPrinter paper(QPrinter::HighResolution);
+  paper.setOutputFormat(QPrinter::PdfFormat);
+  paper.setPageLayout(layout);
+  QPageSetupDialog dialog(&paper, &m_window);
+  NameControls(dialog);
+  FitScreen(dialog);
   if (dialog.exec() != QDialog::Accepted) return false;
-  layout = printer.pageLayout();
+  layout = paper.pageLayout();
   return true;
 }
 
@@ -83,24 +99,20 @@ QString CPrintOutput::Folder() const {
 
 void CPrintOutput::Print(const CPagePainter& pages, QPageLayout& layout, const QString& name) {
   QPrinter& printer = Printer(layout, name);
-  const bool isFile = printer.outputFormat() == QPrinter::PdfFormat;
-  // The dialog proposes this file where its user prints into one; a real printer stays the one chosen.
-  if (isFile) printer.setOutputFileName(PdfPath(Folder(), name));
+  const QString file = PdfPath(Folder(), name);
+  if (printer.outputFormat() == QPrinter::PdfFormat) printer.setOutputFileName(file);
   printer.setPrintRange(QPrinter::AllPages);
   printer.setFromTo(0, 0);
-  QPrintDialog dialog(&printer, &m_window);
-  dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-  dialog.setMinMax(1, pages.Job().PageCount());
+  printer.setPageOrder(QPrinter::FirstPageFirst);
+  printer.setCopyCount(1);
+  CPrintDialog dialog(printer, pages.Job().PageCount(), file, &m_window);
   if (dialog.exec() != QDialog::Accepted) return;
-  layout = printer.pageLayout();
-  // Pages that were listed one by one are picked by the printer itself, from all of them.
-  const bool isRange = printer.printRange() == QPrinter::PageRange;
-  const PageRange range =
-      isRange ? RangeOfDialog(pages.Job(), printer.fromPage(), printer.toPage()) : AllPages(pages.Job());
+  layout = SetPaper(printer, dialog.Paper(layout));
+  const PageList list = PagesOf(pages.Job(), dialog.Choice());
   if (printer.outputFormat() == QPrinter::PdfFormat)
-    WriteTo(printer.outputFileName(), pages, layout, range);
+    WriteTo(printer.outputFileName(), pages, layout, list);
   else
-    PrintOn(printer, pages, range);
+    PrintOn(printer, pages, layout, list);
 }
 
 void CPrintOutput::Export(const CPagePainter& pages, const QPageLayout& layout, const QString& name) {
@@ -110,56 +122,59 @@ void CPrintOutput::Export(const CPagePainter& pages, const QPageLayout& layout, 
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.selectFile(name + QStringLiteral(".pdf"));
+  FitScreen(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   WriteTo(dialog.selectedFiles().front(), pages, layout, AllPages(pages.Job()));
 }
 
 template <class Job>
-void CPrintOutput::Run(const CPagePainter& pages, const PageRange& range, const QString& target, bool isFile,
-                       Job job) {
+void CPrintOutput::Run(const CPagePainter& pages, const PageList& list, const Target& target, Job job) {
   CPrintProgress progress(&m_window);
   m_progress = &progress;
   const RunResult result = job(progress.AsFunction());
   m_progress = nullptr;
   progress.Hide();
-  if (!m_isSilent) Report(result, pages, range, target, isFile);
+  if (!m_isSilent) Report(result, pages, list, target);
 }
 
-void CPrintOutput::PrintOn(QPrinter& printer, const CPagePainter& pages, const PageRange& range) {
-  Run(pages, range, printer.printerName(), false,
-      [&](const PageProgress& progress) { return PrintPages(pages, printer, range, progress); });
+void CPrintOutput::PrintOn(QPrinter& printer, const CPagePainter& pages, const QPageLayout& layout,
+                           const PageList& list) {
+  Run(pages, list, {printer.printerName(), false},
+      [&](const PageProgress& progress) { return PrintPages(pages, layout, printer, list, progress); });
 }
 
 void CPrintOutput::WriteTo(const QString& path, const CPagePainter& pages, const QPageLayout& layout,
-                           const PageRange& range) {
+                           const PageList& list) {
   m_folder = QFileInfo(path).absolutePath();
-  Run(pages, range, QDir::toNativeSeparators(path), true,
-      [&](const PageProgress& progress) { return WritePdf(pages, layout, path, range, progress); });
+  Run(pages, list, {QDir::toNativeSeparators(path), true},
+      [&](const PageProgress& progress) { return WritePdf(pages, layout, path, list, progress); });
 }
 
-void CPrintOutput::Report(RunResult result, const CPagePainter& pages, const PageRange& range,
-                          const QString& target, bool isFile) {
-  const int count = pages.Job().PageCount();
-  const int done = std::min(range.last + 1, count) - range.first;
-  const auto end = [&](int piece) {
-    return ToQString(FormatText(Piece(StringText(kTextPrintEnds), u'|', piece), {done, Utf16View(target)}));
+void CPrintOutput::Report(RunResult result, const CPagePainter& pages, const PageList& list,
+                          const Target& target) {
+  const auto tell = [&](int one, int many, int count) {
+    const std::u16string_view text = Piece(StringText(kTextPrintEnds), u'|', count == 1 ? one : many);
+    const std::u16string_view name = Utf16View(target.name);
+    emit ended(ToQString(count == 1 ? FormatText(text, {name}) : FormatText(text, {count, name})));
   };
-  const auto fault = [&](int piece, std::initializer_list<FormatArgument> arguments) {
+  const auto fault = [&](int piece, const FormatArgument& argument) {
     Messages().ShowError(&m_window,
-                         ToQString(FormatText(Piece(StringText(kTextPrintFaults), u'|', piece), arguments)));
+                         ToQString(FormatText(Piece(StringText(kTextPrintFaults), u'|', piece), {argument})));
   };
+  const int done = static_cast<int>(list.size());
+  const int count = pages.Job().PageCount();
   switch (result) {
     case RunResult::kDone:
-      emit ended(end((isFile ? kOneWritten : kOnePage) + (done > 1 ? 1 : 0)));
+      target.isFile ? tell(kOneWritten, kManyWritten, done) : tell(kOnePrinted, kManyPrinted, done);
       break;
     case RunResult::kAborted:
-      emit ended(end(isFile ? kAbortedFile : kAbortedPrint));
+      emit ended(TablePiece(kTextPrintEnds, target.isFile ? kAbortedFile : kAbortedPrint));
       break;
     case RunResult::kNoPages:
-      fault(kNoSuchPages, {range.first + 1, count});
+      fault(count == 1 ? kNotTheOnePage : kNotTheseManyPages, count);
       break;
     case RunResult::kFailed:
-      fault(isFile ? kFileFault : kPrinterFault, {Utf16View(target)});
+      fault(target.isFile ? kFileFault : kPrinterFault, Utf16View(target.name));
       break;
   }
 }

@@ -42,10 +42,10 @@ class CPrintOutput : public QObject {
   void Print(const CPagePainter& pages, QPageLayout& layout, const QString& name);
   void Export(const CPagePainter& pages, const QPageLayout& layout, const QString& name);
 
-  // Run a job without asking.
-  void PrintOn(QPrinter& printer, const CPagePainter& pages, const PageRange& range);
+  // Run a job without asking. `layout` is one that SetPaper() has returned for the printer.
+  void PrintOn(QPrinter& printer, const CPagePainter& pages, const QPageLayout& layout, const PageList& list);
   void WriteTo(const QString& path, const CPagePainter& pages, const QPageLayout& layout,
-               const PageRange& range);
+               const PageList& list);
 
   bool IsRunning() const { return m_progress != nullptr; }
   // Ends the job that runs before its next page; nothing is said about it.
@@ -58,10 +58,14 @@ class CPrintOutput : public QObject {
  private:
   QPrinter& Printer(const QPageLayout& layout, const QString& name);
   QString Folder() const;
+  // Where a job goes: the name of a printer, or the path of a file.
+  struct Target {
+    QString name;
+    bool isFile;
+  };
   template <class Job>
-  void Run(const CPagePainter& pages, const PageRange& range, const QString& target, bool isFile, Job job);
-  void Report(RunResult result, const CPagePainter& pages, const PageRange& range, const QString& target,
-              bool isFile);
+  void Run(const CPagePainter& pages, const PageList& list, const Target& target, Job job);
+  void Report(RunResult result, const CPagePainter& pages, const PageList& list, const Target& target);
 
   QWidget& m_window;
   std::unique_ptr<QPrinter> m_printer;

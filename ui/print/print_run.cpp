@@ -16,59 +16,65 @@
 namespace orbisol {
 namespace {
 
-// Returns the part of a range that the job has; empty if there is none.
-PageRange PagesThere(const PrintJob& job, const PageRange& range) {
-  return {std::max(range.first, 0), std::min(range.last, job.PageCount() - 1)};
-}
-
-int CountOf(const PageRange& range) { return std::max(range.last - range.first + 1, 0); }
-
 // Paints pages on a device that `painter` has begun and whose next page newPage() begins.
 template <class Device>
 RunResult PaintPages(const CPagePainter& pages, Device& device, QPainter& painter, const PageSpace& space,
-                     const PageRange& range, const PageProgress& progress) {
-  const int count = CountOf(range);
+                     const PageList& list, const PageProgress& progress) {
+  const int count = static_cast<int>(list.size());
   for (int done = 0; done < count; ++done) {
     if (!progress(done, count)) return RunResult::kAborted;
     if (done > 0 && !device.newPage()) return RunResult::kFailed;
-    if (!pages.Paint(painter, range.first + done, space)) return RunResult::kFailed;
+    if (!pages.Paint(painter, list[static_cast<std::size_t>(done)], space)) return RunResult::kFailed;
   }
   return progress(count, count) ? RunResult::kDone : RunResult::kAborted;
 }
 
 // Writes the pages into a file that is open.
 RunResult PaintPdf(const CPagePainter& pages, const QPageLayout& layout, QIODevice& file,
-                   const PageRange& range, const PageProgress& progress) {
+                   const PageList& list, const PageProgress& progress) {
   QPageLayout whole = layout;
   whole.setMode(QPageLayout::FullPageMode);  // the origin is then the corner of the paper
   QPdfWriter writer(&file);
   writer.setResolution(kPrintResolution);
   writer.setPageLayout(whole);
-  writer.setTitle(ToQString(pages.Job().Title(range.first)));
+  writer.setTitle(ToQString(pages.Job().Title(list.front())));
   writer.setCreator(TableText(kTextProgramName));
   QPainter painter;
   if (!painter.begin(&writer)) return RunResult::kFailed;
   const RunResult result =
-      PaintPages(pages, writer, painter, SpaceOf(layout, kPrintResolution), range, progress);
+      PaintPages(pages, writer, painter, SpaceOf(layout, kPrintResolution), list, progress);
   return painter.end() ? result : RunResult::kFailed;
 }
 
 }  // namespace
 
-PageRange AllPages(const PrintJob& job) { return {0, job.PageCount() - 1}; }
+PageList AllPages(const PrintJob& job) { return PagesOf(job, {}); }
 
-PageRange RangeOfDialog(const PrintJob& job, int from, int to) {
-  return from == 0 && to == 0 ? AllPages(job) : PageRange{from - 1, to - 1};
+PageList PagesOf(const PrintJob& job, const PageChoice& choice) {
+  const int count = job.PageCount();
+  PageList once;
+  const auto add = [&](const PageSpan& range) {
+    for (int page = std::max(range.first, 1); page <= std::min(range.last, count); ++page)
+      once.push_back(page - 1);
+  };
+  if (choice.ranges.empty()) add({1, count});
+  for (const PageSpan& range : choice.ranges) add(range);
+  if (choice.isReversed) std::reverse(once.begin(), once.end());
+
+  PageList list;
+  const int outer = choice.isCollated ? choice.copies : 1;
+  for (int copy = 0; copy < outer; ++copy)
+    for (const int page : once) list.insert(list.end(), choice.isCollated ? 1U : choice.copies, page);
+  return list;
 }
 
 RunResult WritePdf(const CPagePainter& pages, const QPageLayout& layout, const QString& path,
-                   const PageRange& range, const PageProgress& progress) {
-  const PageRange there = PagesThere(pages.Job(), range);
-  if (CountOf(there) == 0) return RunResult::kNoPages;
+                   const PageList& list, const PageProgress& progress) {
+  if (list.empty()) return RunResult::kNoPages;
   // The file has no name of its own before commit(), which gives it the rights of the one that it replaces.
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return RunResult::kFailed;
-  const RunResult result = PaintPdf(pages, layout, file, there, progress);
+  const RunResult result = PaintPdf(pages, layout, file, list, progress);
   if (result != RunResult::kDone) return result;
   // A full disk may be reported only here. commit() takes no notice of a failed sync.
   if (file.error() != QFileDevice::NoError || !file.flush() ||
@@ -77,17 +83,39 @@ RunResult WritePdf(const CPagePainter& pages, const QPageLayout& layout, const Q
   return file.commit() ? RunResult::kDone : RunResult::kFailed;
 }
 
-RunResult PrintPages(const CPagePainter& pages, QPrinter& printer, const PageRange& range,
-                     const PageProgress& progress) {
-  if (printer.outputFormat() == QPrinter::PdfFormat)
-    return WritePdf(pages, printer.pageLayout(), printer.outputFileName(), range, progress);
-  const PageRange there = PagesThere(pages.Job(), range);
-  if (CountOf(there) == 0) return RunResult::kNoPages;
-  const PageSpace space = SpaceOf(printer.pageLayout(), printer.resolution());
+QPageLayout LayoutOn(const QPageLayout& own, const QPageLayout& layout) {
+  QPageLayout set = layout;
+  if (!own.pageSize().isEquivalentTo(layout.pageSize())) set.setPageSize(own.pageSize());
+  set.setOrientation(own.orientation());
+  // The widest of the four, because printers give those of the upright paper also where it lies wide.
+  QPageLayout least = own;
+  least.setUnits(set.units());
+  const QMarginsF edges = least.minimumMargins();
+  const double edge = std::max({edges.left(), edges.top(), edges.right(), edges.bottom()});
+  const QMarginsF margins = set.margins();
+  set.setMargins({std::max(margins.left(), edge), std::max(margins.top(), edge),
+                  std::max(margins.right(), edge), std::max(margins.bottom(), edge)});
+  return set;
+}
+
+QPageLayout SetPaper(QPrinter& printer, const QPageLayout& layout) {
+  if (printer.outputFormat() == QPrinter::PdfFormat) return layout;
+  // One by one: a whole layout is refused for the sake of one narrow margin.
+  printer.setPageSize(layout.pageSize());
+  printer.setPageOrientation(layout.orientation());
   printer.setFullPage(true);  // the origin is then the corner of the paper
+  return LayoutOn(printer.pageLayout(), layout);
+}
+
+RunResult PrintPages(const CPagePainter& pages, const QPageLayout& layout, QPrinter& printer,
+                     const PageList& list, const PageProgress& progress) {
+  if (printer.outputFormat() == QPrinter::PdfFormat)
+    return WritePdf(pages, layout, printer.outputFileName(), list, progress);
+  if (list.empty()) return RunResult::kNoPages;
   QPainter painter;
   if (!painter.begin(&printer)) return RunResult::kFailed;
-  const RunResult result = PaintPages(pages, printer, painter, space, there, progress);
+  const RunResult result =
+      PaintPages(pages, printer, painter, SpaceOf(layout, printer.resolution()), list, progress);
   if (result != RunResult::kDone) printer.abort();
   const bool isEnded = painter.end();
   if (result != RunResult::kDone) return result;

@@ -1,9 +1,12 @@
 // Jobs of the print frame: what its dialogs propose, where pages go, and what is said when they do not get
 // there.
 
+#include <QAccessible>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinter>
@@ -12,6 +15,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTabWidget>
 
 #include "tests/ui/print/frame_fixture.h"
 #include "ui/print/print_years_dlg.h"
@@ -53,22 +57,67 @@ TEST_F(PrintFrameTest, ExportWritesTheProposedFileAndSaysSo) {
   EXPECT_TRUE(messages.shown.isEmpty());
 }
 
-TEST_F(PrintFrameTest, ThePrintDialogWritesAFileTooAndPrintsARangeOfPages) {
+// All choices of pages also hold for a file, and with one page what is said has no number.
+TEST_F(PrintFrameTest, ThePrintDialogWritesTheChosenPagesIntoAFile) {
+  const struct {
+    const char* list;  // empty: from page 3 to page 4
+    int copies;
+    qsizetype pages;
+    const char* said;
+  } kJobs[] = {{"", 1, 2, "2 pages écrites dans %1"},
+               {"5", 1, 1, "Une page écrite dans %1"},
+               {"1-3, 5,80", 2, 8, "8 pages écrites dans %1"}};
   Choose(kCmdPeriodYear);
-  const QString path = PathOf("range.pdf");
-  ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, [&](QPrintDialog& dialog) {
-    EXPECT_EQ(dialog.minPage(), 1);
-    EXPECT_EQ(dialog.maxPage(), 12);
-    auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
-    EXPECT_TRUE(file->text().endsWith(QLatin1String("/Calendrier 2024.pdf"))) << qPrintable(file->text());
-    file->setText(path);
-    dialog.findChild<QRadioButton*>(QStringLiteral("printRange"))->click();
-    dialog.findChild<QSpinBox*>(QStringLiteral("from"))->setValue(3);
-    dialog.findChild<QSpinBox*>(QStringLiteral("to"))->setValue(4);
-    dialog.accept();
-  });
-  EXPECT_EQ(PagesIn(path), 2);
+  int number = 0;
+  for (const auto& job : kJobs) {
+    SCOPED_TRACE(job.said);
+    const QString path = PathOf("range%1.pdf").arg(++number);
+    ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, [&](QPrintDialog& dialog) {
+      EXPECT_EQ(dialog.minPage(), 1);
+      EXPECT_EQ(dialog.maxPage(), 12);
+      auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+      EXPECT_TRUE(file->text().endsWith(QLatin1String("/Calendrier 2024.pdf"))) << qPrintable(file->text());
+      file->setText(path);
+      const bool isList = *job.list != '\0';
+      dialog
+          .findChild<QRadioButton*>(isList ? QStringLiteral("pagesRadioButton")
+                                           : QStringLiteral("printRange"))
+          ->click();
+      dialog.findChild<QSpinBox*>(QStringLiteral("from"))->setValue(3);
+      dialog.findChild<QSpinBox*>(QStringLiteral("to"))->setValue(4);
+      EXPECT_EQ(dialog.findChild<QSpinBox*>(QStringLiteral("copies"))->value(), 1);
+      dialog.findChild<QSpinBox*>(QStringLiteral("copies"))->setValue(job.copies);
+      auto* const list = dialog.findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"));
+      if (isList) {
+        list->setText(QStringLiteral("x"));
+        dialog.accept();
+        EXPECT_TRUE(dialog.isVisible()) << "no list of pages";
+      }
+      list->setText(QString::fromUtf8(job.list));
+      dialog.accept();
+    });
+    EXPECT_EQ(PagesIn(path), job.pages);
+    EXPECT_EQ(frame->statusBar()->currentMessage(), QString::fromUtf8(job.said).arg(path));
+  }
+  EXPECT_EQ(messages.errors.size(), 2U);
   EXPECT_EQ(frame->Job().currentPage, 0);
+}
+
+TEST_F(PrintFrameTest, EveryControlOfTheToolkitsDialogsIsNamed) {
+  const auto check = [](QDialog& dialog) {
+    for (QWidget* const control : dialog.findChildren<QWidget*>()) {
+      if (control->focusPolicy() == Qt::NoFocus || qobject_cast<QTabWidget*>(control) != nullptr) continue;
+      if (control->objectName().startsWith(QLatin1String("qt_"))) continue;  // parts of others
+      const QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(control);
+      const bool isChoice = qobject_cast<QComboBox*>(control) != nullptr;
+      const QString name = spoken->text(isChoice ? QAccessible::Description : QAccessible::Name);
+      EXPECT_TRUE(name.size() > 1 && name != QStringLiteral("...")) << qPrintable(control->objectName());
+    }
+    dialog.reject();
+  };
+  ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, check);
+  ChooseAndAnswer<QPageSetupDialog>(kCmdPageSetup, check);
+  ChooseAndAnswer<CPrintYearsDlg>(kCmdPrintYears, check);
 }
 
 TEST_F(PrintFrameTest, WhatCannotBeWrittenIsSaidAndLeavesNoFile) {
@@ -78,9 +127,9 @@ TEST_F(PrintFrameTest, WhatCannotBeWrittenIsSaidAndLeavesNoFile) {
   ASSERT_EQ(messages.errors.size(), 1U);
   EXPECT_TRUE(messages.errors[0].startsWith(QStringLiteral("Le fichier %1 n'a pas pu").arg(missing)));
   const QString path = PathOf("beyond.pdf");
-  frame->Output().WriteTo(path, pages, frame->Paper(), {6, 8});
+  frame->Output().WriteTo(path, pages, frame->Paper(), {});
   ASSERT_EQ(messages.errors.size(), 2U);
-  EXPECT_TRUE(messages.errors[1].contains(QLatin1String("page 7"))) << qPrintable(messages.errors[1]);
+  EXPECT_TRUE(messages.errors[1].contains(QLatin1String("n'en a qu'une"))) << qPrintable(messages.errors[1]);
   EXPECT_FALSE(QFile::exists(path));
 }
 
@@ -109,7 +158,7 @@ class CBrokenPrinter : public QPrinter {
 TEST_F(PrintFrameTest, APrinterThatTakesNoPagesIsNamed) {
   CBrokenPrinter printer;
   const CPagePainter pages(frame->Job(), {Content(), Display(), Rules(), {}, {}, frame->font()});
-  frame->Output().PrintOn(printer, pages, AllPages(frame->Job()));
+  frame->Output().PrintOn(printer, pages, frame->Paper(), AllPages(frame->Job()));
   ASSERT_EQ(messages.errors.size(), 1U);
   EXPECT_TRUE(messages.errors[0].contains(QLatin1String("Laser"))) << qPrintable(messages.errors[0]);
 }

@@ -23,8 +23,8 @@ bool GoOn(int, int) { return true; }
 
 class PrintRunTest : public testing::Test {
  protected:
-  RunResult Write(const PageRange& range, const PageProgress& progress = GoOn) {
-    return WritePdf(m_pages, Paper(QPageLayout::Portrait), m_path, range, progress);
+  RunResult Write(const PageList& list, const PageProgress& progress = GoOn) {
+    return WritePdf(m_pages, Paper(QPageLayout::Portrait), m_path, list, progress);
   }
 
   QByteArray Bytes() const {
@@ -64,28 +64,43 @@ TEST_F(PrintRunTest, AnAbortLeavesWhatWasThere) {
   EXPECT_EQ(Names().size(), 1);
 }
 
-TEST_F(PrintRunTest, RangesEndAtTheLastPage) {
-  const auto pagesOf = [&](int from, int to) {
-    int pages = 0;
-    const RunResult result = Write(RangeOfDialog(m_pages.Job(), from, to), [&](int, int count) {
-      pages = count;
-      return true;
-    });
-    return result == RunResult::kDone ? pages : result == RunResult::kNoPages ? 0 : -1;
+TEST_F(PrintRunTest, ChoicesOfPagesEndAtTheLastPage) {
+  const struct {
+    PageChoice choice;
+    PageList pages;
+  } kChoices[] = {
+      {{.ranges = {{1, 3}, {5, 5}}}, {0, 1, 2, 4}},
+      {{.ranges = {{11, 400}}}, {10, 11}},
+      {{.ranges = {{11, 400}}, .isReversed = true, .copies = 2}, {11, 10, 11, 10}},
+      {{.ranges = {{0, 2}}, .copies = 2, .isCollated = false}, {0, 0, 1, 1}},
+      {{.ranges = {{13, 20}}}, {}},
+      {{.ranges = {{5, 3}}}, {}},
+      {{}, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}},
   };
-  EXPECT_EQ(pagesOf(13, 20), 0);
+  for (const auto& row : kChoices) EXPECT_EQ(PagesOf(m_pages.Job(), row.choice), row.pages);
+  EXPECT_EQ(Write({}), RunResult::kNoPages);
   EXPECT_EQ(Names(), QStringList()) << "nothing is written for no pages";
-  EXPECT_EQ(pagesOf(0, 0), 12);
-  EXPECT_EQ(pagesOf(3, 5), 3);
-  EXPECT_EQ(pagesOf(11, 400), 2);
-  EXPECT_EQ(pagesOf(5, 3), 0);
+}
+
+// A printer keeps the paper and the margins that were set up, as far as it can.
+TEST(PaperTest, IsThatOfThePrinterWhereItCannotTakeAnother) {
+  const auto layout = [](QPageSize::PageSizeId size, double margin, const QMarginsF& least) {
+    return QPageLayout(QPageSize(size), QPageLayout::Landscape, QMarginsF(margin, margin, margin, margin),
+                       QPageLayout::Millimeter, least);
+  };
+  const QPageLayout a4 = layout(QPageSize::A4, 10, {});
+  EXPECT_EQ(LayoutOn(layout(QPageSize::A4, 20, {4, 4, 4, 5}), a4), a4);
+  EXPECT_EQ(LayoutOn(layout(QPageSize::A4, 20, {6, 12, 6, 12}), a4).margins(), QMarginsF(12, 12, 12, 12));
+  const QPageLayout letter = LayoutOn(layout(QPageSize::Letter, 20, {}), a4);
+  EXPECT_EQ(letter.pageSize().id(), QPageSize::Letter);
+  EXPECT_EQ(letter.margins(), a4.margins());
 }
 
 TEST_F(PrintRunTest, AFullDiskLeavesWhatWasThere) {
   PutOldFile();
   FaultReport report;
   FaultShimBegin(0, 0, report);
-  EXPECT_EQ(Write({0, 2}), RunResult::kDone);
+  EXPECT_EQ(Write({0, 1, 2}), RunResult::kDone);
   FaultShimEnd();
   ASSERT_GT(report.calls, 3) << "the shim does not see the calls";
   EXPECT_GE(report.syncs, 1) << "a loss of power could leave half a file";
@@ -96,7 +111,7 @@ TEST_F(PrintRunTest, AFullDiskLeavesWhatWasThere) {
       PutOldFile();
       report = FaultReport();
       FaultShimBegin(call, fault, report);
-      const RunResult result = Write({0, 2});
+      const RunResult result = Write({0, 1, 2});
       FaultShimEnd();
       SCOPED_TRACE(testing::Message() << "fault " << fault << " at call " << call << ", " << report.failed);
       failed.insert(report.failed);
@@ -116,13 +131,13 @@ TEST_F(PrintRunTest, AFullDiskLeavesWhatWasThere) {
 
 TEST_F(PrintRunTest, ThePlaceThatCannotTakeAFileIsSaid) {
   m_path = m_folder.filePath(QStringLiteral("missing/Année.pdf"));
-  EXPECT_EQ(Write({0, 0}), RunResult::kFailed);
+  EXPECT_EQ(Write({0}), RunResult::kFailed);
   QPrinter printer(QPrinter::HighResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(m_path);
-  EXPECT_EQ(PrintPages(m_pages, printer, {0, 0}, GoOn), RunResult::kFailed);
+  EXPECT_EQ(PrintPages(m_pages, printer.pageLayout(), printer, {0}, GoOn), RunResult::kFailed);
   m_path = m_folder.path();
-  EXPECT_EQ(Write({0, 0}), RunResult::kFailed) << "a folder";
+  EXPECT_EQ(Write({0}), RunResult::kFailed) << "a folder";
 }
 
 // A printer that writes into a file takes the way of PDF files, with its paper.
@@ -131,10 +146,11 @@ TEST_F(PrintRunTest, APrinterIntoAFileWritesTheSameFile) {
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(m_path);
   printer.setPageLayout(Paper(QPageLayout::Landscape));
-  EXPECT_EQ(PrintPages(m_pages, printer, {0, 1}, [](int done, int) { return done < 1; }),
-            RunResult::kAborted);
+  EXPECT_EQ(
+      PrintPages(m_pages, printer.pageLayout(), printer, {0, 1}, [](int done, int) { return done < 1; }),
+      RunResult::kAborted);
   EXPECT_EQ(Names(), QStringList());
-  EXPECT_EQ(PrintPages(m_pages, printer, {0, 1}, GoOn), RunResult::kDone);
+  EXPECT_EQ(PrintPages(m_pages, printer.pageLayout(), printer, {0, 1}, GoOn), RunResult::kDone);
   EXPECT_TRUE(Bytes().contains("/MediaBox [0 0 842"));
 }
 

@@ -1,0 +1,76 @@
+#include "ui/print/toolkit_dialogs.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <memory>
+
+#include "resources/strings.h"
+#include "ui/toolkit/plain_text.h"
+
+namespace orbisol {
+namespace {
+
+// Names in the toolkit's forms, in the order of the pieces of kTextPrintControls.
+constexpr const char* kControls[] = {"unitCombo",
+                                     "pageSizeCombo",
+                                     "pagesPerSheetCombo",
+                                     "pagesPerSheetLayoutCombo",
+                                     "printers",
+                                     "fileBrowser",
+                                     "from",
+                                     "to",
+                                     "pagesLineEdit",
+                                     "pageSetCombo",
+                                     "paperSource"};
+
+constexpr QSize kWindowFrame(8, 40);  // room for the frame around a dialog
+
+int HeightUnfolded(const QLayout& column) {
+  int height = 0;
+  for (int i = 0; i < column.count(); ++i) {
+    QLayoutItem& item = *column.itemAt(i);
+    height += column.spacing();
+    height += item.widget() != nullptr ? item.widget()->sizeHint().height() : item.sizeHint().height();
+  }
+  return height;
+}
+
+}  // namespace
+
+void NameControls(const QDialog& dialog) {
+  int piece = 0;
+  for (const char* const name : kControls) {
+    const QString text = TablePiece(kTextPrintControls, piece++);
+    auto* const control = dialog.findChild<QWidget*>(QString::fromLatin1(name));
+    if (control == nullptr) continue;
+    control->setAccessibleName(text);
+    // Readers are told the choice of a combo box as its name.
+    if (qobject_cast<QComboBox*>(control) != nullptr) control->setAccessibleDescription(text);
+  }
+}
+
+void FitScreen(QDialog& dialog) {
+  const QSize room = dialog.screen()->availableSize() - kWindowFrame;
+  auto* const column = qobject_cast<QVBoxLayout*>(dialog.layout());
+  if (column != nullptr && HeightUnfolded(*column) > room.height()) {
+    auto* const inside = new QWidget;
+    auto* const above = new QVBoxLayout(inside);
+    while (column->count() > 1) {
+      const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
+      if (item->widget() != nullptr) above->addWidget(item->widget());
+    }
+    auto* const area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(inside);
+    column->insertWidget(0, area);
+    dialog.setMaximumSize(room);
+  }
+  dialog.resize(dialog.sizeHint().boundedTo(room));
+}
+
+}  // namespace orbisol
