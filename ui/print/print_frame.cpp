@@ -5,13 +5,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMenuBar>
-#include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QToolButton>
 
 #include <algorithm>
 #include <initializer_list>
@@ -23,6 +20,7 @@
 #include "resources/strings.h"
 #include "settings/display_settings.h"
 #include "settings/settings_persistence.h"
+#include "ui/print/menu_button.h"
 #include "ui/print/page_spoken.h"
 #include "ui/print/print_years_dlg.h"
 #include "ui/toolkit/elided_label.h"
@@ -139,13 +137,8 @@ void CPrintFrame::MakeToolBar() {
 }
 
 // Adds a button that shows what is checked in the menu with `command` and opens that menu.
-QToolButton* CPrintFrame::AddMenuButton(CommandId command, const QString& name) {
-  auto* const button = new QToolButton;
-  button->setMenu(MenuWith(*menuBar(), m_commands->Action(command)));
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  button->setToolTip(name);
-  button->setFocusPolicy(Qt::TabFocus);
+CMenuButton* CPrintFrame::AddMenuButton(CommandId command, const QString& name) {
+  auto* const button = new CMenuButton(MenuWith(*menuBar(), m_commands->Action(command)), name);
   m_toolBar->addWidget(button);
   return button;
 }
@@ -287,13 +280,8 @@ void CPrintFrame::UpdateCommands() {
   m_commands->SetChecked(kCmdActualSize, m_view->Zoom() == kOwnSize);
   m_commands->SetChecked(kCmdToggleToolBar, m_toolBar->isVisibleTo(this));
   m_commands->SetChecked(kCmdToggleStatusBar, Display().printLayout.statusBarShown);
-  for (QToolButton* const button : {m_period, m_format}) {
-    const CommandId command =
-        static_cast<CommandId>(button == m_period ? m_job.periodCommand : m_job.formatCommand);
-    button->setText(m_commands->Action(command)->text() + QChar(0x2003));  // room for the arrow
-    button->setAccessibleName(TableText(
-        kTextSpokenLine, {Utf16View(button->toolTip()), Utf16View(m_commands->Action(command)->text())}));
-  }
+  m_period->Show(m_commands->Action(static_cast<CommandId>(m_job.periodCommand))->text());
+  m_format->Show(m_commands->Action(static_cast<CommandId>(m_job.formatCommand))->text());
 }
 
 void CPrintFrame::OnPageSetup() {

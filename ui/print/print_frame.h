@@ -28,11 +28,11 @@
 
 class QLabel;
 class QToolBar;
-class QToolButton;
 
 namespace orbisol {
 
 class CElidedLabel;
+class CMenuButton;
 
 class CPrintFrame : public QMainWindow {
   Q_OBJECT
@@ -96,7 +96,7 @@ class CPrintFrame : public QMainWindow {
   void OnHelp();
 
   void MakeToolBar();
-  QToolButton* AddMenuButton(CommandId command, const QString& name);
+  CMenuButton* AddMenuButton(CommandId command, const QString& name);
   void MakeStatusBar();
   void TurnPage(int step);
   void ShowJob();
@@ -121,8 +121,8 @@ class CPrintFrame : public QMainWindow {
   CPrintOutput* m_output;
   CPrtView* m_view;
   QToolBar* m_toolBar = nullptr;
-  QToolButton* m_period = nullptr;
-  QToolButton* m_format = nullptr;
+  CMenuButton* m_period = nullptr;
+  CMenuButton* m_format = nullptr;
   CElidedLabel* m_caption;
   QLabel* m_zoom;
   int m_running = 0;  // commands that run, one inside another
