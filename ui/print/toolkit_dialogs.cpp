@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -59,6 +60,7 @@ void FitScreen(QDialog& dialog) {
   if (column != nullptr && HeightUnfolded(*column) > room.height()) {
     auto* const inside = new QWidget;
     auto* const above = new QVBoxLayout(inside);
+    above->setContentsMargins({});
     while (column->count() > 1) {
       const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
       if (item->widget() != nullptr) above->addWidget(item->widget());
@@ -67,10 +69,13 @@ void FitScreen(QDialog& dialog) {
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setWidget(inside);
+    area->setMinimumWidth(inside->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     column->insertWidget(0, area);
-    dialog.setMaximumSize(room);
+    dialog.setMaximumSize(room.expandedTo(dialog.minimumSizeHint()));
+    dialog.resize(dialog.sizeHint().width(), room.height());
+  } else {
+    dialog.resize(dialog.sizeHint().boundedTo(room));
   }
-  dialog.resize(dialog.sizeHint().boundedTo(room));
 }
 
 }  // namespace orbisol
