@@ -73,17 +73,8 @@ bool CEventList::Precedes(int a, int b, int column) const {
   }
 }
 
-QVariant CEventList::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= rowCount({})) return {};
-  const QString& text = TextsOf(index.row()).texts[index.column()];
-  if (role == Qt::DisplayRole) return text;
-  if (role == Qt::ToolTipRole) return TipMarkup(text);
-  return {};
-}
-
-QVariant CEventList::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return ToQString(FormatText(Piece(StringText(kTextEventColumns), u'|', section), {m_year}));
+QString CEventList::TitleOf(int column) const {
+  return ToQString(FormatText(Piece(StringText(kTextEventColumns), u'|', column), {m_year}));
 }
 
 void CEventList::RowsExchanged(std::size_t at, std::size_t removed, std::size_t inserted) {

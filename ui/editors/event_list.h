@@ -21,17 +21,15 @@ class CEventList : public CEditedRows<EventRow> {
   enum Column { kName, kDay, kDates, kKind, kColumns };
 
   // `year` is the one whose days are shown.
-  CEventList(QUndoStack& undo, int year) : CEditedRows(undo), m_year(year) {}
+  CEventList(QUndoStack& undo, int year) : CEditedRows(undo, kColumns), m_year(year) {}
 
   QString NameOf(int row) const override;
   bool Fits(int row, const RowFilter& filter) const override;
   bool Precedes(int a, int b, int column) const override;
 
-  int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : kColumns; }
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
  protected:
+  QString CellText(int row, int column) const override { return TextsOf(row).texts[column]; }
+  QString TitleOf(int column) const override;
   void RowsExchanged(std::size_t at, std::size_t removed, std::size_t inserted) override;
 
  private:

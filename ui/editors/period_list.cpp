@@ -30,7 +30,7 @@ QString OverlapText(const PeriodRow& other) {
 QString CPeriodList::NameOf(int row) const {
   const PeriodRow& period = RowAt(row);
   if (!period.record.title.IsEmpty()) return ToQString(period.record.title.View());
-  return TextOf(row, kFrom);
+  return CellText(row, kFrom);
 }
 
 bool CPeriodList::Fits(int row, const RowFilter& filter) const {
@@ -59,7 +59,7 @@ std::size_t CPeriodList::OverlapOf(int row) const {
   return m_overlaps[static_cast<std::size_t>(row)];
 }
 
-QString CPeriodList::TextOf(int row, int column) const {
+QString CPeriodList::CellText(int row, int column) const {
   const PeriodRow& period = RowAt(row);
   switch (column) {
     case kTitle:
@@ -77,22 +77,8 @@ QString CPeriodList::TextOf(int row, int column) const {
   }
 }
 
-QVariant CPeriodList::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= rowCount({})) return {};
-  if (role == Qt::DisplayRole) return TextOf(index.row(), index.column());
-  if (role == Qt::ToolTipRole) return TipMarkup(TextOf(index.row(), index.column()));
-  if (role == Qt::TextAlignmentRole && index.column() == kLength)
-    return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
-  return {};
-}
-
-QVariant CPeriodList::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::DisplayRole)
-    return TablePiece(kTextPeriodColumns, section) + (section == kLength ? QString(kGap) : QString());
-  if (role == Qt::TextAlignmentRole && section == kLength)
-    return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
-  return {};
+QString CPeriodList::TitleOf(int column) const {
+  return TablePiece(kTextPeriodColumns, column) + (column == kLength ? QString(kGap) : QString());
 }
 
 void CPeriodList::RowsExchanged(std::size_t /*at*/, std::size_t /*removed*/, std::size_t /*inserted*/) {

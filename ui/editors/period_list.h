@@ -16,21 +16,19 @@ class CPeriodList : public CEditedRows<PeriodRow> {
  public:
   enum Column { kTitle, kFrom, kTo, kLength, kRemark, kColumns };
 
-  explicit CPeriodList(QUndoStack& undo) : CEditedRows(undo) {}
+  explicit CPeriodList(QUndoStack& undo) : CEditedRows(undo, kColumns) {}
 
   QString NameOf(int row) const override;
   bool Fits(int row, const RowFilter& filter) const override;
   bool Precedes(int a, int b, int column) const override;
 
-  int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : kColumns; }
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
  protected:
+  QString CellText(int row, int column) const override;
+  QString TitleOf(int column) const override;
+  bool HoldsNumbers(int column) const override { return column == kLength; }
   void RowsExchanged(std::size_t at, std::size_t removed, std::size_t inserted) override;
 
  private:
-  QString TextOf(int row, int column) const;
   std::size_t OverlapOf(int row) const;
 
   mutable std::vector<std::size_t> m_overlaps;  // empty until they are asked for

@@ -27,7 +27,7 @@ struct RowFilter {
 
 class CRowsModel : public QAbstractTableModel {
  public:
-  using QAbstractTableModel::QAbstractTableModel;
+  explicit CRowsModel(int columns) : m_columns(columns) {}
 
   // Returns how steps of the undo stack call a row.
   virtual QString NameOf(int row) const = 0;
@@ -40,12 +40,27 @@ class CRowsModel : public QAbstractTableModel {
   // Exchanges a row with the one before it (-1) or after it (1); without effect at the end of the list.
   virtual void Move(int row, int by) = 0;
 
+  int columnCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : m_columns; }
+  // Returns the text of a cell, which is its tip too.
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
   // Returns the row that the last step changed or added, or the one that took a deleted one's place; -1 for
   // none.
   int TouchedRow() const { return m_touched; }
 
  protected:
+  virtual QString CellText(int row, int column) const = 0;
+  virtual QString TitleOf(int column) const = 0;
+  // Returns whether a column holds numbers, which stand at its right.
+  virtual bool HoldsNumbers(int /*column*/) const { return false; }
+
   int m_touched = -1;
+
+ private:
+  QVariant Alignment(int column, int role) const;
+
+  int m_columns;
 };
 
 // Returns the text of a step on a row, by its piece in the list of steps (resources/strings.h).
@@ -56,7 +71,7 @@ template <class Row>
 class CEditedRows : public CRowsModel {
  public:
   // The stack outlives every call of this model.
-  explicit CEditedRows(QUndoStack& undo) : m_undo(undo) {}
+  CEditedRows(QUndoStack& undo, int columns) : CRowsModel(columns), m_undo(undo) {}
 
   const std::vector<Row>& Rows() const { return m_rows; }
   const Row& RowAt(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
