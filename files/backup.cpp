@@ -37,4 +37,9 @@ void RenameBackups(FileSystem& files, std::u16string_view path, std::u16string_v
       files.Remove(BackupPath(path, number));
 }
 
+void TrashBackups(FileSystem& files, std::u16string_view path) {
+  for (int number = 0; files.SizeOf(BackupPath(path, number)); ++number)
+    files.MoveToTrash(BackupPath(path, number));
+}
+
 }  // namespace orbisol

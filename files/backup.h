@@ -14,4 +14,7 @@ bool BackUp(FileSystem& files, std::u16string_view path, std::string_view bytes)
 // Gives the backups of a renamed file its new name. One that would take the name of another stays.
 void RenameBackups(FileSystem& files, std::u16string_view path, std::u16string_view newPath);
 
+// Moves the backups of a deleted file to the trash. One that cannot be moved stays.
+void TrashBackups(FileSystem& files, std::u16string_view path);
+
 }  // namespace orbisol

@@ -155,6 +155,7 @@ bool CCalendarStore::Delete(std::u16string_view name) {
   const std::u16string path = PathOf(name);
   if (path.empty() || !m_files.Exists(path) || !m_files.MoveToTrash(path)) return false;
   m_stamps.erase(path);
+  TrashBackups(m_files, path);
   m_versions.MoveToTrash(name);
   return true;
 }

@@ -111,8 +111,8 @@ class CCalendarStore {
   // false when that is as it was.
   bool Export(std::u16string_view path, std::string_view bytes);
 
-  // Moves the file to the trash, and its versions after it. Returns false when the file is still there, or
-  // when there is none.
+  // Moves the file to the trash, and its backups and versions after it. Returns false when the file is still
+  // there, or when there is none.
   bool Delete(std::u16string_view name);
 
  private:

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "resources/strings.h"
+#include "settings/settings_store.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
 
@@ -16,6 +17,12 @@ QString FolderOfFile(std::u16string_view path) {
   const QFileInfo file(ToQString(path));
   const QString canonical = QFileInfo(file.absolutePath()).canonicalFilePath();
   return canonical.isEmpty() ? file.absolutePath() : canonical;
+}
+
+// Returns whether the key may name a calendar, also where it cannot be read.
+bool MayBeStored(const SettingsStore& store, std::u16string_view name) {
+  const std::optional<StoredValues> values = store.Read();
+  return !values || TextOf(*values, kCalendarNameValue, kMaxPathUnits) == name;
 }
 
 }  // namespace
@@ -112,8 +119,11 @@ bool CCalendarActions::Rename(std::u16string_view name, std::u16string_view newN
     return false;
   }
   if (isCurrent && !SwitchCalendar(m_places.store, calendars, m_live.display, newName)) {
-    SwitchCalendar(m_places.store, calendars, m_live.display, name);
-    calendars.DropName(newName, name);
+    // A write that was not confirmed may have been made: as long as the key may hold the new name, both names
+    // keep their file.
+    const bool isUnsure = MayBeStored(m_places.store, newName);
+    const bool isBack = SwitchCalendar(m_places.store, calendars, m_live.display, name);
+    if (isBack || !isUnsure) calendars.DropName(newName, name);
     Say(kTextCalendarNotRenamed, name);
     return false;
   }
