@@ -7,6 +7,7 @@
 #include "bench/ui_bench.h"
 #include "content/calendar_content.h"
 #include "content/selected_date.h"
+#include "tests/content/rule_builder.h"
 #include "ui/month/month_window.h"
 #include "ui/preferences/pref_cal_win.h"
 
@@ -41,10 +42,8 @@ class CBusyYear {
     for (int month = 1; month <= 12; ++month) {
       for (int day = 1; day <= 28; ++day)
         for (const char16_t* const name : {u"Réunion de l'équipe au deuxième étage", u"Sport"})
-          AddEvent(month, day, name);
-      HolidayPeriod vacation{Pack(2024, month, 10), Pack(2024, month, 20), {}};
-      vacation.title.Set(u"Vacances");
-      Content().vacations.push_back(vacation);
+          Content().dayEvents.push_back(EveryYear(month, day, name, false));
+      Content().vacations.push_back(Period(Pack(2024, month, 10), Pack(2024, month, 20), u"Vacances"));
     }
   }
   ~CBusyYear() { Content() = m_before; }
@@ -52,16 +51,6 @@ class CBusyYear {
   CBusyYear& operator=(const CBusyYear&) = delete;
 
  private:
-  static void AddEvent(int month, int day, std::u16string_view name) {
-    DayEvent event;
-    event.month = month;
-    event.day = day;
-    event.ymdFrom = kAlwaysFrom;
-    event.ymdTo = kAlwaysTo;
-    event.name.Set(name);
-    Content().dayEvents.push_back(event);
-  }
-
   CalendarContent m_before;
 };
 

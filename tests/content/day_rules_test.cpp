@@ -1,5 +1,3 @@
-// The rules and periods that a calendar accepts, and the days on which rules fall.
-
 #include "content/day_rules.h"
 
 #include <gtest/gtest.h>
@@ -9,17 +7,12 @@
 
 #include "core/easter.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
 
 TEST(DayEventTest, RulesAreAcceptedOrRefused) {
-  const struct {
-    const char* what;
-    DayEvent rule;
-    bool accepted;
-  } kRows[] = {
+  const std::tuple<const char*, DayEvent, bool> kRows[] = {
       {"29 February", Rule(kFixedDate, {.month = 2, .day = 29}), true},
       {"30 February", Rule(kFixedDate, {.month = 2, .day = 30}), false},
       {"31 April", Rule(kBankHoliday, {.month = 4, .day = 31}), false},
@@ -46,15 +39,11 @@ TEST(DayEventTest, RulesAreAcceptedOrRefused) {
       {"ends in 4000", Rule(kRomanEaster, {.to = 40000101}), false},
       {"ends in 3999, whatever the day", Rule(kRomanEaster, {.to = 39999999}), true},
   };
-  for (const auto& row : kRows) EXPECT_EQ(IsAcceptableDayEvent(row.rule), row.accepted) << row.what;
+  for (const auto& [what, rule, accepted] : kRows) EXPECT_EQ(IsAcceptableDayEvent(rule), accepted) << what;
 }
 
 TEST(VacationTest, PeriodsAreAcceptedOrRefused) {
-  const struct {
-    const char* what;
-    PackedDate from, to;
-    bool accepted;
-  } kRows[] = {
+  const std::tuple<const char*, PackedDate, PackedDate, bool> kRows[] = {
       {"two days", 20240701, 20240702, true},
       {"on purpose: one day", 20240701, 20240701, false},
       {"before the era in packed order", -440315, -440310, true},
@@ -64,8 +53,8 @@ TEST(VacationTest, PeriodsAreAcceptedOrRefused) {
       {"29 February 1700, Gregorian", 17000201, 17000229, false},
       {"on purpose: day 0", 20240700, 20240702, true},
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(IsAcceptablePeriod(Period(row.from, row.to)), row.accepted) << row.what;
+  for (const auto& [what, from, to, accepted] : kRows)
+    EXPECT_EQ(IsAcceptablePeriod(Period(from, to)), accepted) << what;
   const ScopedRules british(RulesWith(17520914));
   EXPECT_TRUE(IsAcceptablePeriod(Period(17000201, 17000229))) << "Julian there";
 }
@@ -94,23 +83,17 @@ TEST(DayRulesTest, HolidaysFallOnTheirKnownDays) {
       EXPECT_EQ(MatchDay({&row.rule, 1}, row.ymd - 1).bits, 0U);
     }
   }
-}
-
-TEST(DayRulesTest, AHolidayShiftedOutOfItsMonthFallsOnNoDay) {
-  const DayEvent rule = Rule(kBankHoliday, {.month = 10, .day = 31});
+  const DayEvent lastOfOctober = Rule(kBankHoliday, {.month = 10, .day = 31});
   for (const PackedDate day : {20261031, 20261101, 20261102})
-    EXPECT_EQ(MatchDay({&rule, 1}, day).bits, 0U) << day;
+    EXPECT_EQ(MatchDay({&lastOfOctober, 1}, day).bits, 0U) << "shifted out of its month it falls on no day";
 }
 
 TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {
   const std::u16string longest(kMaxNameUnits, u'a');  // 254
   const DayEvent events[] = {
-      Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 8, .name = u"Anniversaire"}),
-      Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire 1945"}),
-      Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 8, .name = u"Rendez-vous"}),
-      Rule(kFixedDate, {.month = 5, .day = 9, .name = longest}),
-      Rule(kFixedDate, {.month = 5, .day = 9, .name = u"bc\U0001F382"}),
-      Rule(kFixedDate, {.month = 5, .day = 9, .name = u"nothing behind the cut"}),
+      EveryYear(5, 8, u"Anniversaire", false), EveryYear(5, 8, u"Victoire 1945"),
+      EveryYear(5, 8, u"Rendez-vous", false),  EveryYear(5, 9, longest),
+      EveryYear(5, 9, u"bc\U0001F382"),        EveryYear(5, 9, u"nothing behind the cut"),
   };
   const DayMatch match = MatchDay(events, 20240508);
   EXPECT_EQ(match.publicNames + u"|" + match.eventNames, u"Victoire 1945|Anniversaire + Rendez-vous");
@@ -122,8 +105,7 @@ TEST(DayRulesTest, NamesAreJoinedInListOrderAndCutAt260Units) {
   EXPECT_EQ(names, u"");
 }
 
-// Reference implementation of the matcher: one rule on one day, each kind by its definition, without
-// shortcuts.
+// Reference implementation of the matcher: one rule on one day, each kind by its definition.
 bool PlainlyFallsOn(const DayEvent& e, PackedDate ymd) {
   if (e.ymdFrom > ymd || ymd > e.ymdTo) return false;
   const Date date(ymd);

@@ -8,9 +8,7 @@ namespace orbisol {
 namespace {
 
 TEST(ImportHolidaysTest, PublicRulesAreAddedOrReplacedAndPersonalOnesStay) {
-  const auto rule = [](std::u16string_view name, bool isPublic) {
-    return Rule(kFixedDate, {.isPublic = isPublic, .month = 1, .day = 1, .name = name});
-  };
+  const auto rule = [](std::u16string_view name, bool isPublic) { return EveryYear(1, 1, name, isPublic); };
   const HolidayPeriod winter = Period(20240101, 20240107, u"winter");
   const HolidayPeriod summer = Period(20240701, 20240831, u"summer");
   const CalendarContent mine{{rule(u"old", true), rule(u"me", false), rule(u"both", true)}, {winter}};

@@ -4,26 +4,19 @@
 
 #include "core/text.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
 
 const CalendarContent kContent{
-    {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"Fête du Travail"}),
-     Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 1, .name = u"muguet"}),
-     Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 7, .name = u"Léa"}),
+    {EveryYear(5, 1, u"Fête du Travail"), EveryYear(5, 1, u"muguet", false), EveryYear(5, 7, u"Léa", false),
      Rule(kFixedDate, {.month = 6, .day = 1, .to = 20240601, .name = u"juin"})},
     {Period(20240427, 20240502, u"Pâques"), Period(20240507, 20240508, u"pont"), Period(20240509, 20240510),
      Period(20240511, 20240512, u"pont")}};
 
 TEST(MonthHighlightsTest, TextsStandByDateAndKindAndTheMoonLast) {
-  MonthModel model;
-  model.year = 2024;
-  model.month = 5;
-  model.Build(kContent, CalendarLook().colors, MonthModel::kWithMoon);
   std::string list;
-  for (const Highlight& highlight : HighlightsOf(model))
+  for (const Highlight& highlight : HighlightsOf(BuiltMonth(2024, 5, kContent, MonthModel::kWithMoon)))
     list += std::to_string(highlight.date % 100) + "-" + std::to_string(highlight.lastDate % 100) + " " +
             std::to_string(static_cast<int>(highlight.kind)) + " " + ToUtf8(highlight.text) + "\n";
   EXPECT_EQ(list,
@@ -45,7 +38,7 @@ TEST(MonthHighlightsTest, TheNextPublicHolidayLiesAtMost400DaysAhead) {
     EXPECT_EQ(found ? found->date : 0, next) << after;
     EXPECT_TRUE(!found || found->text == (next % 10000 == 501 ? u"Fête du Travail" : u"juin")) << after;
   }
-  rules = {Rule(kFixedDate, {.month = 2, .day = 29, .name = u"bissextile"})};
+  rules = {EveryYear(2, 29, u"bissextile")};
   EXPECT_FALSE(NextPublicHoliday(rules, Date(20230124)).has_value()) << "401 days ahead";
   EXPECT_TRUE(NextPublicHoliday(rules, Date(20230125)).has_value());
 }

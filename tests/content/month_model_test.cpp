@@ -9,7 +9,6 @@
 #include "core/moon.h"
 #include "core/week_number.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
@@ -48,8 +47,7 @@ constexpr Color kColorsOf[][2] = {
     {kEventText, kVacationBack},
 };
 
-// Returns the cell that a date must have. On purpose: the weekday is that of the day's number, not of the
-// column.
+// Returns the cell that a date must have. On purpose: the weekday is that of the day's number.
 DayCell ExpectedCell(PackedDate ymd, bool own, int week, const CalendarContent& content) {
   const Date date(ymd);
   const HolidayPeriod* const period = PeriodOfDay(content.vacations, ymd);
@@ -80,8 +78,7 @@ std::vector<PackedDate> DaysOfMonth(int year, int month) {
   return days;
 }
 
-// Compares a page, week by week, with the days that it must show. Its ends repeat days of the pages before
-// and after.
+// Compares a page with the days that it must show; its ends repeat days of the pages before and after.
 void ExpectPage(const MonthModel& model, const std::vector<PackedDate>& days, std::size_t begin,
                 std::size_t end, const CalendarContent& content) {
   const int first = Rules().iso8601 ? 1 : 0;

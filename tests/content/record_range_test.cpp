@@ -1,29 +1,21 @@
-// The records of a range mark exactly what was entered.
-
 #include "content/record_range.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace orbisol {
 namespace {
 
-constexpr int kDays[] = {101, 102, 315, 630, 1230, 1231};
-
-std::vector<PackedDate> SomeDates() {
-  std::vector<PackedDate> dates;
-  for (int year : {-3999, -3998, -45, -44, -43, -42, -2, -1, 0, 1, 2024, 3998, 3999})
-    for (const int day : kDays) dates.push_back(Pack(year, day / 100, day % 100));
-  return dates;
-}
-
 bool Holds(const std::vector<RecordBounds>& pieces, PackedDate date) {
-  for (const RecordBounds& piece : pieces)
-    if (piece.from <= date && date <= piece.to) return true;
-  return false;
+  return std::any_of(pieces.begin(), pieces.end(),
+                     [=](const RecordBounds& piece) { return piece.from <= date && date <= piece.to; });
 }
 
 TEST(RecordRangeTest, PiecesHoldTheDaysOfTheRangeAndNoOther) {
-  const std::vector<PackedDate> dates = SomeDates();
+  std::vector<PackedDate> dates;
+  for (int year : {-3999, -3998, -45, -44, -43, -42, -2, -1, 0, 1, 2024, 3998, 3999})
+    for (const int day : {101, 102, 315, 630, 1230, 1231}) dates.push_back(Pack(year, day / 100, day % 100));
   for (std::size_t i = 0; i < dates.size(); ++i) {
     EXPECT_TRUE(i == 0 || BoundsOf({dates[i], dates[i - 1]}).empty());
     for (std::size_t j = i; j < dates.size(); ++j) {
@@ -42,19 +34,16 @@ TEST(RecordRangeTest, PiecesHoldTheDaysOfTheRangeAndNoOther) {
 }
 
 TEST(RecordRangeTest, WhatIsNoRangeStaysAsItIs) {
-  const struct {
-    const char* what;
-    RecordBounds bounds;
-  } kRows[] = {
+  const std::pair<const char*, RecordBounds> kRows[] = {
       {"without dates", {0, 0}},
       {"no day of a month", {20240101, 39999999}},
       {"backwards", {20240102, 20240101}},
       {"1 January to 15 March -44 and all days from -43 on", {-440315, 20240101}},
       {"the years up to -45 and the end of -44", {-991231, -440315}},
   };
-  for (const auto& row : kRows) {
-    EXPECT_EQ(RangeOf(row.bounds), std::nullopt) << row.what;
-    EXPECT_EQ(JoinRanges(std::vector<RecordBounds>{row.bounds, row.bounds}).records, 1U) << row.what;
+  for (const auto& [what, bounds] : kRows) {
+    EXPECT_EQ(RangeOf(bounds), std::nullopt) << what;
+    EXPECT_EQ(JoinRanges(std::vector<RecordBounds>{bounds, bounds}).records, 1U) << what;
   }
 }
 

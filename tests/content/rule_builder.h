@@ -1,10 +1,12 @@
-// Rules and periods in one line, for tests.
+// Rules, periods and months in one line, for tests.
 //
-//   Rule(kFixedDate, {.month = 7, .day = 14, .name = u"Fête nationale"});
+//   Rule(kNthWeekday, {.month = 5, .weekday = 7, .weeknum = 5, .name = u"Fête des mères"});
+//   EveryYear(7, 14, u"Fête nationale");
 #pragma once
 
-#include "content/day_event.h"
-#include "content/vacation.h"
+#include "content/calendar_look.h"
+#include "content/month_model.h"
+#include "tests/support/rules.h"
 
 namespace orbisol {
 
@@ -26,8 +28,22 @@ inline DayEvent Rule(DayEventType type, const RuleFields& fields) {
   return {type, isPublic, month, day, weekday, weeknum, from, to, name};
 }
 
+inline DayEvent EveryYear(int month, int day, std::u16string_view name, bool isPublic = true) {
+  return Rule(DayEventType::kFixedDate, {.isPublic = isPublic, .month = month, .day = day, .name = name});
+}
+
 inline HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title = u"") {
   return {from, to, title};
+}
+
+inline MonthModel BuiltMonth(int year, int month, const CalendarContent& content = {},
+                             MonthModel::Moon moon = MonthModel::kWithoutMoon,
+                             const std::array<Color, kColorCount>& colors = CalendarLook().colors) {
+  MonthModel model;
+  model.year = year;
+  model.month = month;
+  model.Build(content, colors, moon);
+  return model;
 }
 
 }  // namespace orbisol

@@ -8,9 +8,7 @@
 #include <set>
 
 #include "content/day_rules.h"
-#include "content/month_model.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
@@ -21,10 +19,7 @@ using Days = std::vector<PackedDate>;
 std::vector<std::vector<RuleDay>> PagesOf(int year) {
   std::vector<std::vector<RuleDay>> pages;
   for (int month = 1; month <= 12; ++month) {
-    MonthModel model;
-    model.year = year;
-    model.month = month;
-    model.Build({}, {}, MonthModel::kWithoutMoon);
+    const MonthModel model = BuiltMonth(year, month);
     pages.emplace_back();
     if (model.month != month) continue;  // the reform removed it whole
     for (const DayCell& cell : model.cells)

@@ -1,5 +1,3 @@
-// Rules and periods in French words.
-
 #include "content/rule_text.h"
 
 #include <gtest/gtest.h>
@@ -10,11 +8,8 @@ namespace orbisol {
 namespace {
 
 TEST(RuleTextTest, EveryKindHasItsWords) {
-  const struct {
-    DayEvent rule;
-    const char* words;
-  } kRows[] = {
-      {Rule(kFixedDate, {.month = 1, .day = 1}), "le 1er janvier"},
+  const std::tuple<DayEvent, const char*> kRows[] = {
+      {EveryYear(1, 1, u"x"), "le 1er janvier"},
       {Rule(kFixedDate, {.month = 7, .day = 14, .from = 18800101}), "le 14 juillet, depuis 1880"},
       {Rule(kRomanEaster, {.day = 0}), "le jour de Pâques"},
       {Rule(kRomanEaster, {.day = 1}), "le lendemain de Pâques"},
@@ -38,14 +33,11 @@ TEST(RuleTextTest, EveryKindHasItsWords) {
       {Rule(kNthWeekday, {.month = 3, .weekday = 9, .weeknum = -1}), "aucun jour"},
       {Rule(DayEventType{8}, {}), "aucun jour"},
   };
-  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(RuleText(row.rule)), row.words);
+  for (const auto& [rule, words] : kRows) EXPECT_EQ(ToUtf8(RuleText(rule)), words);
 }
 
 TEST(RuleTextTest, ValiditiesAreToldByYearsWhereTheyCanBe) {
-  const struct {
-    RecordBounds bounds;
-    const char* words;
-  } kRows[] = {
+  const std::tuple<RecordBounds, const char*> kRows[] = {
       {{kAlwaysFrom, kAlwaysTo}, ""},
       {{19410101, 19681231}, "de 1941 à 1968"},
       {{19450101, 19451231}, "en 1945"},
@@ -58,40 +50,30 @@ TEST(RuleTextTest, ValiditiesAreToldByYearsWhereTheyCanBe) {
       {{-440315, -440301}, "du 1er mars -44 au 15 mars -44"},
       {{-440315, 20240101}, "bornes : 15 mars -44 et 1er janvier 2024"},
   };
-  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(ValidityText(row.bounds)), row.words);
+  for (const auto& [bounds, words] : kRows) EXPECT_EQ(ToUtf8(ValidityText(bounds)), words);
 }
 
 TEST(RuleTextTest, PeriodsLeaveOutWhatBothEndsShare) {
-  const struct {
-    PackedDate from, to;
-    const char* words;
-  } kRows[] = {
-      {20240513, 20240522, "du 13 au 22 mai 2024"},
-      {20240501, 20240502, "du 1er au 2 mai 2024"},
-      {20240706, 20240901, "du 6 juillet au 1er septembre 2024"},
-      {20241221, 20250106, "du 21 décembre 2024 au 6 janvier 2025"},
-      {-440315, -440301, "du 1er au 15 mars -44"},
-  };
-  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(PeriodText(Period(row.from, row.to))), row.words);
+  for (const auto& [from, to, words] : {std::tuple{20240513, 20240522, "du 13 au 22 mai 2024"},
+                                        {20240501, 20240502, "du 1er au 2 mai 2024"},
+                                        {20240706, 20240901, "du 6 juillet au 1er septembre 2024"},
+                                        {20241221, 20250106, "du 21 décembre 2024 au 6 janvier 2025"},
+                                        {-440315, -440301, "du 1er au 15 mars -44"}})
+    EXPECT_EQ(ToUtf8(PeriodText(Period(from, to))), words);
 }
 
 TEST(RuleTextTest, TheDaysOfSomeYearsAreOneSentence) {
-  const struct {
-    DayEvent rule;
-    int year;
-    const char* words;
-  } kRows[] = {
+  const std::tuple<DayEvent, int, const char*> kRows[] = {
       {Rule(kNthWeekday, {.month = 11, .weekday = 4, .weeknum = 4}), 2024,
        "Tombe le 28 novembre en 2024, le 27 novembre en 2025, le 26 novembre en 2026."},
-      {Rule(kFixedDate, {.month = 7, .day = 14}), 2024, "Tombe le 14 juillet en 2024, 2025 et 2026."},
-      {Rule(kFixedDate, {.month = 2, .day = 29}), 2024,
-       "Tombe le 29 février en 2024, aucun jour en 2025 et 2026."},
-      {Rule(kFixedDate, {.month = 2, .day = 29}), 2025, "Ne tombe aucun jour en 2025, 2026 et 2027."},
-      {Rule(kFixedDate, {.month = 7, .day = 14}), 3998, "Tombe le 14 juillet en 3998 et 3999."},
+      {EveryYear(7, 14, u"x"), 2024, "Tombe le 14 juillet en 2024, 2025 et 2026."},
+      {EveryYear(2, 29, u"x"), 2024, "Tombe le 29 février en 2024, aucun jour en 2025 et 2026."},
+      {EveryYear(2, 29, u"x"), 2025, "Ne tombe aucun jour en 2025, 2026 et 2027."},
+      {EveryYear(7, 14, u"x"), 3998, "Tombe le 14 juillet en 3998 et 3999."},
       {Rule(kWeekdayAfter, {.month = 3, .day = 1, .weekday = 1, .weeknum = 1}), -8,
        "Tombe le 29 février et le 1er mars en -8, le 7 mars en -7, le 6 mars en -6."},
   };
-  for (const auto& row : kRows) EXPECT_EQ(ToUtf8(FallsOnText({&row.rule, 1}, row.year, 3)), row.words);
+  for (const auto& [rule, year, words] : kRows) EXPECT_EQ(ToUtf8(FallsOnText({&rule, 1}, year, 3)), words);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <climits>
 
 #include "tests/support/fakes.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
@@ -19,13 +18,7 @@ TEST(SelectedDateTest, IsTodayAtFirstAndKeepsWhatIsSelected) {
 }
 
 TEST(SelectedDateTest, StepsOfDaysMonthsAndYears) {
-  const struct {
-    const char* what;
-    void (*step)(Date&, int);
-    PackedDate from;
-    int by;
-    PackedDate to;
-  } kRows[] = {
+  const std::tuple<const char*, void (*)(Date&, int), PackedDate, int, PackedDate> kRows[] = {
       {"up over the reform", StepDays, 15821015, -7, 15820928},
       {"left to 29 February -8", StepDays, -80301, -1, -80229},
       {"right from it", StepDays, -80229, 1, -80302},
@@ -40,15 +33,14 @@ TEST(SelectedDateTest, StepsOfDaysMonthsAndYears) {
       {"from the day before the first", StepYears, -39990100, 0, -39990101},
       {"from the month after the last", StepYears, 39991301, 0, 39991231},
   };
-  for (const auto& row : kRows) {
-    Date date(row.from);
-    row.step(date, row.by);
-    EXPECT_EQ(date.Packed(), row.to) << row.what;
+  for (const auto& [what, step, from, by, to] : kRows) {
+    Date date(from);
+    step(date, by);
+    EXPECT_EQ(date.Packed(), to) << what;
   }
 }
 
-// Walks from the last day shown to the first and back: a key that is held down always moves on. After the
-// earliest reforms some dates come twice.
+// A key that is held down always moves on. After the earliest reforms some dates come twice.
 TEST(SelectedDateTest, OneDayBackIsAlwaysEarlierAndOneDayOnLater) {
   for (const PackedDate reform : {15821015, 10101, -39990101, -39000101}) {
     const ScopedRules inForce(RulesWith(reform));

@@ -4,7 +4,6 @@
 
 #include "core/text.h"
 #include "tests/support/fakes.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {

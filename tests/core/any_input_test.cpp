@@ -63,8 +63,7 @@ TEST(AnyInputTest, EveryFunctionTakesAnyNumbersUnderAnyRules) {
   for (const double t : {1e15, -1e100, 1.7e308, 5e-324}) ASSERT_LE(MoonElongation(t), 359) << t;
 }
 
-// Around the first and the last everyday year, a reform and the early leap years, months and days that no
-// calendar has included.
+// Around the ends of the everyday years, a reform and the early leap years, also for days that do not exist.
 TEST(AnyInputTest, TheEverydayWayAgreesWithTheGeneralOne) {
   std::mt19937 random(2);
   const auto between = [&random](int low, int high) {

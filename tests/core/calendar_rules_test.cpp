@@ -8,7 +8,6 @@
 #include "core/civil_year.h"
 #include "core/week_number.h"
 #include "tests/support/fakes.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
@@ -96,20 +95,16 @@ TEST(CivilYearTest, KnownDays) {
 // Weeks go from Sunday to Saturday. The first holds the first day of the year; the last belongs to the next
 // year unless it is whole.
 TEST(CivilYearTest, DaysOfTheYearRiseByOneDaysLeftFallToZeroAndWeeksAreCountedFromTheFirst) {
-  const struct {
-    std::vector<CivilYearStart> rows;
-    PackedDate first, last;
-  } kWalks[] = {
+  const std::tuple<std::vector<CivilYearStart>, PackedDate, PackedDate> kWalks[] = {
       {{}, -39990101, 39991231},
       {{{12000901, true}, {-7520421, false}}, 12020101, 20001231},
       {{{17520101, false}, {11550325, false}, {-7520421, false}}, -7500101, 11531231},
       {{{17520101, false}, {11550325, false}, {-7520421, false}}, 11570101, 17501231},
   };
-  for (const auto& walk : kWalks) {
-    const ScopedRules inForce(RulesWith(17520914, {.proleptic = true, .rows = walk.rows, .iso8601 = false}));
-    const int last = Date(walk.last).DayNumber();
-    Date before(walk.first);
-    for (int n = before.DayNumber() + 1; n <= last; ++n) {
+  for (const auto& [rows, first, last] : kWalks) {
+    const ScopedRules inForce(RulesWith(17520914, {.proleptic = true, .rows = rows, .iso8601 = false}));
+    Date before(first);
+    for (int n = before.DayNumber() + 1; n <= Date(last).DayNumber(); ++n) {
       const Date date = DateOfDayNumber(n);
       const bool begins = MonthDay(date.month, date.day) == CivilYearStartDay(date);
       const int day = DayOfCivilYear(date);

@@ -6,7 +6,6 @@
 
 #include "tests/support/fakes.h"
 #include "tests/support/plain_calendar.h"
-#include "tests/support/rules.h"
 #include "tests/support/test_data.h"
 
 namespace orbisol {
@@ -39,8 +38,7 @@ TEST(DateTest, GregorianDaysAreThoseOfTheStandardLibrary) {
   }
 }
 
-// Every month has DaysInMonth() days less those that the reform dropped. Early reforms are left out, because
-// they go back to dates that the Julian calendar has used.
+// Months have DaysInMonth() days less those dropped; early reforms go back to dates that were used before.
 TEST(DateTest, EveryDayIsThatOfTheReferenceAndNoneIsLost) {
   std::vector<plain::Reform> reforms = {
       {kRomanReform, true}, {kNeverGregorian, false}, {40227, false}, {-440315, false}, {-20000701, true}};

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/fakes.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {

@@ -8,7 +8,6 @@
 #include "core/civil_year.h"
 #include "core/text.h"
 #include "tests/support/fakes.h"
-#include "tests/support/rules.h"
 
 namespace orbisol {
 namespace {
@@ -68,11 +67,7 @@ TEST(NationalReformsTest, StylesNumberTheirTimeAndNotOurs) {
 }
 
 TEST(NationalReformsTest, StylesCountAsTheirTimeDid) {
-  constexpr struct {
-    StyleIndex style;
-    PackedDate date;
-    int civilYear;
-  } kKnown[] = {
+  constexpr std::tuple<StyleIndex, PackedDate, int> kKnown[] = {
       {kAnnunciationStyle, 15000324, 1499}, {kAnnunciationStyle, 15000325, 1500},
       {kPisanStyle, 15000324, 1500},        {kPisanStyle, 15000325, 1501},
       {kVenetianStyle, 15000228, 1499},     {kVenetianStyle, 15000301, 1500},
@@ -81,13 +76,13 @@ TEST(NationalReformsTest, StylesCountAsTheirTimeDid) {
       {kEnglishStyle, 17511231, 1751},      {kEnglishStyle, 17520101, 1752},
       {kByzantineStyle, 16991231, 1700},    {kByzantineStyle, 17000901, 1700},
   };
-  for (const auto& known : kKnown) {
-    SCOPED_TRACE(known.date);
-    const CivilYearStyle& style = CivilYearStyles()[static_cast<std::size_t>(known.style)];
+  for (const auto& [index, date, civilYear] : kKnown) {
+    SCOPED_TRACE(date);
+    const CivilYearStyle& style = CivilYearStyles()[static_cast<std::size_t>(index)];
     const PackedDate reform = style.reform != 0 ? style.reform : 19180214;
     const auto table = CivilYearRowsOf(style, reform);
     const ScopedRules inForce(RulesWith(reform, {.rows = {table.begin(), table.end()}}));
-    EXPECT_EQ(CivilYear(known.date), known.civilYear);
+    EXPECT_EQ(CivilYear(date), civilYear);
   }
   EXPECT_EQ(CivilYearStyles()[kEnglishStyle].reform, 17520914);
   EXPECT_TRUE(IsClosedEarly(CivilYearStyles()[kEnglishStyle], kRomanReform));

@@ -9,21 +9,17 @@ namespace {
 
 // Dates that histories give, and the concordance of the Service des archives de France.
 TEST(RepublicanTest, DatesOfTheRepublicConvertBothWaysAndAreWritten) {
-  constexpr struct {
-    PackedDate date;
-    int year, month, day;  // as entered
-    const char16_t* text;
-  } kRows[] = {
+  constexpr std::tuple<PackedDate, int, int, int, const char16_t*> kRows[] = {
       {17920922, 1, 1, 1, u"Primidi 1 vendémiaire an 1\n (an I)"},
       {17950922, 3, 13, 6, u"Jour de la Révolution an 3\n (an III)"},
       {17991109, 8, 2, 18, u"Octidi 18 brumaire an 8\n (an VIII)"},
       {18051231, 14, 4, 10, u"Décadi 10 nivose an 14\n (an XIV)"},
       {20240101, 232, 4, 11, u"Primidi 11 nivose an 232\n (an CCXXXII)"},
   };
-  for (const auto& row : kRows) {
-    EXPECT_EQ(FromRepublican(row.year, row.month, row.day).Packed(), row.date);
-    EXPECT_EQ(ToRepublican(Date(row.date)), (RepublicanDate{row.year, row.month - 1, row.day - 1}));
-    EXPECT_EQ(RepublicanText(Date(row.date)), row.text);
+  for (const auto& [date, year, month, day, text] : kRows) {
+    EXPECT_EQ(FromRepublican(year, month, day).Packed(), date);
+    EXPECT_EQ(ToRepublican(Date(date)), (RepublicanDate{year, month - 1, day - 1}));
+    EXPECT_EQ(RepublicanText(Date(date)), text);
   }
   EXPECT_EQ(RepublicanText(Date(17920921)), u"");
   EXPECT_EQ(RepublicanMonthName(0) + RepublicanMonthName(12) + RepublicanMonthName(13),

@@ -16,10 +16,7 @@ int PlainIsoWeek(int dayNumber, const plain::Reform& reform) {
 }
 
 TEST(WeekNumberTest, IsoWeeksArePlainOnesButAroundTheReformAndInTheEarlyCycles) {
-  constexpr struct {
-    plain::Reform reform;
-    PackedDate first, last;
-  } kStretches[] = {
+  constexpr std::tuple<plain::Reform, PackedDate, PackedDate> kStretches[] = {
       {{kRomanReform, false}, -480101, 15821004},  // Julian with early leap years
       {{kNeverGregorian, true}, -39990101, 39991231},
       {{kRomanReform, false}, 15830103, 39991231},  // the year of the reform ended on a Friday,
@@ -39,8 +36,7 @@ TEST(WeekNumberTest, IsoWeeksArePlainOnesButAroundTheReformAndInTheEarlyCycles) 
 
 // Worked out by hand from the definition of the Julian and early cycles, and of years that began on 25 March.
 TEST(WeekNumberTest, KnownIsoWeeksAroundTheReformAndInTheEarlyCycles) {
-  // On purpose: the weeks of the reform stay Julian to the end of its year, and the early cycles are their
-  // own.
+  // On purpose: the weeks of the reform stay Julian to the end of its year; the early cycles are their own.
   constexpr std::pair<PackedDate, int> kWeeks[] = {
       {15821010, 41}, {15821231, 51}, {15830102, 51}, {15830103, 1},
       {10101, 52},    {-60101, 52},   {-491231, 52},  {-39990101, 48},

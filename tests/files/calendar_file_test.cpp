@@ -6,7 +6,6 @@
 
 #include "tests/support/fakes.h"
 #include "tests/support/file_bytes.h"
-#include "tests/support/rules.h"
 #include "tests/support/test_data.h"
 
 namespace orbisol {
@@ -99,9 +98,7 @@ std::string Rewritten(const std::string& parameter, const std::string& value) {
   return bytes.substr(begin, bytes.find(closing) - begin);
 }
 
-constexpr struct {
-  const char *parameter, *read, *written;
-} kParameters[] = {
+constexpr std::tuple<const char*, const char*, const char*> kParameters[] = {
     {"fontName", " ", " "},
     {"fontName", "<fontName>1<", "&lt;fontName&gt;1&lt;"},
     {"fontName", "&lt &am", "&amp;lt &amp;am"},
@@ -128,8 +125,8 @@ TEST(CalendarFileTest, ParametersAreReadWithPatience) {
   american.firstDay = 6;
   american.firstWeek = 1;
   const ScopedPlatform inForce(american);
-  for (const auto& row : kParameters)
-    EXPECT_EQ(Rewritten(row.parameter, row.read), row.written) << row.parameter << " " << row.read;
+  for (const auto& [parameter, read, written] : kParameters)
+    EXPECT_EQ(Rewritten(parameter, read), written) << parameter << " " << read;
 }
 
 // Empty pieces of the color table are skipped; malformed ones count as a place.
@@ -141,22 +138,19 @@ TEST(CalendarFileTest, ColorsTakeTheirPlaceByCounting) {
 }
 
 TEST(CalendarFileTest, YearsOfOlderReleasesBecomeDates) {
-  constexpr struct {
-    const char* fields;
-    PackedDate from, to;
-  } kValidities[] = {
+  constexpr std::tuple<const char*, PackedDate, PackedDate> kValidities[] = {
       {"<yFrom>1990</yFrom><yTo>2000</yTo>", 19900101, 20001231},
       {"<yFrom>1990</yFrom><ymdFrom>20010101</ymdFrom>", 19900101, kAlwaysTo},
       {"<yFrom>0</yFrom><yTo>2000</yTo>", kAlwaysFrom, 20001231},
       {"<yFrom>-44</yFrom>", -439899, kAlwaysTo},  // On purpose: a date of the year that follows
   };
-  for (const auto& row : kValidities) {
-    SCOPED_TRACE(row.fields);
-    const std::string event = "<event><day>1</day><name>A</name>" + std::string(row.fields) + "</event>";
+  for (const auto& [fields, from, to] : kValidities) {
+    SCOPED_TRACE(fields);
+    const std::string event = "<event><day>1</day><name>A</name>" + std::string(fields) + "</event>";
     const CalendarFile calendar = ReadCalendar("<dayEvents>" + event + "</dayEvents>");
     ASSERT_EQ(calendar.content.dayEvents.size(), 1u);
-    EXPECT_EQ(calendar.content.dayEvents[0].ymdFrom, row.from);
-    EXPECT_EQ(calendar.content.dayEvents[0].ymdTo, row.to);
+    EXPECT_EQ(calendar.content.dayEvents[0].ymdFrom, from);
+    EXPECT_EQ(calendar.content.dayEvents[0].ymdTo, to);
   }
 }
 

@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "files/public_calendars.h"
-#include "tests/support/calendar_builder.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/memory_calendars.h"
 
 namespace orbisol {
 namespace {
@@ -13,16 +11,13 @@ using namespace std::literals;
 
 const std::u16string kPath = u"/user/A.xml";
 
-class CalendarStoreTest : public testing::Test {
+class CalendarStoreTest : public testing::Test, protected MemoryCalendars {
  protected:
-  CMemoryFiles files;
-  CCalendarStore store{files, kMemoryFolders};
-  CPublicCalendars publicCalendars{files, kMemoryFolders};
   CalendarFile calendar;
 
   std::string Bytes(const std::u16string& path) { return files.Read(path).value_or(FileBytes()).bytes; }
   WriteResult Save(std::u16string_view rule, IfChanged ifChanged = IfChanged::kRefuse) {
-    return store.Save(u"A", CalendarWith(rule), ifChanged).result;
+    return MemoryCalendars::Save(u"A", rule, ifChanged);
   }
 };
 
@@ -34,34 +29,32 @@ TEST_F(CalendarStoreTest, ANameIsOneFileName) {
                                      u"\x85"s, u"\0"s, u"\xD83C"s, longest + u"a"}) {
     EXPECT_FALSE(IsCalendarName(name)) << testing::PrintToString(name);
     EXPECT_EQ(CalendarNameOrDefault(name), u"Calendar");
-    EXPECT_EQ(store.Load(name, calendar), LoadResult::kMissing);
-    EXPECT_EQ(store.Save(name, calendar, IfChanged::kOverwrite).result, WriteResult::kFailed);
-    EXPECT_FALSE(store.Delete(name));
+    EXPECT_EQ(calendars.Load(name, calendar), LoadResult::kMissing);
+    EXPECT_EQ(calendars.Save(name, calendar, IfChanged::kOverwrite).result, WriteResult::kFailed);
+    EXPECT_FALSE(calendars.Delete(name));
   }
   EXPECT_TRUE(files.files.empty());
 }
 
 TEST_F(CalendarStoreTest, ANewNameIsVisibleAndNobodyElses) {
   const std::u16string names[] = {u"Famille", u"ÉTÉ", u"Дом"};
-  const struct {
-    std::u16string_view name;
-    NameFault fault;
-  } kRows[] = {
-      {u"Travail", NameFault::kNone},
-      {u" été", NameFault::kNone},
-      {u"\u3000 \u00A0", NameFault::kBlank},
-      {u"", NameFault::kBlank},
-      {u"Fa\u200Bmille", NameFault::kInvisible},
-      {u"\u202Etravail", NameFault::kInvisible},
-      {u"../x", NameFault::kNoFileName},
-      {u"my_public", NameFault::kReserved},
-      {u"mes_public", NameFault::kReserved},
-      {u"famille", NameFault::kTaken},
-      {u"été", NameFault::kTaken},
-      {u"дом", NameFault::kTaken},
+  using enum NameFault;
+  const std::pair<std::u16string_view, NameFault> kRows[] = {
+      {u"Travail", kNone},
+      {u"\u3000 \u00A0", kBlank},
+      {u"Fa\u200Bmille", kInvisible},
+      {u"my_public", kReserved},
+      {u" été", kNone},
+      {u"", kBlank},
+      {u"\u202Etravail", kInvisible},
+      {u"mes_public", kReserved},
+      {u"famille", kTaken},
+      {u"été", kTaken},
+      {u"../x", kNoFileName},
+      {u"дом", kTaken},
   };
-  for (const auto& row : kRows)
-    EXPECT_EQ(FaultOfNewName(row.name, names), row.fault) << testing::PrintToString(row.name);
+  for (const auto& [name, fault] : kRows)
+    EXPECT_EQ(FaultOfNewName(name, names), fault) << testing::PrintToString(name);
   for (const char16_t* name : {u"fr_public", u"é🎂_public"}) EXPECT_TRUE(IsFirstStartName(name));
   for (const char16_t* name : {u"🎂_public", u"mes_public", u"fr_publics"})
     EXPECT_FALSE(IsFirstStartName(name));
@@ -71,10 +64,10 @@ TEST_F(CalendarStoreTest, CalendarsAreListedByNameAndDeletedToTheTrash) {
   for (const char16_t* name : {u"A.xml", u"famille.xml", u"Famille.xml", u"Été.xml", u"A.xml.bak", u".xml"})
     files.Put(u"/user/"s + name, "");
   files.Put(u"/user/Legals/B.xml", "");
-  EXPECT_EQ(store.Names(), (std::vector<std::u16string>{u"A", u"Été", u"Famille", u"famille"}));
-  EXPECT_TRUE(store.Delete(u"A"));
+  EXPECT_EQ(calendars.Names(), (std::vector<std::u16string>{u"A", u"Été", u"Famille", u"famille"}));
+  EXPECT_TRUE(calendars.Delete(u"A"));
   EXPECT_EQ(files.trash.count(kPath), 1u);
-  EXPECT_FALSE(store.Delete(u"A"));
+  EXPECT_FALSE(calendars.Delete(u"A"));
 }
 
 TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
@@ -85,21 +78,21 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   CCalendarStore later(files, kMemoryFolders);
   EXPECT_EQ(later.Save(u"A", CalendarWith(u"new"), IfChanged::kRefuse).result, WriteResult::kChanged)
       << "never loaded";
-  files.Put(kPath, BytesWith(u"two"));  // the same bytes, copied back
+  Put(u"A", u"two");  // the same bytes, copied back
   EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
 
-  files.Put(kPath, BytesWith(u"theirs"));
+  Put(u"A", u"theirs");
   EXPECT_EQ(Save(u"ours"), WriteResult::kChanged);
-  const SavedCalendar beside = store.Save(u"A", CalendarWith(u"ours"), IfChanged::kKeepBoth);
+  const SavedCalendar beside = calendars.Save(u"A", CalendarWith(u"ours"), IfChanged::kKeepBoth);
   EXPECT_EQ(beside.result, WriteResult::kWritten);
   EXPECT_EQ(beside.name, u"A (2)");
   EXPECT_EQ(files.lastModel, kPath) << "it takes the rights of the calendar beside which it is made";
-  EXPECT_EQ(Bytes(kPath), BytesWith(u"theirs"));
-  EXPECT_EQ(store.Save(beside.name, CalendarWith(u"next"), IfChanged::kRefuse).result, WriteResult::kWritten);
+  EXPECT_EQ(OnDisk(), "A=theirs A (2)=ours ");
+  EXPECT_EQ(MemoryCalendars::Save(beside.name, u"next"), WriteResult::kWritten);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
-  EXPECT_EQ(Bytes(kPath + u".bak"), BytesWith(u"theirs"));
+  EXPECT_EQ(OnDisk(), "A=ours A.bak=theirs A (2)=next ");
 
-  files.beforeReplace = [&] { files.Put(kPath, BytesWith(u"at the last moment")); };
+  files.beforeReplace = [&] { Put(u"A", u"at the last moment"); };
   EXPECT_EQ(Save(u"ours again", IfChanged::kOverwrite), WriteResult::kChanged);
   EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kWritten);
   files.syncFails = true;
@@ -114,24 +107,26 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
   const std::string odd[] = {"<x>0</x>", "<x>1</x>", "<x>2</x>", "<x>3</x>"};
   for (int i = 0; i < 3; ++i) {
     files.Put(kPath, odd[i]);
-    store.Load(u"A", calendar);
+    calendars.Load(u"A", calendar);
     EXPECT_EQ(Save(u"new"), WriteResult::kWritten);
     EXPECT_EQ(Save(u"newer"), WriteResult::kWritten) << "the file of now loses nothing";
   }
-  EXPECT_EQ(Bytes(kPath + u".bak"), odd[2]);
-  EXPECT_EQ(Bytes(kPath + u".bak.1"), odd[0]);
-  EXPECT_EQ(Bytes(kPath + u".bak.2"), odd[1]);
+  const auto backups = [&] {
+    return Bytes(kPath + u".bak") + Bytes(kPath + u".bak.1") + Bytes(kPath + u".bak.2") +
+           Bytes(kPath + u".bak.3");
+  };
+  EXPECT_EQ(backups(), odd[2] + odd[0] + odd[1]);
 
   files.Put(kPath, odd[2]);
-  store.Load(u"A", calendar);
+  calendars.Load(u"A", calendar);
   EXPECT_EQ(Save(u"new"), WriteResult::kWritten);
-  EXPECT_FALSE(files.Exists(kPath + u".bak.3")) << "those bytes are backed up already";
+  EXPECT_EQ(backups(), odd[2] + odd[0] + odd[1]) << "those bytes are backed up already";
 
   files.Put(kPath, odd[3]);
-  store.Load(u"A", calendar);
-  files.beforeLock = [&] { files.Put(kPath, BytesWith(u"theirs")); };
+  calendars.Load(u"A", calendar);
+  files.beforeLock = [&] { Put(u"A", u"theirs"); };
   EXPECT_EQ(Save(u"new"), WriteResult::kChanged);
-  EXPECT_FALSE(files.Exists(kPath + u".bak.3")) << "nothing was replaced, so nothing is backed up";
+  EXPECT_EQ(backups(), odd[2] + odd[0] + odd[1]) << "nothing was replaced, so nothing is backed up";
 
   files.Put(kPath, odd[3]);
   files.failingWrites = {kPath + u".bak.3"};
@@ -144,24 +139,24 @@ TEST_F(CalendarStoreTest, WhatTheReaderDroppedIsCopiedAndAnOlderCopyMakesPlace) 
 
 TEST_F(CalendarStoreTest, TheDescriptionOfAFileSurvivesASave) {
   files.Put(kPath, "<info>d'ici</info>" + BytesWith(u"mine"));
-  store.Load(u"A", calendar);
+  calendars.Load(u"A", calendar);
   EXPECT_EQ(Save(u"two"), WriteResult::kWritten);
   EXPECT_EQ(ReadCalendar(Bytes(kPath)).info, u"d'ici");
   files.Put(kPath, "<info>d'ailleurs</info>" + BytesWith(u"theirs"));
-  const std::u16string beside = store.Save(u"A", CalendarWith(u"three"), IfChanged::kKeepBoth).name;
-  EXPECT_EQ(ReadCalendar(Bytes(store.PathOf(beside))).info, u"d'ailleurs");
+  const std::u16string beside = calendars.Save(u"A", CalendarWith(u"three"), IfChanged::kKeepBoth).name;
+  EXPECT_EQ(ReadCalendar(Bytes(calendars.PathOf(beside))).info, u"d'ailleurs");
 }
 
 TEST_F(CalendarStoreTest, AFreeNameCountsOnFromTheName) {
-  EXPECT_EQ(store.FreeName(u"A"), u"A (2)");
+  EXPECT_EQ(calendars.FreeName(u"A"), u"A (2)");
   files.Put(u"/user/A (2).xml", "");
   files.Put(u"/user/A (3).xml", "");
-  EXPECT_EQ(store.FreeName(u"A (3)"), u"A (4)");
-  EXPECT_EQ(store.FreeName(u"A (b)"), u"A (b) (2)");
+  EXPECT_EQ(calendars.FreeName(u"A (3)"), u"A (4)");
+  EXPECT_EQ(calendars.FreeName(u"A (b)"), u"A (b) (2)");
   files.isClosed = true;
   EXPECT_EQ(Save(u"one", IfChanged::kKeepBoth), WriteResult::kFailed) << "and does not look for ever";
   files.isClosed = false;
-  EXPECT_EQ(store.FreeName(std::u16string(196, u'a') + u"🎂"), std::u16string(196, u'a') + u" (2)");
+  EXPECT_EQ(calendars.FreeName(std::u16string(196, u'a') + u"🎂"), std::u16string(196, u'a') + u" (2)");
 }
 
 TEST_F(CalendarStoreTest, PublicCalendarsOfBothFoldersStandInOneList) {

@@ -5,10 +5,8 @@
 #include <random>
 #include <set>
 
-#include "files/calendar_store.h"
-#include "tests/support/calendar_builder.h"
 #include "tests/support/fakes.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/memory_calendars.h"
 
 namespace orbisol {
 namespace {
@@ -104,91 +102,78 @@ TEST_F(VersionsTest, WhateverTheClockSaysTheNewestAreKeptAndTheLastOfEarlierDays
   }
 }
 
-class SavedVersionsTest : public testing::Test {
+class SavedVersionsTest : public testing::Test, protected MemoryCalendars {
  protected:
-  CMemoryFiles files;
-  CCalendarStore store{files, kMemoryFolders};
   const ScopedPlatform clock{FakeLocale(), FakeClock({2026, 5, 13})};
 
   WriteResult Save(std::u16string_view rule, IfChanged ifChanged = IfChanged::kRefuse) {
-    return store.Save(u"A", CalendarWith(rule), ifChanged).result;
-  }
-  // The rules of the versions of a calendar, the newest first: "two one ".
-  std::string Kept(std::u16string_view name) {
-    std::u16string all;
-    for (const CalendarVersion& version : store.Versions().List(name)) {
-      const std::string bytes = store.Versions().Read(name, version).value_or("");
-      for (const DayEvent& rule : ReadCalendar(bytes).content.dayEvents)
-        all.append(rule.name.View()).append(u" ");
-    }
-    return ToUtf8(all);
+    return MemoryCalendars::Save(u"A", rule, ifChanged);
   }
 };
 
 TEST_F(SavedVersionsTest, ASaveKeepsTheBytesThatItReplaces) {
   for (const char16_t* rule : {u"one", u"two", u"two"}) EXPECT_EQ(Save(rule), WriteResult::kWritten);
-  EXPECT_EQ(Kept(u"A"), "one ") << "the same bytes again replace nothing";
+  EXPECT_EQ(Versions(u"A"), "one ") << "the same bytes again replace nothing";
   EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
-  EXPECT_EQ(Kept(u"A"), "two one ");
-  files.Put(u"/user/A.xml", BytesWith(u"theirs"));
+  EXPECT_EQ(Versions(u"A"), "two one ");
+  Put(u"A", u"theirs");
   EXPECT_EQ(Save(u"four"), WriteResult::kChanged);
   files.failingWrites = {u"/user/A.xml"};
   EXPECT_EQ(Save(u"four", IfChanged::kOverwrite), WriteResult::kFailed);
-  EXPECT_EQ(Kept(u"A"), "two one ") << "nothing was replaced";
+  EXPECT_EQ(Versions(u"A"), "two one ") << "nothing was replaced";
   EXPECT_EQ(files.files.count(u"/user/A.xml.bak"), 0u) << "and nothing is made in vain";
 
   files.failingWrites = {u"/versions/A"};
   EXPECT_EQ(Save(u"four", IfChanged::kOverwrite), WriteResult::kWritten) << "versions never stop a save";
-  EXPECT_EQ(Kept(u"A"), "two one ");
+  EXPECT_EQ(Versions(u"A"), "two one ");
   files.failingWrites = {u"/user/A.xml.bak.1"};
-  files.Put(u"/user/A.xml", BytesWith(u"theirs again"));
+  Put(u"A", u"theirs again");
   EXPECT_EQ(Save(u"five", IfChanged::kOverwrite), WriteResult::kFailed);
-  EXPECT_EQ(Kept(u"A"), "two one ") << "the backup comes first";
+  EXPECT_EQ(Versions(u"A"), "two one ") << "the backup comes first";
 }
 
 TEST_F(SavedVersionsTest, AVersionIsRestoredByteByByteAndCanBeTakenBack) {
   files.Put(u"/user/A.xml", "<odd>1</odd>" + BytesWith(u"one"));
   CalendarFile calendar;
-  store.Load(u"A", calendar);
+  calendars.Load(u"A", calendar);
   Save(u"bad");
-  const std::vector<CalendarVersion> kept = store.Versions().List(u"A");
-  ASSERT_EQ(kept.size(), 1u);
-  const std::string bytes = store.Versions().Read(u"A", kept[0]).value_or("");
-  EXPECT_EQ(store.Restore(u"A", bytes, IfChanged::kRefuse).result, WriteResult::kWritten);
-  EXPECT_EQ(store.BytesOf(u"A"), "<odd>1</odd>" + BytesWith(u"one")) << "also what the program does not know";
-  EXPECT_EQ(Kept(u"A"), "bad one ");
-  EXPECT_TRUE(store.KeepVersion(u"A", CalendarWith(u"unsaved")));
-  EXPECT_EQ(Kept(u"A"), "unsaved bad one ");
-  files.Put(u"/user/A.xml", BytesWith(u"theirs"));
-  EXPECT_EQ(store.Restore(u"A", bytes, IfChanged::kRefuse).result, WriteResult::kChanged);
+  const std::string bytes = *calendars.Versions().Read(u"A", calendars.Versions().List(u"A").at(0));
+  EXPECT_EQ(calendars.Restore(u"A", bytes, IfChanged::kRefuse).result, WriteResult::kWritten);
+  EXPECT_EQ(calendars.BytesOf(u"A"), "<odd>1</odd>" + BytesWith(u"one"))
+      << "also what the program does not know";
+  EXPECT_EQ(Versions(u"A"), "bad one ");
+  EXPECT_TRUE(calendars.KeepVersion(u"A", CalendarWith(u"unsaved")));
+  EXPECT_EQ(Versions(u"A"), "unsaved bad one ");
+  Put(u"A", u"theirs");
+  EXPECT_EQ(calendars.Restore(u"A", bytes, IfChanged::kRefuse).result, WriteResult::kChanged);
 }
 
 TEST_F(SavedVersionsTest, VersionsFollowTheirCalendar) {
   for (const char16_t* rule : {u"one", u"two"}) Save(rule);
-  store.Save(u"B", CalendarWith(u"theirs"), IfChanged::kRefuse);
-  EXPECT_FALSE(store.AddName(u"A", u"B"));
-  EXPECT_FALSE(store.AddName(u"A", u"../C"));
-  ASSERT_TRUE(store.AddName(u"A", u"a"));
-  EXPECT_EQ(store.BytesOf(u"A"), store.BytesOf(u"a")) << "a crash here loses nothing";
-  ASSERT_TRUE(store.DropName(u"A", u"a"));
+  Put(u"B", u"theirs");
+  EXPECT_FALSE(calendars.AddName(u"A", u"B"));
+  EXPECT_FALSE(calendars.AddName(u"A", u"../C"));
+  ASSERT_TRUE(calendars.AddName(u"A", u"a"));
+  EXPECT_EQ(calendars.BytesOf(u"A"), calendars.BytesOf(u"a")) << "a crash here loses nothing";
+  ASSERT_TRUE(calendars.DropName(u"A", u"a"));
   files.Put(u"/versions/a/2026-05-13 14.05.09 000017 85944171f73967e8.xml", "of an older calendar");
-  store.MoveVersions(u"A", u"a");
-  EXPECT_FALSE(store.Exists(u"A"));
-  EXPECT_EQ(Kept(u"a"), "one ");
-  EXPECT_EQ(Kept(u"A"), "");
-  EXPECT_EQ(store.Save(u"a", CalendarWith(u"three"), IfChanged::kRefuse).result, WriteResult::kWritten)
+  calendars.MoveVersions(u"A", u"a");
+  EXPECT_FALSE(calendars.Exists(u"A"));
+  EXPECT_EQ(Versions(u"a"), "one ");
+  EXPECT_EQ(Versions(u"A"), "");
+  EXPECT_EQ(MemoryCalendars::Save(u"a", u"three"), WriteResult::kWritten)
       << "the file is still the one that was last saved";
 
-  ASSERT_TRUE(store.AddName(u"a", u"C"));
-  files.Put(u"/user/a.xml", BytesWith(u"of another program"));
-  EXPECT_FALSE(store.DropName(u"a", u"C"));
+  ASSERT_TRUE(calendars.AddName(u"a", u"C"));
+  Put(u"a", u"of another program");
+  EXPECT_FALSE(calendars.DropName(u"a", u"C"));
   files.unreadable = {u"/user/a.xml"};
-  EXPECT_FALSE(store.DropName(u"a", u"C"));
+  EXPECT_FALSE(calendars.DropName(u"a", u"C"));
   files.unreadable.clear();
-  EXPECT_TRUE(store.Exists(u"a") && store.Exists(u"C")) << "nobody's bytes are lost";
+  EXPECT_TRUE(calendars.Exists(u"a") && calendars.Exists(u"C")) << "nobody's bytes are lost";
 
-  EXPECT_TRUE(store.Delete(u"a"));
-  EXPECT_EQ(Kept(u"a"), "");
+  EXPECT_TRUE(calendars.Delete(u"a"));
+  EXPECT_EQ(Versions(u"a"), "");
   EXPECT_EQ(files.trash.size(), 4u) << "the calendar, its two versions and the one of an older calendar";
 }
 
@@ -196,18 +181,17 @@ TEST_F(SavedVersionsTest, ANewCalendarOfAnOldNameBeginsWithout) {
   for (const char16_t* rule : {u"one", u"two"}) Save(rule);
   files.files.erase(u"/user/A.xml");
   EXPECT_EQ(Save(u"three"), WriteResult::kWritten);
-  EXPECT_EQ(Kept(u"A"), "one ") << "it was known, and somebody deleted its file";
+  EXPECT_EQ(Versions(u"A"), "one ") << "it was known, and somebody deleted its file";
   files.files.erase(u"/user/A.xml");
   CCalendarStore later(files, kMemoryFolders);
   EXPECT_EQ(later.Save(u"A", CalendarWith(u"new"), IfChanged::kRefuse).result, WriteResult::kWritten);
-  EXPECT_EQ(Kept(u"A"), "");
+  EXPECT_EQ(Versions(u"A"), "");
   EXPECT_EQ(files.trash.size(), 1u);
 
-  for (const char16_t* rule : {u"four", u"five"})
-    store.Save(u"A (2)", CalendarWith(rule), IfChanged::kRefuse);
+  for (const char16_t* rule : {u"four", u"five"}) MemoryCalendars::Save(u"A (2)", rule);
   files.files.erase(u"/user/A (2).xml");
-  EXPECT_EQ(store.Save(u"A", CalendarWith(u"six"), IfChanged::kKeepBoth).name, u"A (2)");
-  EXPECT_EQ(Kept(u"A (2)"), "") << "a copy kept beside is a new calendar";
+  EXPECT_EQ(calendars.Save(u"A", CalendarWith(u"six"), IfChanged::kKeepBoth).name, u"A (2)");
+  EXPECT_EQ(Versions(u"A (2)"), "") << "a copy kept beside is a new calendar";
 }
 
 }  // namespace

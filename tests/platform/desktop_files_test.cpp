@@ -60,6 +60,7 @@ class DesktopFilesTest : public testing::Test {
   const std::string own = folders.stores[0];
 
   std::string Own(const std::string& name) const { return folders.calendars + "/" + name; }
+  std::u16string Path(const std::string& name) const { return PathText(Own(name)); }
   WriteResult Replace(const std::string& path, std::string_view bytes, const FileStamp* expected = nullptr,
                       FileStamp* stamp = nullptr) {
     return files.Replace(PathText(path), bytes, expected, stamp, {});
@@ -78,14 +79,14 @@ TEST_F(DesktopFilesTest, OnlyOrdinaryFilesAreListedReadAndReplaced) {
   EXPECT_EQ(names, (std::vector<std::u16string>{u"link.xml", u"zoo.xml", u"Été.xml"}));
 
   for (const char* name : {"missing.xml", "folder.xml", "pipe.xml"})
-    EXPECT_FALSE(files.Read(PathText(Own(name)))) << name;
+    EXPECT_FALSE(files.Read(Path(name))) << name;
   fs::create_symlink("loop.xml", Own("loop.xml"));
-  EXPECT_TRUE(files.Exists(PathText(Own("loop.xml")))) << "nobody can look";
-  EXPECT_FALSE(files.Exists(PathText(Own("zoo.xml/below"))) || files.Exists(PathText(Own("missing.xml"))));
+  EXPECT_TRUE(files.Exists(Path("loop.xml"))) << "nobody can look";
+  EXPECT_FALSE(files.Exists(Path("zoo.xml/below")) || files.Exists(Path("missing.xml")));
   for (const char* name : {"folder.xml", "pipe.xml", "zoo.xml/below"})
     EXPECT_EQ(Replace(Own(name), "x"), WriteResult::kFailed) << name;
   fs::resize_file(Own("zoo.xml"), kMaxFileBytes + 1);
-  EXPECT_FALSE(files.Read(PathText(Own("zoo.xml"))));
+  EXPECT_FALSE(files.Read(Path("zoo.xml")));
 }
 
 TEST_F(DesktopFilesTest, ReplacesOnlyTheFileThatWasExpected) {
@@ -132,20 +133,14 @@ TEST_F(DesktopFilesTest, ClearsAwayWhatKilledRunsLeft) {
   EXPECT_EQ(FileCount(folders.calendars), 3u) << "the others stay";
 }
 
-// Returns an access list in the system's form: the owner, one more user and the group may write, within
-// `mask`.
+// Returns an access list in the system's form: the owner and one more user may write, within `mask`.
 std::string AccessList(char group, char mask) {
   std::string list("\2\0\0\0", 4);
-  const auto add = [&](char tag, char rights, std::string_view id) {
+  for (const auto& [tag, rights] :
+       {std::pair('\x01', '\6'), {'\x02', '\6'}, {'\x04', group}, {'\x10', mask}, {'\x20', '\0'}}) {
     list += {tag, '\0', rights, '\0'};
-    list += id;
-  };
-  const std::string_view nobody("\xFF\xFF\xFF\xFF", 4);
-  add(0x01, 6, nobody);
-  add(0x02, 6, std::string_view("\x39\x30\0\0", 4));
-  add(0x04, group, nobody);
-  add(0x10, mask, nobody);
-  add(0x20, 0, nobody);
+    list += tag == '\x02' ? std::string_view("\x39\x30\0\0", 4) : "\xFF\xFF\xFF\xFF";
+  }
   return list;
 }
 
@@ -158,8 +153,7 @@ TEST_F(DesktopFilesTest, RightsAndAttributesGoOverToTheNewBytesAndToCopies) {
   ASSERT_EQ(files.Replace(PathText(path + ".bak"), "one", nullptr, nullptr, PathText(path)),
             WriteResult::kWritten);
   EXPECT_EQ(fs::status(path + ".bak").permissions(), fs::status(path).permissions());
-  ASSERT_EQ(files.Replace(PathText(Own("B.xml")), "one", nullptr, nullptr, u"/nowhere"),
-            WriteResult::kWritten);
+  ASSERT_EQ(files.Replace(Path("B.xml"), "one", nullptr, nullptr, u"/nowhere"), WriteResult::kWritten);
   EXPECT_EQ(fs::status(Own("B.xml")).permissions(), fs::status(path).permissions())
       << "of nobody: for the user";
   // Whichever of the two this file system knows is carried over.
@@ -229,12 +223,12 @@ TEST_F(DesktopFilesTest, AFileThatCannotBeReplacedIsToldBeforehand) {
 TEST_F(DesktopFilesTest, AFileHasTwoNamesWhileItIsRenamed) {
   PutFile(Own("A.xml"), "bytes");
   fs::create_symlink("A.xml", Own("link.xml"));
-  EXPECT_TRUE(files.AddName(PathText(Own("link.xml")), PathText(Own("other.xml"))));
+  EXPECT_TRUE(files.AddName(Path("link.xml"), Path("other.xml")));
   EXPECT_TRUE(fs::is_symlink(Own("other.xml"))) << "a link stays a link";
-  EXPECT_TRUE(files.AddName(PathText(Own("A.xml")), PathText(Own("a.xml"))));
-  EXPECT_FALSE(files.AddName(PathText(Own("A.xml")), PathText(Own("link.xml")))) << "that is somebody else's";
-  EXPECT_FALSE(files.AddName(PathText(Own("none.xml")), PathText(Own("new.xml"))));
-  EXPECT_TRUE(files.Remove(PathText(Own("A.xml"))) && files.Remove(PathText(Own("A.xml"))));
+  EXPECT_TRUE(files.AddName(Path("A.xml"), Path("a.xml")));
+  EXPECT_FALSE(files.AddName(Path("A.xml"), Path("link.xml"))) << "that is somebody else's";
+  EXPECT_FALSE(files.AddName(Path("none.xml"), Path("new.xml")));
+  EXPECT_TRUE(files.Remove(Path("A.xml")) && files.Remove(Path("A.xml")));
   EXPECT_EQ(BytesOf(Own("a.xml")), "bytes");
 
   PutFile(folders.versions + "/A/1.xml", "one");

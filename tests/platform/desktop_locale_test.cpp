@@ -22,24 +22,21 @@ TEST(DesktopLocaleTest, WithoutALocaleAllIsFrench) {
 }
 
 TEST(DesktopLocaleTest, CountriesHaveTheirOwnAnswers) {
-  constexpr struct {
-    const char* name;
-    int dateOrder, firstDay;
-    const char16_t* names;  // of March, Sunday, the language and the country
-  } kRows[] = {
+  // Date order, first weekday, and the names of March, Sunday, the language and the country.
+  constexpr std::tuple<const char*, int, int, const char16_t*> kRows[] = {
       {"C", 1, 0, u"mars dimanche fr FR"},         {"en_US.UTF-8", 0, 6, u"March Sunday en US"},
       {"de_CH@euro", 1, 0, u"März Sonntag de CH"}, {"sv_SE", 2, 0, u"mars söndag sv SE"},
       {"it", 1, 0, u"marzo domenica it "},         {"zh-Hant-TW", 2, 6, u"3月 星期日 zh TW"},
       {"cs_CZ", 1, 0, u"březen neděle cs CZ"},
   };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.name);
-    const CDesktopLocale locale(row.name);
-    EXPECT_EQ(locale.ShortDateOrder(), row.dateOrder);
-    EXPECT_EQ(locale.FirstDayOfWeek(), row.firstDay);
+  for (const auto& [name, dateOrder, firstDay, names] : kRows) {
+    SCOPED_TRACE(name);
+    const CDesktopLocale locale(name);
+    EXPECT_EQ(locale.ShortDateOrder(), dateOrder);
+    EXPECT_EQ(locale.FirstDayOfWeek(), firstDay);
     EXPECT_EQ(locale.MonthName(3) + u" " + locale.WeekdayName(7) + u" " + locale.Language() + u" " +
                   locale.Country(),
-              row.names);
+              names);
   }
 }
 

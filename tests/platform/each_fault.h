@@ -25,6 +25,9 @@ struct Outcome : FaultReport {
   bool isDone = false;       // whether the step reported success
   bool isKilled = false;     // whether it was killed and reported nothing
   bool isWriteLost = false;  // whether a write was lost, so that it must not report success
+
+  // Returns whether a temporary file or a note may be left.
+  bool MayLeave() const { return isKilled || std::string_view(failed) == "unlink"; }
 };
 
 // Takes the step with a fault at one call, in a process of its own if the fault kills it.
@@ -45,6 +48,13 @@ inline Outcome Taken(const Step& step, int call = 0, int fault = 0, void (*meddl
   const std::set<std::string_view> writing = {"write", "fsync", "rename", "renameat2", "fchmod", "fchown"};
   outcome.isWriteLost = fault > 0 && fault != EINTR && fault != EINVAL && writing.count(outcome.failed) > 0;
   return outcome;
+}
+
+// Runs three processes at once, each with a letter of its own, which must all report success.
+inline void RunThreeAtOnce(const std::function<bool(char letter)>& act) {
+  for (const char letter : {'A', 'B', 'C'})
+    if (fork() == 0) _exit(Taken([&] { return act(letter); }).isDone ? 0 : 1);
+  for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
 }
 
 inline const std::string kOld(5000, 'o');

@@ -1,6 +1,3 @@
-// One program for each user and display: which start is the first, which calls are answered, and what a start
-// does when the first hangs or dies.
-
 #include "platform/single_instance.h"
 
 #include <gtest/gtest.h>

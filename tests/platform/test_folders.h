@@ -9,6 +9,8 @@
 #include <fstream>
 #include <string>
 
+#include "files/calendar_store.h"
+#include "platform/desktop_files.h"
 #include "platform/folders.h"
 #include "tests/support/file_bytes.h"
 
@@ -48,6 +50,15 @@ inline void PutFile(const std::string& path, std::string_view bytes) {
 
 inline std::size_t FileCount(const std::string& folder) {
   return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+// Loads the usual calendar and saves another content in its place. Returns whether the save was confirmed.
+inline bool SaveCalendar(const Folders& folders, const CalendarFile& calendar) {
+  CDesktopFiles files(folders.trash);
+  CCalendarStore calendars(files, CalendarFoldersOf(folders));
+  CalendarFile before;
+  return calendars.Load(kDefaultCalendarName, before) == LoadResult::kLoaded &&
+         calendars.Save(kDefaultCalendarName, calendar, IfChanged::kRefuse).result == WriteResult::kWritten;
 }
 
 // Returns the text of a settings key.

@@ -1,10 +1,5 @@
 // Versions and renaming with a fault at each system call: a calendar never suffers for its versions.
 
-#include <filesystem>
-
-#include "files/calendar_store.h"
-#include "files/versions.h"
-#include "platform/desktop_files.h"
 #include "platform/path_text.h"
 #include "platform/posix_file.h"
 #include "tests/platform/each_fault.h"
@@ -28,10 +23,8 @@ TEST(VersionFaultTest, ASaveKeepsAVersionAndNeverFailsForIt) {
   const auto prepare = [&] {
     fs::remove_all(folders.versions);
     PutFile(path, before);
-    for (int i = 0; i < 10; ++i)  // the oldest has to go
-      PutFile(kept + "/2026-05-13 14.05.09 00000" + std::to_string(i) + " 000000000000000" +
-                  std::to_string(i) + ".xml",
-              "older");
+    for (const char i : std::string("0123456789"))  // the oldest has to go
+      PutFile(kept + "/2026-05-13 14.05.09 00000" + i + " 000000000000000" + i + ".xml", "older");
   };
   const auto check = [&](const Outcome& outcome) {
     const std::string bytes = BytesOf(path);
@@ -43,17 +36,9 @@ TEST(VersionFaultTest, ASaveKeepsAVersionAndNeverFailsForIt) {
     EXPECT_TRUE(versions.empty() || versions == std::set<std::string>{before}) << "half a version";
     const bool isSound = !outcome.isKilled && std::string_view(outcome.failed) == "-";
     EXPECT_TRUE(!isSound || (versions.size() == 1 && FileCount(kept) == 10));
-    const bool mayLeave = outcome.isKilled || std::string_view(outcome.failed) == "unlink";
-    EXPECT_TRUE(mayLeave || FileCount(kept) <= 11u) << "a temporary file is left";
+    EXPECT_TRUE(outcome.MayLeave() || FileCount(kept) <= 11u) << "a temporary file is left";
   };
-  CDesktopFiles files(folders.trash);
-  const Step step = [&] {
-    CCalendarStore calendars(files, CalendarFoldersOf(folders));
-    CalendarFile calendar;
-    return calendars.Load(kDefaultCalendarName, calendar) == LoadResult::kLoaded &&
-           calendars.Save(kDefaultCalendarName, CalendarWith(u"after"), IfChanged::kRefuse).result ==
-               WriteResult::kWritten;
-  };
+  const Step step = [&] { return SaveCalendar(folders, CalendarWith(u"after")); };
   ForEachFault({EIO, ENOSPC, EACCES, kShortFault, kKillFault}, 4, step, prepare, check);
 
   prepare();
@@ -76,8 +61,8 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
   };
   bool isNamedTwice = false;
   const auto check = [&](const Outcome& outcome) {
-    const bool mayLeave = isNamedTwice || outcome.isKilled || std::string_view(outcome.failed) == "unlink";
-    EXPECT_TRUE(mayLeave || FileCount(folders.calendars) == 1u) << "a name that was refused is left";
+    EXPECT_TRUE(isNamedTwice || outcome.MayLeave() || FileCount(folders.calendars) == 1u)
+        << "a name that was refused is left";
     EXPECT_EQ(BytesOf(folders.calendars + "/" + BytesOf(remembered) + ".xml"), bytes);
     EXPECT_TRUE(BytesOf(folders.versions + "/A/version") == "kept" ||
                 BytesOf(folders.versions + "/B/version") == "kept");
@@ -107,17 +92,13 @@ TEST(VersionFaultTest, ProcessesThatKeepVersionsAtOnceDoNotMindEachOther) {
       done = versions.Keep(u"A", letter + std::to_string(i), {{2026, 5, 1 + i / 3}, 0, 0, 0}) && done;
     return done;
   };
-  for (const char letter : {'A', 'B', 'C'}) {
-    if (fork() == 0) _exit(Taken([&] { return keep(letter); }).isDone ? 0 : 1);
-  }
-  for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
+  RunThreeAtOnce(keep);
   CVersions versions(files, root);
   versions.Keep(u"A", "last", {{2026, 5, 21}, 0, 0, 0});
   EXPECT_GE(versions.List(u"A").size(), kNewestVersions);
   EXPECT_LE(versions.List(u"A").size(), kNewestVersions + kVersionDays);
-  for (const CalendarVersion& version : versions.List(u"A")) {
+  for (const CalendarVersion& version : versions.List(u"A"))
     EXPECT_TRUE(versions.Read(u"A", version).has_value());
-  }
 }
 
 }  // namespace

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/calendar_builder.h"
 #include "tests/support/file_bytes.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/memory_calendars.h"
 #include "tests/support/memory_store.h"
 #include "tests/support/rules.h"
 
@@ -15,7 +14,7 @@ constexpr Rect kScreen{0, 0, 1920, 1080};
 constexpr char kNamed[] = "\"CalendarName\"=\"Calendar\"\n";
 const std::u16string kOwnPath = u"/user/Calendar.xml";
 
-class SettingsTest : public testing::Test {
+class SettingsTest : public testing::Test, protected MemoryCalendars {
  protected:
   ~SettingsTest() override {
     EXPECT_EQ(Display(), DisplaySettings()) << "nothing in force is touched";
@@ -23,9 +22,6 @@ class SettingsTest : public testing::Test {
     EXPECT_TRUE(Content().dayEvents.empty());
   }
 
-  CMemoryFiles files;
-  CCalendarStore calendars{files, kMemoryFolders};
-  CPublicCalendars publicCalendars{files, kMemoryFolders};
   CMemoryStore store{kNamed};
 
   void PutCalendar(const std::u16string& path, const CalendarFile& calendar) {
@@ -41,12 +37,6 @@ class SettingsTest : public testing::Test {
     return {stored.display.Look(), stored.rules, stored.content, u""};
   }
   std::optional<std::u16string> StoredName() { return TextOf(*store.Read(), "CalendarName", 260); }
-  static std::u16string FirstRule(const CalendarContent& content) {
-    return content.dayEvents.empty() ? u"(none)" : std::u16string(content.dayEvents[0].name.View());
-  }
-  std::u16string FirstRuleIn(const std::u16string& path) {
-    return FirstRule(ReadCalendar(files.files[path].bytes).content);
-  }
 };
 
 TEST_F(SettingsTest, WhatIsMissingOrMalformedTakesItsDefault) {
@@ -91,22 +81,22 @@ TEST_F(SettingsTest, StoredValuesReachTheirFields) {
 
 TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
   const auto first = [&](const UserLocale& locale) {
-    return FirstRule(ReadSettings(store, calendars, publicCalendars, locale, kScreen).content);
+    return NamesIn(ReadSettings(store, calendars, publicCalendars, locale, kScreen).content);
   };
   files.Put(u"/user/fr_public.xml", "");  // a copy that an older release made is no calendar of the user's
-  EXPECT_EQ(first({u"sv", u"SE"}), u"(none)");
+  EXPECT_EQ(first({u"sv", u"SE"}), "");
   PutShipped(u"France");
   PutShipped(u"de_public");
-  EXPECT_EQ(first({u"fr", u"FR"}), u"France");
-  EXPECT_EQ(first({u"de", u"NA"}), u"de_public") << "the language, where the country has no calendar";
-  EXPECT_EQ(first({u"de", u"FR"}), u"France") << "the country decides before the language";
+  EXPECT_EQ(first({u"fr", u"FR"}), "France");
+  EXPECT_EQ(first({u"de", u"NA"}), "de_public") << "the language, where the country has no calendar";
+  EXPECT_EQ(first({u"de", u"FR"}), "France") << "the country decides before the language";
   for (const UserLocale& unknown :
        {UserLocale{u"sv", u"SE"}, UserLocale{u"../x", u"/"}, UserLocale{u"", u""}})
-    EXPECT_EQ(first(unknown), u"(none)") << "no foreign holidays";
+    EXPECT_EQ(first(unknown), "") << "no foreign holidays";
   EXPECT_EQ(files.files.size(), 3u);
   for (const char16_t* name : {u"/user/Autre.xml", u"/user/mes_public.xml"}) {
     PutCalendar(name, {});
-    EXPECT_EQ(first({u"fr", u"FR"}), u"(none)") << "whoever has calendars meets none they did not make";
+    EXPECT_EQ(first({u"fr", u"FR"}), "") << "whoever has calendars meets none they did not make";
     files.files.erase(name);
   }
 }
@@ -134,8 +124,7 @@ TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
   EXPECT_EQ(outcome.calendar, WriteResult::kWritten);
   EXPECT_FALSE(outcome.key || display.changed);
   EXPECT_EQ(display.calendarPath, u"/user/Famille.xml");
-  EXPECT_EQ(FirstRuleIn(kOwnPath), u"Old");
-  EXPECT_FALSE(files.Exists(u"/user/Famille.xml"));
+  EXPECT_EQ(OnDisk(), "Calendar=Old ");
   store.readOnly = false;
   save(u"Travail");
   EXPECT_EQ(Read().display, display);
@@ -148,15 +137,14 @@ TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
         .calendar;
   };
   display.changed = true;
-  PutCalendar(kOwnPath, CalendarWith(u"Theirs"));
+  Put(u"Calendar", u"Theirs");
   EXPECT_EQ(save(IfChanged::kRefuse), WriteResult::kChanged);
   EXPECT_TRUE(display.changed);
   EXPECT_TRUE(store.written.empty());
   EXPECT_EQ(save(IfChanged::kKeepBoth), WriteResult::kWritten);
   EXPECT_EQ(StoredName(), u"Calendar (2)");
-  EXPECT_EQ(FirstRuleIn(kOwnPath), u"Theirs");
-  EXPECT_EQ(FirstRuleIn(u"/user/Calendar (2).xml"), u"Mine");
-  PutCalendar(display.calendarPath, CalendarWith(u"Theirs"));
+  EXPECT_EQ(OnDisk(), "Calendar=Theirs Calendar (2)=Mine ");
+  Put(u"Calendar (2)", u"Theirs");
   EXPECT_EQ(save(IfChanged::kOverwrite), WriteResult::kWritten);
 
   files.unreadable.insert(display.calendarPath);
@@ -164,7 +152,7 @@ TEST_F(SettingsTest, AFileThatSomebodyElseChangedOrNobodyCanReadIsLeftAlone) {
   EXPECT_EQ(save(IfChanged::kOverwrite), WriteResult::kFailed) << "nobody has seen what would be lost";
   EXPECT_EQ(save(IfChanged::kKeepBoth, u"Famille"), WriteResult::kWritten);
   EXPECT_EQ(display.calendarName.View(), u"Famille") << "it is no trap";
-  EXPECT_EQ(FirstRuleIn(u"/user/Calendar (3).xml"), u"Mine");
+  EXPECT_EQ(NamesIn(ContentOf(u"Calendar (3)")), "Mine");
 }
 
 TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
@@ -197,8 +185,8 @@ TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
 TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {
   store.text = Known("legacy.reg");  // its name cannot be read
   PutShipped(u"France");
-  PutCalendar(u"/user/fr_public.xml", CalendarWith(u"Noël"));
-  PutCalendar(u"/user/mes_public.xml", CalendarWith(u"three letters"));
+  Put(u"fr_public", u"Noël");
+  Put(u"mes_public", u"three letters");
   CalendarFile own = CalendarWith(u"a name like that of a copy");
   own.content.vacations = {{20240706, 20240901, {}}};
   PutCalendar(u"/user/my_public.xml", own);

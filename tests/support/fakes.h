@@ -1,4 +1,4 @@
-// Test doubles of the machine's interfaces.
+// Test doubles of the machine's interfaces, and rules to be in force (rules.h).
 //
 //   FakeLocale american;
 //   american.dateOrder = 0;
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/platform.h"
+#include "tests/support/rules.h"
 
 namespace orbisol {
 

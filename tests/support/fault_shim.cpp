@@ -67,8 +67,9 @@ void orbisol::FaultShimBegin(int call, int fault, FaultReport& report, void (*me
 
 void orbisol::FaultShimEnd() { current = nullptr; }
 
-#define FORWARD(name, type, ...)              \
-  static const auto real = Real<type>(#name); \
+#define REAL(name) static const auto real = Real<decltype(name)>(#name)
+#define FORWARD(name, ...) \
+  REAL(name);              \
   return Fails(#name) ? -1 : real(__VA_ARGS__)
 
 // The system's headers give the parameters of these calls other names.
@@ -80,12 +81,12 @@ int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  FORWARD(open, int(const char*, int, ...), path, flags, mode);
+  FORWARD(open, path, flags, mode);
 }
 
 // Closes a descriptor. As on Linux, a close that fails has closed it.
 int close(int descriptor) {
-  static const auto real = Real<int(int)>("close");
+  REAL(close);
   const bool fails = Fails("close");
   const int error = errno;
   const int result = real(descriptor);
@@ -95,11 +96,11 @@ int close(int descriptor) {
 }
 
 ssize_t read(int descriptor, void* buffer, size_t size) {
-  static const auto real = Real<ssize_t(int, void*, size_t)>("read");
+  REAL(read);
   return Transfer("read", real, descriptor, buffer, size);
 }
 ssize_t write(int descriptor, const void* buffer, size_t size) {
-  static const auto real = Real<ssize_t(int, const void*, size_t)>("write");
+  REAL(write);
   return Transfer("write", real, descriptor, buffer, size);
 }
 
@@ -110,50 +111,39 @@ int fsync(int descriptor) {
     ++current->syncs;
     return Fails("fsync") ? -1 : 0;
   }
-  FORWARD(fsync, int(int), descriptor);
+  FORWARD(fsync, descriptor);
 }
-int rename(const char* from, const char* to) { FORWARD(rename, int(const char*, const char*), from, to); }
+int rename(const char* from, const char* to) { FORWARD(rename, from, to); }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) {
-  FORWARD(renameat2, int(int, const char*, int, const char*, unsigned), fromFolder, from, toFolder, to,
-          flags);
+  FORWARD(renameat2, fromFolder, from, toFolder, to, flags);
 }
 int fsetxattr(int descriptor, const char* name, const void* value, size_t size, int flags) {
-  FORWARD(fsetxattr, int(int, const char*, const void*, size_t, int), descriptor, name, value, size, flags);
+  FORWARD(fsetxattr, descriptor, name, value, size, flags);
 }
 ssize_t getxattr(const char* path, const char* name, void* value, size_t size) {
-  FORWARD(getxattr, ssize_t(const char*, const char*, void*, size_t), path, name, value, size);
+  FORWARD(getxattr, path, name, value, size);
 }
-ssize_t listxattr(const char* path, char* list, size_t size) {
-  FORWARD(listxattr, ssize_t(const char*, char*, size_t), path, list, size);
-}
+ssize_t listxattr(const char* path, char* list, size_t size) { FORWARD(listxattr, path, list, size); }
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) {
-  FORWARD(linkat, int(int, const char*, int, const char*, int), fromFolder, from, toFolder, to, flags);
+  FORWARD(linkat, fromFolder, from, toFolder, to, flags);
 }
-int unlink(const char* path) { FORWARD(unlink, int(const char*), path); }
-int mkdir(const char* path, mode_t mode) { FORWARD(mkdir, int(const char*, mode_t), path, mode); }
-int access(const char* path, int mode) { FORWARD(access, int(const char*, int), path, mode); }
-int chmod(const char* path, mode_t mode) { FORWARD(chmod, int(const char*, mode_t), path, mode); }
-int fchmod(int descriptor, mode_t mode) { FORWARD(fchmod, int(int, mode_t), descriptor, mode); }
-int fchown(int descriptor, uid_t user, gid_t group) {
-  FORWARD(fchown, int(int, uid_t, gid_t), descriptor, user, group);
-}
-int flock(int descriptor, int operation) { FORWARD(flock, int(int, int), descriptor, operation); }
-int fstat(int descriptor, struct stat* status) { FORWARD(fstat, int(int, struct stat*), descriptor, status); }
-int stat(const char* path, struct stat* status) {
-  FORWARD(stat, int(const char*, struct stat*), path, status);
-}
-int lstat(const char* path, struct stat* status) {
-  FORWARD(lstat, int(const char*, struct stat*), path, status);
-}
-ssize_t readlink(const char* path, char* target, size_t size) {
-  FORWARD(readlink, ssize_t(const char*, char*, size_t), path, target, size);
-}
+int unlink(const char* path) { FORWARD(unlink, path); }
+int mkdir(const char* path, mode_t mode) { FORWARD(mkdir, path, mode); }
+int access(const char* path, int mode) { FORWARD(access, path, mode); }
+int chmod(const char* path, mode_t mode) { FORWARD(chmod, path, mode); }
+int fchmod(int descriptor, mode_t mode) { FORWARD(fchmod, descriptor, mode); }
+int fchown(int descriptor, uid_t user, gid_t group) { FORWARD(fchown, descriptor, user, group); }
+int flock(int descriptor, int operation) { FORWARD(flock, descriptor, operation); }
+int fstat(int descriptor, struct stat* status) { FORWARD(fstat, descriptor, status); }
+int stat(const char* path, struct stat* status) { FORWARD(stat, path, status); }
+int lstat(const char* path, struct stat* status) { FORWARD(lstat, path, status); }
+ssize_t readlink(const char* path, char* target, size_t size) { FORWARD(readlink, path, target, size); }
 DIR* opendir(const char* path) {
-  static const auto real = Real<DIR*(const char*)>("opendir");
+  REAL(opendir);
   return Fails("opendir") ? nullptr : real(path);
 }
 struct dirent* readdir(DIR* folder) {
-  static const auto real = Real<struct dirent*(DIR*)>("readdir");
+  REAL(readdir);
   return Fails("readdir") ? nullptr : real(folder);
 }
 

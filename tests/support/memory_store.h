@@ -17,6 +17,7 @@ namespace orbisol {
 struct CMemoryStore : SettingsStore {
   std::optional<std::string> text;  // nothing if there is no key
   bool readOnly = false;
+  bool isUnsure = false;             // whether the next write is made but not confirmed, and none follows
   std::vector<StoreChange> written;  // all changes ever asked for, in order
 
   CMemoryStore() = default;
@@ -39,7 +40,8 @@ struct CMemoryStore : SettingsStore {
         return false;
     }
     text = edited.Bytes();
-    return true;
+    readOnly = isUnsure;
+    return !isUnsure;
   }
 };
 

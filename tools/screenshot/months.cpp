@@ -9,33 +9,17 @@
 #include "content/selected_date.h"
 #include "files/calendar_file.h"
 #include "settings/display_settings.h"
+#include "tests/content/rule_builder.h"
 #include "tools/screenshot/pictures.h"
 #include "ui/month/month_window.h"
 
 namespace orbisol {
 namespace {
 
-void AddPeriod(PackedDate from, PackedDate to) {
-  HolidayPeriod period;
-  period.ymdFrom = from;
-  period.ymdTo = to;
-  Content().vacations.push_back(period);
-}
-
-void AddEvent(int month, int day) {
-  DayEvent event;
-  event.month = month;
-  event.day = day;
-  event.ymdFrom = kAlwaysFrom;
-  event.ymdTo = kAlwaysTo;
-  Content().dayEvents.push_back(event);
-}
-
 // Fills everything that can be filled, in colors that tell one another apart.
 void ColorTheDays() {
-  AddPeriod(20240506, 20240519);
-  AddEvent(5, 14);
-  AddEvent(5, 23);
+  Content().vacations.push_back(Period(20240506, 20240519));
+  for (const int day : {14, 23}) Content().dayEvents.push_back(EveryYear(5, day, u"", false));
   Display().colors[kHolidayBack] = Rgb(0xFF, 0xD8, 0xD0);
   Display().colors[kEventBack] = Rgb(0xFF, 0xF2, 0xA8);
   Display().colors[kVacationBack] = Rgb(0xC8, 0xE0, 0xC0);

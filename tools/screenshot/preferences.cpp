@@ -8,6 +8,7 @@
 #include "content/selected_date.h"
 #include "files/calendar_file.h"
 #include "settings/display_settings.h"
+#include "tests/content/rule_builder.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_store.h"
 #include "tools/screenshot/pictures.h"
@@ -19,13 +20,7 @@ namespace orbisol {
 namespace {
 
 void AddEvent(int month, int day, std::u16string_view name) {
-  DayEvent event;
-  event.month = month;
-  event.day = day;
-  event.ymdFrom = kAlwaysFrom;
-  event.ymdTo = kAlwaysTo;
-  event.name.Set(name);
-  Content().dayEvents.push_back(event);
+  Content().dayEvents.push_back(EveryYear(month, day, name, false));
 }
 
 // Fills May 2026 like a family's calendar on the wall: long names, four events on a day, a vacation.
@@ -39,9 +34,7 @@ void FillMay() {
   AddEvent(5, 20, u"Sortir les poubelles");
   AddEvent(5, 27, u"Chorale");
   AddEvent(5, 27, u"Médecin");
-  HolidayPeriod vacation{20260509, 20260518, {}};
-  vacation.title.Set(u"Vacances de printemps à la montagne");
-  Content().vacations.push_back(vacation);
+  Content().vacations.push_back(Period(20260509, 20260518, u"Vacances de printemps à la montagne"));
 }
 
 void Restore() {

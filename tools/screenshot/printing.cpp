@@ -7,6 +7,7 @@
 #include "content/calendar_content.h"
 #include "files/calendar_file.h"
 #include "resources/command_ids.h"
+#include "tests/content/rule_builder.h"
 #include "tools/screenshot/pictures.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/print/page_painter.h"
@@ -93,32 +94,14 @@ const PagePicture kPages[] = {
      {kCmdPrintImage}},
 };
 
-HolidayPeriod Period(PackedDate from, PackedDate to, std::u16string_view title) {
-  HolidayPeriod period;
-  period.ymdFrom = from;
-  period.ymdTo = to;
-  period.title.Set(title);
-  return period;
-}
-
-DayEvent Event(int month, int day, std::u16string_view name) {
-  DayEvent event;
-  event.month = month;
-  event.day = day;
-  event.ymdFrom = kAlwaysFrom;
-  event.ymdTo = kAlwaysTo;
-  event.name.Set(name);
-  return event;
-}
-
 // Returns a family's calendar: the days of France, birthdays, and holidays of the schools.
 CalendarContent FamilyContent() {
   CalendarContent content = ReadCalendar(FileOfFrance()).content;
-  content.dayEvents.push_back(Event(1, 6, u"Galette"));
-  content.dayEvents.push_back(Event(3, 19, u"Anniversaire de Joséphine"));
-  content.dayEvents.push_back(
-      Event(5, 23, u"Rendez-vous chez le dentiste avec les enfants, à quatorze heures"));
-  content.dayEvents.push_back(Event(11, 23, u"Anniversaire de Clément"));
+  for (const DayEvent& event :
+       {EveryYear(1, 6, u"Galette", false), EveryYear(3, 19, u"Anniversaire de Joséphine", false),
+        EveryYear(5, 23, u"Rendez-vous chez le dentiste avec les enfants, à quatorze heures", false),
+        EveryYear(11, 23, u"Anniversaire de Clément", false)})
+    content.dayEvents.push_back(event);
   content.vacations = {Period(20231223, 20240107, u"Vacances de Noël"),
                        Period(20240210, 20240225, u"Vacances d'hiver"),
                        Period(20240406, 20240421, u"Vacances de printemps"),

@@ -92,24 +92,30 @@ TEST_F(CalendarsTest, RenamingTakesFileVersionsAndKeyAlong) {
   EXPECT_EQ(files.files[u"/user/maison.xml.bak.1"].bytes, "maison.xml.bak.1") << "nothing is overwritten";
   EXPECT_EQ(files.files[u"/user/Maison.xml.bak.1"].bytes, "Maison.xml.bak.1");
   EXPECT_EQ(InUse(), "Travail /user/Travail.xml Travail work");
-  EXPECT_EQ(OnDisk(), "maison=next Travail=work ");
+  EXPECT_EQ(OnDisk(), "maison=next maison.bak= Travail=work ");
   EXPECT_EQ(Versions(u"maison"), "mine ");
 
   Edit(u"unsaved");
   EXPECT_TRUE(actions.Rename(u"Travail", u"Bureau 🎂"));
   EXPECT_EQ(InUse(), "Bureau 🎂 /user/Bureau 🎂.xml Bureau 🎂 unsaved");
   EXPECT_TRUE(Display().changed);
-  EXPECT_EQ(OnDisk(), "Bureau 🎂=work maison=next ");
+  EXPECT_EQ(OnDisk(), "Bureau 🎂=work maison=next maison.bak= ");
 
   store.readOnly = true;
   EXPECT_FALSE(actions.Rename(u"Bureau 🎂", u"Travail"));
   ExpectSaid("n'a pas été renommé");
   EXPECT_EQ(InUse(), "Bureau 🎂 /user/Bureau 🎂.xml Bureau 🎂 unsaved");
-  EXPECT_EQ(OnDisk(), "Bureau 🎂=work maison=next ");
+  EXPECT_EQ(OnDisk(), "Bureau 🎂=work maison=next maison.bak= ");
   store.readOnly = false;
+  store.isUnsure = true;
+  EXPECT_FALSE(actions.Rename(u"Bureau 🎂", u"Travail"));
+  EXPECT_EQ(InUse(), "Bureau 🎂 /user/Bureau 🎂.xml Travail unsaved");
+  EXPECT_EQ(OnDisk(), "Bureau 🎂=work maison=next maison.bak= Travail=work ") << "the key's calendar is there";
+  store.readOnly = store.isUnsure = false;
+  calendars.Delete(u"Travail");
   files.files.erase(u"/user/Bureau 🎂.xml");
   EXPECT_TRUE(actions.Rename(u"Bureau 🎂", u"Travail")) << "without a file it is saved first";
-  EXPECT_EQ(OnDisk(), "maison=next Travail=unsaved ");
+  EXPECT_EQ(OnDisk(), "maison=next maison.bak= Travail=unsaved ");
   files.failingWrites = {u"/user/Neuf.xml"};
   EXPECT_FALSE(actions.Rename(u"Travail", u"Neuf"));
 }
@@ -122,11 +128,13 @@ TEST_F(CalendarsTest, ACalendarGoesToTheTrashWithItsVersionsAfterAQuestion) {
   ExpectSaid("Ses versions précédentes y vont avec lui");
   EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
   messages.answers = {0};
+  for (const char16_t* backup : {u"/user/Travail.xml.bak", u"/user/Travail.xml.bak.1"}) files.Put(backup, "");
   EXPECT_TRUE(actions.Delete(u"Travail"));
-  EXPECT_EQ(files.trash.size(), 2u);
+  EXPECT_EQ(files.trash.size(), 4u) << "the calendar, its version and its backups";
+  EXPECT_EQ(files.files.size(), 1u) << "the other calendar";
   EXPECT_EQ(Versions(u"Travail"), "");
   for (const auto& [path, file] : files.trash) files.files[path] = file;  // a file manager puts them back
-  EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
+  EXPECT_EQ(OnDisk(), "Maison=mine Travail=work Travail.bak= ");
   EXPECT_EQ(Versions(u"Travail"), "older ");
   files.trashFails = true;
   messages.answers = {0};

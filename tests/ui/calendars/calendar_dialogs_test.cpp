@@ -1,14 +1,4 @@
-#include <QApplication>
-#include <QCheckBox>
 #include <QInputMethodEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-#include <QTreeWidget>
 
 #include "tests/ui/calendars/calendars_fixture.h"
 #include "ui/calendars/choose_calendar_dlg.h"
@@ -26,9 +16,7 @@ class CalendarDialogsTest : public CalendarsTest {
   void Open(CalendarTask task = CalendarTask::kOpen) {
     dialog = std::make_unique<CChooseCalendarDlg>(SavePlaces{store, calendars}, task);
     QObject::connect(dialog.get(), &CChooseCalendarDlg::calendarChanged, [this] { ++changes; });
-    dialog->show();
-    dialog->activateWindow();
-    QApplication::processEvents();
+    Activate(*dialog);
   }
   template <class Widget>
   Widget* Part(const char* name) {
@@ -97,10 +85,7 @@ TEST_F(CalendarDialogsTest, EnterOpensTheSelectedOneAndEscapeLeavesAll) {
 }
 
 TEST_F(CalendarDialogsTest, ANewNameIsJudgedAtItsField) {
-  const struct {
-    QString name;
-    const char* fault;
-  } kRows[] = {
+  const std::pair<QString, const char*> kRows[] = {
       {u""_s, "Donnez un nom"},
       {u"  \u00A0 "_s, "Donnez un nom"},
       {u"a\u200Fb"_s, "invisible"},
@@ -112,12 +97,12 @@ TEST_F(CalendarDialogsTest, ANewNameIsJudgedAtItsField) {
   };
   Open(CalendarTask::kCreate);
   EXPECT_TRUE(Part<QLineEdit>("name")->hasFocus());
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(qPrintable(row.name));
-    Type(row.name);
+  for (const auto& [name, fault] : kRows) {
+    SCOPED_TRACE(qPrintable(name));
+    Type(name);
     Key(Qt::Key_Return);
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_TRUE(Fault().contains(QString::fromUtf8(row.fault))) << qPrintable(Fault());
+    EXPECT_TRUE(Fault().contains(QString::fromUtf8(fault))) << qPrintable(Fault());
     EXPECT_EQ(Part<QLineEdit>("name")->accessibleDescription(), Fault());
   }
   EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
@@ -152,15 +137,12 @@ TEST_F(CalendarDialogsTest, AfterADeletionTheNeighbourIsSelected) {
 
 TEST_F(CalendarDialogsTest, TheCalendarInUseIsRenamed) {
   Open();
-  QTimer::singleShot(0, [] {
-    auto* const rename = qobject_cast<CRenameCalendarDlg*>(QApplication::activeModalWidget());
-    auto* const field = rename->findChild<QLineEdit*>();
-    field->setText(u"travail"_s);
-    rename->accept();
-    EXPECT_TRUE(rename->isVisible()) << "the name is taken";
-    field->setText(u"MAISON"_s);
-    rename->accept();
-    if (rename->isVisible()) rename->reject();
+  InDialog<CRenameCalendarDlg>([](CRenameCalendarDlg& rename) {
+    rename.findChild<QLineEdit*>()->setText(u"travail"_s);
+    rename.accept();
+    EXPECT_TRUE(rename.isVisible()) << "the name is taken";
+    rename.findChild<QLineEdit*>()->setText(u"MAISON"_s);
+    rename.accept();
   });
   QTest::keyClick(&List(), Qt::Key_F2);
   EXPECT_EQ(InUse(), "MAISON /user/MAISON.xml MAISON mine");
@@ -169,16 +151,14 @@ TEST_F(CalendarDialogsTest, TheCalendarInUseIsRenamed) {
 }
 
 TEST_F(CalendarDialogsTest, VersionsAreListedComparedAndRestored) {
-  CalendarFile older = CalendarWith(u"<b>Anniversaire</b>");
-  older.content.dayEvents[0].isPublic = false;
-  older.content.vacations.push_back({20260704, 20260831, NameText(u"Été")});
+  CalendarFile older;
+  older.content = {{EveryYear(1, 1, u"<b>Anniversaire</b>", false)}, {Period(20260704, 20260831, u"Été")}};
   older.look.fontWeight = 700;
   calendars.KeepVersion(u"Maison", older);
   Open();
-  QTimer::singleShot(0, [&] {
-    auto* const versions = qobject_cast<CVersionsDlg*>(QApplication::activeModalWidget());
-    const auto text = [&] { return versions->findChild<QPlainTextEdit*>()->toPlainText(); };
-    auto* const list = versions->findChild<QTreeWidget*>();
+  InDialog<CVersionsDlg>([](CVersionsDlg& versions) {
+    const auto text = [&] { return versions.findChild<QPlainTextEdit*>()->toPlainText(); };
+    auto* const list = versions.findChild<QTreeWidget*>();
     ASSERT_EQ(list->topLevelItemCount(), 1);
     EXPECT_EQ(list->topLevelItem(0)->text(0), u"Mercredi 13 mai 2026, 12 h 00"_s);
     EXPECT_EQ(list->topLevelItem(0)->text(1), u"aucun jour férié, 1 événement, 1 période"_s);
@@ -187,11 +167,10 @@ TEST_F(CalendarDialogsTest, VersionsAreListedComparedAndRestored) {
               u"Revient : vacances « Été », du 4 juillet au 31 août 2026\n"
               u"Disparaît : jour férié « mine », le 1er janvier\n"
               u"L'apparence change : couleurs, police ou image."_s);
-    versions->findChild<QPushButton*>(u"restore"_s)->click();
+    versions.findChild<QPushButton*>(u"restore"_s)->click();
     EXPECT_EQ(list->topLevelItemCount(), 2) << "what was replaced can be restored in turn";
     list->setCurrentItem(list->topLevelItem(1));
     EXPECT_EQ(text(), u"Aucune différence avec le calendrier actuel."_s);
-    versions->reject();
   });
   Press("versions");
   EXPECT_EQ(Content(), older.content);
@@ -200,23 +179,19 @@ TEST_F(CalendarDialogsTest, VersionsAreListedComparedAndRestored) {
 
   Put(u"Maison", u"theirs");
   messages.answers = {0};  // both are kept
-  QTimer::singleShot(0, [] {
-    QWidget* const versions = QApplication::activeModalWidget();
-    versions->findChild<QPushButton*>(u"restore"_s)->click();
-    EXPECT_EQ(versions->findChild<QLabel*>(u"heading"_s)->text(),
+  InDialog<CVersionsDlg>([](CVersionsDlg& versions) {
+    versions.findChild<QPushButton*>(u"restore"_s)->click();
+    EXPECT_EQ(versions.findChild<QLabel*>(u"heading"_s)->text(),
               u"&Versions précédentes de « Maison (2) » :"_s);
-    versions->close();
   });
   Press("versions");
   EXPECT_EQ(OnDisk(), "Maison=theirs Maison (2)=mine Travail=work ");
   EXPECT_EQ(List().currentItem()->text(), u"Maison (2)"_s);
 
   Select(u"Travail"_s);
-  QTimer::singleShot(0, [] {
-    QWidget* const versions = QApplication::activeModalWidget();
-    EXPECT_TRUE(versions->findChild<QPlainTextEdit*>()->toPlainText().startsWith(u"Aucune version"_s));
-    EXPECT_FALSE(versions->findChild<QPushButton*>(u"restore"_s)->isEnabled());
-    versions->close();
+  InDialog<CVersionsDlg>([](CVersionsDlg& versions) {
+    EXPECT_TRUE(versions.findChild<QPlainTextEdit*>()->toPlainText().startsWith(u"Aucune version"_s));
+    EXPECT_FALSE(versions.findChild<QPushButton*>(u"restore"_s)->isEnabled());
   });
   Press("versions");
 }

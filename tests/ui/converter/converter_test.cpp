@@ -1,19 +1,11 @@
 // The converter pane, through its controls.
 
 #include <QAccessible>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
-#include <QToolButton>
 
 #include <algorithm>
 
-#include "tests/content/rule_builder.h"
 #include "tests/ui/shell/frame_fixture.h"
 
 namespace orbisol {
@@ -68,9 +60,7 @@ TEST_F(ConverterTest, TheSelectedDateIsShownInTheOtherCalendars) {
 
 TEST_F(ConverterTest, WhatTheMonthBringsIsListedAndLeadsToItsDay) {
   frame->resize(1280, 720);
-  Content().dayEvents = {
-      Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire & <b>"}),
-      Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 20, .name = u"Anniversaire"})};
+  Content().dayEvents = {EveryYear(5, 8, u"Victoire & <b>"), EveryYear(5, 20, u"Anniversaire", false)};
   Dialog().SettingsChanged();
   Settle();
   auto* const list = Named<QListWidget>("Ce mois-ci");

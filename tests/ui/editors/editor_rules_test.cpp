@@ -4,7 +4,6 @@
 
 #include "content/day_rules.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 #include "ui/editors/event_fields.h"
 #include "ui/editors/period_fields.h"
 
@@ -51,11 +50,7 @@ TEST(EventFieldsTest, EveryRefusalIsSaidAtItsField) {
     change(fields);
     return fields;
   };
-  const struct {
-    EventFields fields;
-    std::optional<EventField> field;
-    const char* words;
-  } kRows[] = {
+  const std::tuple<EventFields, std::optional<EventField>, const char*> kRows[] = {
       {good, {}, ""},
       {with([](auto& f) { f.name = u""; }), kName, "Donnez un intitulé"},
       {with([](auto& f) { f.name = u" \t\u200B\u00A0\u202E"; }), kName, "Donnez un intitulé"},
@@ -71,10 +66,10 @@ TEST(EventFieldsTest, EveryRefusalIsSaidAtItsField) {
       {with([](auto& f) { f.since = -440301, f.until = -440315; }), {}, ""},
       {with([](auto& f) { f.since = -440315, f.until = -440301; }), kUntil, "La fin précède le début."},
   };
-  for (const auto& row : kRows) {
-    const auto [field, reason] = FirstRefusal<EventField>(row.fields);
-    EXPECT_NE(reason.find(row.words), std::string::npos) << row.words << " in " << reason;
-    EXPECT_EQ(field, row.field) << row.words;
+  for (const auto& [typed, refused, words] : kRows) {
+    const auto [field, reason] = FirstRefusal<EventField>(typed);
+    EXPECT_NE(reason.find(words), std::string::npos) << words << " in " << reason;
+    EXPECT_EQ(field, refused) << words;
   }
   const EventFields all{.name = u"", .month = 4, .day = 31, .since = 20240501, .until = 20240430};
   std::vector<EventField> fields;
@@ -137,11 +132,7 @@ TEST(EventFieldsTest, ADayFillsInTheFieldsOfEveryKind) {
 
 TEST(PeriodFieldsTest, EveryRefusalIsSaidAtItsField) {
   using enum PeriodField;
-  const struct {
-    PeriodFields fields;
-    std::optional<PeriodField> field;
-    const char* words;
-  } kRows[] = {
+  const std::tuple<PeriodFields, std::optional<PeriodField>, const char*> kRows[] = {
       {{u"", 20240706, 20240901}, {}, ""},
       {{u"", 0, 20240901}, kFrom, "Entrez une date."},
       {{u"", 20240706, 0}, kTo, "Entrez une date."},
@@ -154,14 +145,14 @@ TEST(PeriodFieldsTest, EveryRefusalIsSaidAtItsField) {
       {{u"", -451230, -440101}, kTo, "un seul jour en -44"},
       {{u"", -451230, 240102}, {}, ""},
   };
-  for (const auto& row : kRows) {
-    const auto [field, reason] = FirstRefusal<PeriodField>(row.fields);
-    EXPECT_NE(reason.find(row.words), std::string::npos) << row.words << " in " << reason;
-    ASSERT_EQ(field, row.field) << row.words;
+  for (const auto& [typed, refused, words] : kRows) {
+    const auto [field, reason] = FirstRefusal<PeriodField>(typed);
+    EXPECT_NE(reason.find(words), std::string::npos) << words << " in " << reason;
+    ASSERT_EQ(field, refused) << words;
     if (field) continue;
-    const PeriodRow made = RowOf(row.fields);
+    const PeriodRow made = RowOf(typed);
     for (const HolidayPeriod& period : RecordsOf(made)) EXPECT_TRUE(IsAcceptablePeriod(period));
-    EXPECT_EQ(FieldsOf(RowsOf<HolidayPeriod>(RecordsOf(made))[0]), row.fields);
+    EXPECT_EQ(FieldsOf(RowsOf<HolidayPeriod>(RecordsOf(made))[0]), typed);
   }
   // On 29 February 1300 the civil year that begins in March decides that the month has 28 days.
   const ScopedRules inForce(RulesWith(kRomanReform, {.rows = {{5000325, false}}}));
@@ -169,17 +160,12 @@ TEST(PeriodFieldsTest, EveryRefusalIsSaidAtItsField) {
 }
 
 TEST(PeriodFieldsTest, PeriodsThatShareADayAreFound) {
-  std::vector<PeriodRow> rows;
-  const auto add = [&](PackedDate from, PackedDate to) {
-    rows.push_back(RowOf(PeriodFields{u"", from, to}));
+  constexpr std::pair<PackedDate, PackedDate> kPeriods[] = {
+      {20240801, 20240810}, {20240701, 20240831}, {20240831, 20240902}, {20240903, 20240904},
+      {20240706, 20240707}, {-451220, -440105},   {-440105, -440110},
   };
-  add(20240801, 20240810);
-  add(20240701, 20240831);
-  add(20240831, 20240902);
-  add(20240903, 20240904);
-  add(20240706, 20240707);
-  add(-451220, -440105);
-  add(-440105, -440110);
+  std::vector<PeriodRow> rows;
+  for (const auto& [from, to] : kPeriods) rows.push_back(RowOf(PeriodFields{u"", from, to}));
   EXPECT_EQ(OverlapsOf(rows), (std::vector<std::size_t>{1, 4, 1, kNoOverlap, 1, 6, 5}));
 }
 

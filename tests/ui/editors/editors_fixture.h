@@ -1,24 +1,7 @@
-// The editors as a user has them: keys are typed, the calendar is saved, read back from the disk and looked
-// at in the month.
+// The editors as a user has them: what is typed and saved is read back and looked at in the month.
 #pragma once
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-
-#include <memory>
-
-#include "content/month_model.h"
-#include "content/selected_date.h"
-#include "settings/display_settings.h"
-#include "tests/support/calendar_builder.h"
-#include "tests/support/dialog_test.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/memory_store.h"
+#include "tests/support/calendar_folder_test.h"
 #include "ui/editors/events_dialog.h"
 #include "ui/editors/row_list.h"
 #include "ui/editors/vacations_dialog.h"
@@ -26,15 +9,9 @@
 
 namespace orbisol {
 
-class EditorTest : public DialogTest {
+class EditorTest : public CalendarFolderTest {
  protected:
-  EditorTest() : DialogTest({2024, 5, 15}) {
-    Display() = DisplaySettings();
-    Content() = {};
-    CalendarFile file;
-    EXPECT_EQ(calendars.Save(u"Calendar", file, IfChanged::kRefuse).result, WriteResult::kWritten);
-  }
-  ~EditorTest() override { Content() = {}; }
+  EditorTest() { calendars.Save(u"Calendar", {}, IfChanged::kRefuse); }
 
   CEventsDialog& OpenEvents(PackedDate day = 0) {
     return Open(std::make_unique<CEventsDialog>(services, Content(), day, 2024));
@@ -65,37 +42,15 @@ class EditorTest : public DialogTest {
   int Rows() { return Part<CRowList>("list").model()->rowCount(); }
   void Save() { Part<QDialogButtonBox>("buttons").button(QDialogButtonBox::Save)->click(); }
 
-  CalendarContent OnDisk() {
-    CalendarFile file;
-    CCalendarStore fresh(files, kMemoryFolders);
-    EXPECT_EQ(fresh.Load(u"Calendar", file), LoadResult::kLoaded);
-    return file.content;
-  }
-  // The first event of each calendar: "Calendar=theirs Calendar (2)=mine ".
-  std::string NamesOnDisk() {
-    std::string all;
-    for (const std::u16string& name : calendars.Names()) {
-      const CalendarContent content = ReadCalendar(*calendars.BytesOf(name)).content;
-      all += ToUtf8(name) + "=" +
-             (content.dayEvents.empty() ? "" : ToUtf8(content.dayEvents[0].name.View())) + " ";
-    }
-    return all;
-  }
-  // The days of a month that carry a mark, as the month shows them.
+  CalendarContent Saved() const { return ContentOf(u"Calendar"); }
+  // Returns the days of a month that carry a mark, as the month shows them.
   static std::vector<int> Marked(int year, int month, unsigned mark) {
-    MonthModel model;
-    model.year = year;
-    model.month = month;
-    model.Build(Content(), {}, MonthModel::kWithoutMoon);
     std::vector<int> days;
-    for (const DayCell& cell : model.cells)
+    for (const DayCell& cell : BuiltMonth(year, month, Content()).cells)
       if (cell.day != 0 && cell.month == month && (cell.marks & mark) != 0) days.push_back(cell.day);
     return days;
   }
 
-  CMemoryFiles files;
-  CCalendarStore calendars{files, kMemoryFolders};
-  CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
   EditorServices services{{store, calendars}, {}};
   std::unique_ptr<QDialog> dialog;
 
@@ -104,9 +59,7 @@ class EditorTest : public DialogTest {
   Dialog& Open(std::unique_ptr<Dialog> made) {
     Dialog& opened = *made;
     dialog = std::move(made);
-    dialog->show();
-    dialog->activateWindow();
-    QApplication::processEvents();
+    Activate(*dialog);
     return opened;
   }
 };

@@ -1,11 +1,5 @@
 // Events and periods are typed, listed and changed.
 
-#include <QCheckBox>
-#include <QSpinBox>
-#include <QToolButton>
-
-#include <utility>
-
 #include "tests/ui/editors/editors_fixture.h"
 
 namespace orbisol {
@@ -13,60 +7,32 @@ namespace {
 
 TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {
   const struct {
-    const char* what;
-    std::vector<std::pair<const char*, QString>> typed;
+    const char* typed;  // field=text
     DayEvent rule;
-    int year, month;
-    std::vector<int> days;
+    PackedDate day;  // the only one of its month
   } kRows[] = {
-      {"fixed date",
-       {{"day", "14"}, {"month", "juil"}},
-       Rule(kFixedDate, {.month = 7, .day = 14}),
-       2024,
-       7,
-       {14}},
-      {"Roman Easter", {{"distance", "39"}}, Rule(kRomanEaster, {.day = 39}), 2024, 5, {9}},
-      {"Orthodox Easter", {{"distance", "-2"}}, Rule(kOrthodoxEaster, {.day = -2}), 2024, 5, {3}},
-      {"n-th weekday",
-       {{"ordinal", "q"}, {"weekday", "jeu"}, {"month", "nov"}, {"since", "01/01/1941"}},
-       Rule(kNthWeekday, {.month = 11, .weekday = 4, .weeknum = 4, .from = 19410101}),
-       2024,
-       11,
-       {28}},
-      {"before a date",
-       {{"weekday", "mer"}, {"day", "22"}, {"month", "nov"}},
-       Rule(kWeekdayBefore, {.month = 11, .day = 22, .weekday = 3, .weeknum = 1}),
-       2024,
-       11,
-       {20}},
-      {"after a date",
-       {{"weekday", "sam"}, {"day", "20"}, {"month", "juin"}, {"until", "31/12/2030"}},
-       Rule(kWeekdayAfter, {.month = 6, .day = 20, .weekday = 6, .weeknum = 1, .to = 20301231}),
-       2024,
-       6,
-       {22}},
-      {"bank holiday",
-       {{"day", "25"}, {"month", "d"}},
-       Rule(kBankHoliday, {.month = 12, .day = 25}),
-       2021,
-       12,
-       {27}},
-      {"except Sunday",
-       {{"day", "1"}, {"month", "jan"}},
-       Rule(kExceptSunday, {.month = 1, .day = 1}),
-       2023,
-       1,
-       {2}},
+      {"day=14 month=juil", Rule(kFixedDate, {.month = 7, .day = 14}), 20240714},
+      {"distance=39", Rule(kRomanEaster, {.day = 39}), 20240509},
+      {"distance=-2", Rule(kOrthodoxEaster, {.day = -2}), 20240503},
+      {"ordinal=q weekday=jeu month=nov since=01/01/1941",
+       Rule(kNthWeekday, {.month = 11, .weekday = 4, .weeknum = 4, .from = 19410101}), 20241128},
+      {"weekday=mer day=22 month=nov",
+       Rule(kWeekdayBefore, {.month = 11, .day = 22, .weekday = 3, .weeknum = 1}), 20241120},
+      {"weekday=sam day=20 month=juin until=31/12/2030",
+       Rule(kWeekdayAfter, {.month = 6, .day = 20, .weekday = 6, .weeknum = 1, .to = 20301231}), 20240622},
+      {"day=25 month=d", Rule(kBankHoliday, {.month = 12, .day = 25}), 20211227},
+      {"day=1 month=jan", Rule(kExceptSunday, {.month = 1, .day = 1}), 20230102},
   };
   for (const bool isPublic : {false, true}) {
     for (const auto& row : kRows) {
-      SCOPED_TRACE(row.what);
+      SCOPED_TRACE(row.typed);
       Content() = {};
       OpenEvents();
       Type("name", QStringLiteral("x"));
       Type("type", {});
       for (int kind = 0; kind < static_cast<int>(row.rule.type); ++kind) Press(Qt::Key_Down);
-      for (const auto& [field, text] : row.typed) Type(field, text);
+      for (const QString& entry : QString::fromUtf8(row.typed).split(u' '))
+        Type(qPrintable(entry.section(u'=', 0, 0)), entry.section(u'=', 1));
       if (isPublic) {
         Type("isPublic", QStringLiteral(" "));
         Type("name", QStringLiteral("x"));
@@ -78,9 +44,10 @@ TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {
       EXPECT_EQ(dialog->result(), QDialog::Accepted) << "Enter again saves";
       DayEvent rule = row.rule;
       rule.isPublic = isPublic;
-      EXPECT_EQ(OnDisk().dayEvents, std::vector{rule});
-      EXPECT_EQ(Content(), OnDisk());
-      EXPECT_EQ(Marked(row.year, row.month, isPublic ? kHolidayMark : kEventMark), row.days);
+      EXPECT_EQ(Saved().dayEvents, std::vector{rule});
+      EXPECT_EQ(Content(), Saved());
+      const auto [year, month, day] = Unpack(row.day);
+      EXPECT_EQ(Marked(year, month, isPublic ? kHolidayMark : kEventMark), std::vector{day});
     }
   }
 }
@@ -124,15 +91,14 @@ TEST_F(EditorTest, APeriodThatWasDrawnIsTitledSavedAndSeen) {
   EXPECT_TRUE(Part<QLabel>("length").text().contains(QStringLiteral("Chevauche « Mer »")));
   Save();  // takes over what was typed
   EXPECT_EQ(dialog->result(), QDialog::Accepted);
-  EXPECT_EQ(OnDisk().vacations,
-            (std::vector{Period(20240706, 20240709, u"Mer"), Period(20240708, 20240710)}));
+  EXPECT_EQ(Saved().vacations, (std::vector{Period(20240706, 20240709, u"Mer"), Period(20240708, 20240710)}));
   EXPECT_EQ(Marked(2024, 7, kVacationMark), (std::vector{6, 7, 8, 9, 10}));
 
   OpenVacations(-451220, -440110);  // over the end of a year before the era
   EXPECT_TRUE(
       Part<CRowList>("list").model()->index(0, 4).data().toString().contains(QStringLiteral("chevauche")));
   Save();
-  EXPECT_EQ(OnDisk().vacations.size(), 4U);
+  EXPECT_EQ(Saved().vacations.size(), 4U);
   OpenVacations();
   EXPECT_EQ(Rows(), 3) << "its two records are one row";
   static_cast<CVacationsDialog&>(*dialog).SelectRow(2);
@@ -144,7 +110,7 @@ TEST_F(EditorTest, APeriodThatWasDrawnIsTitledSavedAndSeen) {
 
 TEST_F(EditorTest, StepsAreTakenBackAndMadeAgain) {
   for (const char16_t* const name : {u"un", u"deux", u"trois"})
-    Content().dayEvents.push_back(Rule(kFixedDate, {.month = 5, .day = 14, .name = name}));
+    Content().dayEvents.push_back(EveryYear(5, 14, name));
   CEventsDialog& events = OpenEvents();
   const auto names = [&] {
     QStringList all;
@@ -189,13 +155,13 @@ TEST_F(EditorTest, StepsAreTakenBackAndMadeAgain) {
   messages.answers = {1};
   dialog->reject();
   EXPECT_FALSE(dialog->isVisible()) << "and given up at the user's wish";
-  EXPECT_TRUE(OnDisk().dayEvents.empty());
+  EXPECT_TRUE(Saved().dayEvents.empty());
 }
 
 TEST_F(EditorTest, TheListIsFilteredAndSortedAndItsOrderStays) {
-  Content().dayEvents = {Rule(kFixedDate, {.month = 12, .day = 25, .name = u"Noël"}),
+  Content().dayEvents = {EveryYear(12, 25, u"Noël"),
                          Rule(kRomanEaster, {.isPublic = false, .day = 0, .name = u"Œufs"}),
-                         Rule(kFixedDate, {.month = 1, .day = 6, .name = u"épiphanie"})};
+                         EveryYear(1, 6, u"épiphanie")};
   const CalendarContent before = Content();
   OpenEvents();
   CRowList& list = Part<CRowList>("list");
@@ -227,7 +193,7 @@ TEST_F(EditorTest, TheListIsFilteredAndSortedAndItsOrderStays) {
   Save();
   CalendarContent expected = before;
   expected.dayEvents[1].day = 1;
-  EXPECT_EQ(OnDisk(), expected);
+  EXPECT_EQ(Saved(), expected);
 
   OpenEvents();
   Part<QLineEdit>("filter").setText(QStringLiteral("noel"));
@@ -242,21 +208,18 @@ TEST_F(EditorTest, TheListIsFilteredAndSortedAndItsOrderStays) {
 
 TEST_F(EditorTest, ImportedHolidaysAreOneStep) {
   services.importHolidays = [](QWidget* /*parent*/, CalendarContent& content) {
-    content.dayEvents = {Rule(kFixedDate, {.month = 1, .day = 1, .name = u"imported"})};
-    content.vacations = {Period(20240706, 20240709)};
+    content = {{EveryYear(1, 1, u"imported")}, {Period(20240706, 20240709)}};
     return true;
   };
-  Content().dayEvents = {Rule(kFixedDate, {.month = 5, .day = 1, .name = u"mine"}),
-                         Rule(kFixedDate, {.month = 5, .day = 2})};
-  const CalendarContent before = Content();
+  Content().dayEvents = {EveryYear(5, 1, u"mine"), EveryYear(5, 2, u"mine too")};
   for (const bool takesBack : {true, false}) {
     OpenEvents();
     Part<QPushButton>("importHolidays").click();
     EXPECT_EQ(Rows(), 1);
     if (takesBack) Part<QToolButton>("undo").click();
     Save();
-    EXPECT_EQ(OnDisk().dayEvents.size(), takesBack ? 2U : 1U);
-    EXPECT_EQ(OnDisk().vacations.size(), takesBack ? 0U : 1U);
+    EXPECT_EQ(Saved().dayEvents.size(), takesBack ? 2U : 1U);
+    EXPECT_EQ(Saved().vacations.size(), takesBack ? 0U : 1U);
   }
 }
 

@@ -1,12 +1,4 @@
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QTest>
-#include <QTimer>
-#include <QTreeWidget>
-
-#include "tests/support/calendar_builder.h"
+#include "files/calendar_file.h"
 #include "tests/support/dialog_test.h"
 #include "tests/support/memory_files.h"
 #include "ui/editors/import_holidays_dlg.h"
@@ -16,22 +8,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-DayEvent Yearly(int month, int day, std::u16string_view name, bool isPublic = true) {
-  return Rule(kFixedDate, {.isPublic = isPublic, .month = month, .day = day, .name = name});
-}
-
 class ImportHolidaysTest : public DialogTest {
  protected:
-  ImportHolidaysTest() : DialogTest({2026, 5, 13}) {
-    Put(u"/share/Legals/France.xml", {Yearly(7, 14, u"Fête nationale"), Yearly(1, 1, u"Jour de l'an")},
+  ImportHolidaysTest() : DialogTest(20260513) {
+    Put(u"/share/Legals/France.xml", {EveryYear(7, 14, u"Fête nationale"), EveryYear(1, 1, u"Jour de l'an")},
         u"expédié");
-    Put(u"/user/Legals/France.xml", {Yearly(7, 14, u"<b>Fête</b>"), Yearly(1, 1, u"Jour de l'an")},
+    Put(u"/user/Legals/France.xml", {EveryYear(7, 14, u"<b>Fête</b>"), EveryYear(1, 1, u"Jour de l'an")},
         u"<i>le mien</i>");
-    Put(u"/share/Legals/États-Unis.xml", {Yearly(7, 4, u"Independence Day")}, u"");
-    Put(u"/share/Legals/Zambie.xml", {Yearly(10, 24, u"Independence Day")}, u"");
-    mine.dayEvents = {Yearly(7, 14, u"Ancienne fête"), Yearly(3, 3, u"Anniversaire", false),
-                      Yearly(1, 1, u"Jour de l'an")};
-    mine.vacations.push_back({20260704, 20260831, NameText(u"Été")});
+    Put(u"/share/Legals/États-Unis.xml", {EveryYear(7, 4, u"Independence Day")}, u"");
+    Put(u"/share/Legals/Zambie.xml", {EveryYear(10, 24, u"Independence Day")}, u"");
+    mine = {{EveryYear(7, 14, u"Ancienne fête"), EveryYear(3, 3, u"Anniversaire", false),
+             EveryYear(1, 1, u"Jour de l'an")},
+            {Period(20260704, 20260831, u"Été")}};
   }
 
   void Put(const std::u16string& path, std::vector<DayEvent> rules, std::u16string_view info) {
@@ -43,11 +31,7 @@ class ImportHolidaysTest : public DialogTest {
 
   // Opens the dialog and leaves the rest to `act`.
   bool Import(const std::function<void(CEvtImportDlg&)>& act) {
-    QTimer::singleShot(0, [&] {
-      auto* const dialog = qobject_cast<CEvtImportDlg*>(QApplication::activeModalWidget());
-      act(*dialog);
-      if (dialog->isVisible()) dialog->reject();
-    });
+    InDialog<CEvtImportDlg>(act);
     return ImportHolidaysInto(nullptr, {files, kMemoryFolders}, mine);
   }
   static QString Shown(const CEvtImportDlg& dialog) {
@@ -111,7 +95,7 @@ TEST_F(ImportHolidaysTest, ManyPersonalEventsAreAskedForFirst) {
   for (const int count : {100, 101}) {
     std::vector<DayEvent> rules;
     for (int i = 0; i < count; ++i)
-      rules.push_back(Yearly(1 + i % 12, 1 + i / 12, u"n° " + DecimalText(i), false));
+      rules.push_back(EveryYear(1 + i % 12, 1 + i / 12, u"n° " + DecimalText(i), false));
     Put(u"/user/Legals/Beaucoup.xml", rules, u"");
     const auto choose = [](CEvtImportDlg& dialog) {
       QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"beau"_s);

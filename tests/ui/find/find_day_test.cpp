@@ -1,50 +1,29 @@
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
-#include <gtest/gtest.h>
-
-#include "core/date_range.h"
-#include "tests/support/fakes.h"
-#include "tests/support/rules.h"
-#include "tests/support/spy_messages.h"
+#include "tests/support/dialog_test.h"
 #include "ui/find/find_day_dialog.h"
-#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
 
-DayEvent EveryYear(int month, int day, std::u16string_view name) {
-  DayEvent rule;
-  rule.isPublic = true;
-  rule.month = month;
-  rule.day = day;
-  rule.ymdFrom = kAlwaysFrom;
-  rule.ymdTo = kAlwaysTo;
-  rule.name.Set(name);
-  return rule;
-}
-
-class FindDayTest : public testing::Test {
+class FindDayTest : public DialogTest {
  protected:
   void Open(const CalendarContent& content) {
     dialog.Open(content, 20240515);
-    QApplication::processEvents();
+    Settle();
+  }
+  void Finish() {
+    while (dialog.IsSearching()) Settle();
   }
   void Type(const QString& text) {
     field->setText(text);
-    while (dialog.IsSearching()) QApplication::processEvents();
+    Finish();
   }
   QString Line(int row) const { return list->model()->index(row, 0).data().toString(); }
   int Count() const { return list->model()->rowCount(); }
 
-  const ScopedRules rules{CalendarRules{}};
-  const ScopedPlatform pinned{FakeLocale(), FakeClock({2024, 5, 15})};
   CFindDayDialog dialog;
   QLineEdit* field = dialog.findChild<QLineEdit*>();
   QListView* list = dialog.findChild<QListView*>();
@@ -54,10 +33,8 @@ class FindDayTest : public testing::Test {
 };
 
 TEST_F(FindDayTest, TheListGoesFromYearToYearAndStandsAtTheSelectedDate) {
-  CalendarContent content;
-  content.dayEvents = {EveryYear(5, 1, u"Fête du Travail"), EveryYear(7, 14, u"Fête nationale")};
-  content.vacations = {{20240706, 20240709, NameText(u"Fêtes")}};
-  Open(content);
+  Open({{EveryYear(5, 1, u"Fête du Travail"), EveryYear(7, 14, u"Fête nationale")},
+        {Period(20240706, 20240709, u"Fêtes")}});
   Type(QString::fromUtf8("fete"));
   EXPECT_EQ(Count(), 2 * (kLastYearShown - kFirstYearShown + 1) + 1);
   EXPECT_EQ(message->text(), QString::fromUtf8("15 999 résultats."));
@@ -80,7 +57,7 @@ TEST_F(FindDayTest, ASearchNeverHoldsTheWindowAndCanBeStopped) {
   Open(content);
   field->setText(QStringLiteral("f"));
   ASSERT_TRUE(dialog.IsSearching());
-  QApplication::processEvents();
+  Settle();
   EXPECT_TRUE(stop->isVisible());
   EXPECT_TRUE(dialog.findChild<QProgressBar*>()->isVisible());
   ASSERT_TRUE(dialog.IsSearching()) << "the first slice is not the whole search";
@@ -90,8 +67,6 @@ TEST_F(FindDayTest, ASearchNeverHoldsTheWindowAndCanBeStopped) {
   EXPECT_TRUE(message->text().startsWith(QString::fromUtf8("Recherche arrêtée")));
   Type(QStringLiteral("fe"));
   EXPECT_GE(Count(), kMostHits);
-  SpyMessages messages;
-  const ScopedMessages scope(messages);
   QTest::keyClick(&dialog, Qt::Key_F3);
   EXPECT_EQ(found.size(), 1);
   EXPECT_TRUE(message->text().contains(QStringLiteral("premiers")));
@@ -104,29 +79,23 @@ TEST_F(FindDayTest, ASearchNeverHoldsTheWindowAndCanBeStopped) {
 // Personal events that a public holiday hides in every year but the last one.
 TEST_F(FindDayTest, TheWayToAFarDayHoldsNoWindow) {
   CalendarContent content;
-  for (int i = 0; i < 200; ++i) content.dayEvents.push_back(EveryYear(1, 1, u"Fête"));
-  for (DayEvent& event : content.dayEvents) event.isPublic = false;
+  for (int i = 0; i < 200; ++i) content.dayEvents.push_back(EveryYear(1, 1, u"Fête", false));
   content.dayEvents.push_back(EveryYear(1, 1, u"Nouvel An"));
   content.dayEvents.back().ymdTo = 39981231;
   Open(content);
   field->setText(QStringLiteral("fête"));
-  SpyMessages messages;
-  const ScopedMessages scope(messages);
   dialog.hide();
-  const auto settle = [&] {
-    while (dialog.IsSearching()) QApplication::processEvents();
-  };
   dialog.FindNext();
   EXPECT_TRUE(dialog.IsSearching()) << "the first slice is not the whole way";
   EXPECT_TRUE(found.isEmpty());
-  settle();
+  Finish();
   ASSERT_EQ(found.size(), 1);
   EXPECT_EQ(found[0][0].toInt(), 39990101);
   dialog.FindNext();
   EXPECT_EQ(messages.beeps, 1);
   EXPECT_EQ(message->text(), QStringLiteral("Aucun autre jour ensuite."));
   dialog.FindPrevious();
-  settle();
+  Finish();
   EXPECT_EQ(message->text(), QStringLiteral("Aucun autre jour auparavant."));
   dialog.SetSelected(20240101);
   dialog.FindNext();
@@ -136,22 +105,18 @@ TEST_F(FindDayTest, TheWayToAFarDayHoldsNoWindow) {
 }
 
 TEST_F(FindDayTest, AnotherContentOrOtherRulesMakeTheListAnew) {
-  CalendarContent content;
-  content.dayEvents = {EveryYear(10, 10, u"Fête")};
+  CalendarContent content{{EveryYear(10, 10, u"Fête")}, {}};
   Open(content);
   Type(QStringLiteral("fête"));
   const int whole = Count();
-  const auto settle = [&] {
-    while (dialog.IsSearching()) QApplication::processEvents();
-  };
   content.dayEvents[0].day = 3;
   dialog.SetContent(content);
-  settle();
+  Finish();
   EXPECT_EQ(list->currentIndex().data().toString(), QStringLiteral("Jeudi 3 octobre 2024 : Fête"));
   content.dayEvents[0].day = 10;
   const ScopedRules other(RulesWith(15821115));  // 10 October 1582 is no longer dropped
   dialog.SetContent(content);
-  settle();
+  Finish();
   EXPECT_EQ(Count(), whole + 1);
 }
 

@@ -1,37 +1,19 @@
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-#include "tests/support/fakes.h"
-#include "tests/support/rules.h"
+#include "tests/support/dialog_test.h"
 #include "ui/find/go_to_date_dialog.h"
-#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
 
-class GoToDateTest : public testing::Test {
+class GoToDateTest : public DialogTest {
  protected:
-  void SetUp() override {
-    dialog.show();
-    dialog.activateWindow();
-    QApplication::processEvents();
-  }
+  GoToDateTest() { Activate(dialog); }
   void Type(const QString& text) {
     field->clear();
-    for (const QChar letter : text) {
-      if (letter.unicode() < 0x80) {
+    for (const QChar letter : text)
+      if (letter.unicode() < 0x80)
         QTest::keyClick(field, letter.toLatin1());
-      } else {
+      else
         field->insert(letter);  // no key of the test display has it
-      }
-    }
   }
   QStringList Lines() const {
     QStringList lines;
@@ -39,8 +21,6 @@ class GoToDateTest : public testing::Test {
     return lines;
   }
 
-  const ScopedRules rules{CalendarRules{}};
-  const ScopedPlatform pinned{FakeLocale(), FakeClock({2024, 5, 15})};
   CGoToDateDialog dialog{nullptr, 20240515};
   QLineEdit* field = dialog.findChild<QLineEdit*>();
   QListWidget* list = dialog.findChild<QListWidget*>();

@@ -4,30 +4,27 @@
 
 #include <QAccessible>
 #include <QHelpEvent>
-#include <QLineEdit>
 #include <QMenu>
-#include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include "tests/ui/month/month_fixture.h"
+#include "tests/support/dialog_test.h"
 #include "ui/header/year_edit.h"
 #include "ui/toolkit/colors.h"
+#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 namespace {
 
-class HeaderWndTest : public SelectedDateTest {
+class HeaderWndTest : public DialogTest {
  protected:
   HeaderWndTest() {
     QObject::connect(&header, &CHeaderWnd::dateChanged, &header, [this] { ++changes; });
     window.resize(600, 130);
     header.setGeometry(0, 0, 600, 62);
-    window.show();
-    window.activateWindow();
     other.setFocus();
     Show(20240229);
-    Settle();
+    Activate(window);
   }
 
   void Show(PackedDate date) {
@@ -43,6 +40,10 @@ class HeaderWndTest : public SelectedDateTest {
     return header.findChild<CYearEdit*>();
   }
   static QMenu* OpenMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+  void Hover(const QPointF& at) {
+    QMouseEvent event(QEvent::MouseMove, at, header.mapToGlobal(at), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&header, &event);
+  }
   std::string TipAt(QPoint point) {
     QToolTip::hideText();
     QHelpEvent event(QEvent::ToolTip, point, header.mapToGlobal(point));
@@ -171,9 +172,7 @@ TEST_F(HeaderWndTest, TheYearEditorGivesTheFocusBackUnlessItWasTaken) {
 
   OpenYear();
   QWidget another;
-  another.show();
-  another.activateWindow();
-  Settle();
+  Activate(another);
   EXPECT_FALSE(header.IsEditingYear());
   window.activateWindow();
   Settle();
@@ -222,8 +221,8 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
   const auto half = [](const Rect& band, bool isRight) {
     return QRect(isRight ? band.right / 2 : 0, band.top, band.right / 2, band.Height());
   };
-  Rect previous = places.previous;
-  Rect next = places.next;
+  const Rect& previous = places.previous;
+  const Rect& next = places.next;
   const auto inkIn = [&](const QRect& place) {
     int inked = 0;
     for (int y = place.top(); y <= place.bottom(); ++y)
@@ -241,8 +240,7 @@ TEST_F(HeaderWndTest, BandsArrowsAndTitleArePaintedAndAnswerToThePointer) {
   EXPECT_GT(inkIn({next.left, next.top, halfArrow, next.Height()}),
             inkIn({next.right - halfArrow, next.top, halfArrow, next.Height()}));
   const auto point = [&](QPoint at) {
-    QMouseEvent event(QEvent::MouseMove, at, header.mapToGlobal(at), Qt::NoButton, {}, {});
-    QApplication::sendEvent(&header, &event);
+    Hover(at);
     return header.grab().toImage();
   };
   for (const Rect& part : {previous, places.month, places.year, next})
@@ -272,8 +270,7 @@ TEST_F(HeaderWndTest, TipsAndCursorsFollowTheParts) {
                                       {QPointF(19.6, 40.6), true},
                                       {QPointF(ToQRect(places.year).center()), true},
                                       {QPointF(20, 30), false}}) {
-    QMouseEvent event(QEvent::MouseMove, point, header.mapToGlobal(point), Qt::NoButton, {}, {});
-    QApplication::sendEvent(&header, &event);
+    Hover(point);
     EXPECT_EQ(header.cursor().shape() == Qt::PointingHandCursor, isHand) << point.x();
   }
 }

@@ -1,55 +1,23 @@
-// The fixtures of the tests of the month's windows.
+// The fixture of the tests of the month's window.
 #pragma once
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
-
-#include "content/calendar_content.h"
-#include "content/selected_date.h"
-#include "settings/display_settings.h"
-#include "tests/content/rule_builder.h"
-#include "tests/support/fakes.h"
-#include "tests/support/rules.h"
+#include "tests/support/dialog_test.h"
 #include "ui/month/month_window.h"
 #include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 
-// French, on 15 May 2024, under the Roman reform, with the first settings and an empty calendar.
-class SelectedDateTest : public ::testing::Test {
- protected:
-  SelectedDateTest() : m_platform(FakeLocale(), FakeClock({2024, 5, 15})), m_rules(RulesWith(kRomanReform)) {
-    Display() = DisplaySettings();
-    Content() = CalendarContent();
-    Select(20240515);
-  }
-
-  static void Select(PackedDate date) { Selected().SetPacked(date); }
-  static PackedDate Now() { return Selected().Packed(); }
-  // Delivers what was posted and paints what was asked for.
-  static void Settle() { QApplication::processEvents(); }
-
- private:
-  ScopedPlatform m_platform;
-  ScopedRules m_rules;
-};
-
 using Ranges = std::vector<std::pair<PackedDate, PackedDate>>;
 
 // A month window, and a record of its signals. The 1st is a holiday in a vacation.
-class MonthWindowTest : public SelectedDateTest {
+class MonthWindowTest : public DialogTest {
  protected:
   MonthWindowTest() {
     Display().backgroundImage = false;
-    Content() = {{Rule(kFixedDate, {.month = 5, .day = 1, .name = u"Fête <b>du</b> travail"})},
-                 {Period(20240429, 20240501, u"Vacances")}};
+    Content() = {{EveryYear(5, 1, u"Fête <b>du</b> travail")}, {Period(20240429, 20240501, u"Vacances")}};
     window = std::make_unique<CMonthWindow>();
     QObject::connect(window.get(), &CMonthWindow::dateMoved, window.get(), [this] { ++moves; });
     QObject::connect(window.get(), &CMonthWindow::dateDragged, window.get(), [this] { ++drags; });
@@ -59,10 +27,8 @@ class MonthWindowTest : public SelectedDateTest {
         window.get(), &CMonthWindow::periodChosen, window.get(),
         [this](const Date& from, const Date& to) { openedRanges.emplace_back(from.Packed(), to.Packed()); });
     window->resize(700, 420);
-    window->show();
-    window->activateWindow();
     window->setFocus();
-    Settle();
+    Activate(*window);
   }
 
   bool Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 #include "ui/painting/month_painter.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/toolkit/colors.h"

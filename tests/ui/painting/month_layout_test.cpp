@@ -5,8 +5,7 @@
 namespace orbisol {
 namespace {
 
-// Sizes are ordinary ones, and ones where divisions leave a remainder, columns of one pixel or nothing at
-// all.
+// Sizes are ordinary ones, and ones where divisions leave a remainder, columns of a pixel or nothing.
 TEST(MonthLayoutTest, EveryPixelBelongsToTheCellWhoseRectangleHoldsIt) {
   for (const auto& [width, height] :
        {std::pair{900, 420}, {97, 61}, {29, 48}, {7, 7}, {6, 300}, {300, 6}, {0, 0}})

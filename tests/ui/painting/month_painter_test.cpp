@@ -11,7 +11,6 @@
 
 #include "core/calendar_config.h"
 #include "tests/content/rule_builder.h"
-#include "tests/support/rules.h"
 #include "ui/painting/month_pictures.h"
 #include "ui/painting/month_texts.h"
 #include "ui/toolkit/colors.h"
@@ -45,18 +44,9 @@ struct Page {
   }
 
   MonthLayout Layout() const { return {width, height, settings.showWeekNumber, Rules().iso8601}; }
-  MonthModel Model() const {
-    MonthModel model;
-    model.year = 2024;
-    model.month = 5;
-    model.Build(content, settings.colors, moon);
-    return model;
-  }
-
+  MonthModel Model() const { return BuiltMonth(2024, 5, content, moon, settings.colors); }
   Rect Cell(int day, int month = 5) const { return Layout().CellRect(Model().CellOf(month, day)); }
-
-  void FillDays(PackedDate from, PackedDate to) { content.vacations.push_back({from, to, {}}); }
-
+  void FillDays(PackedDate from, PackedDate to) { content.vacations.push_back(Period(from, to)); }
   void PaintOn(QImage& canvas, const QRegion& region = {}) const {
     CMonthPainter painter;
     painter.SetUp(Layout(), settings, QFont(), medium);
@@ -244,15 +234,14 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
 
 bool Holds(const QImage& image, Color color) {
   for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x)
-      if (PixelAt(image, x, y) == color) return true;
+    if (!Widths(image, color, y, false).empty()) return true;
   return false;
 }
 
 TEST(MonthPainterTest, NumbersHaveTheirDaysColorAndNeighborsAreItalic) {
   Page page;
   page.moon = MonthModel::kWithoutMoon;
-  page.content.dayEvents = {Rule(kFixedDate, {.month = 5, .day = 8})};
+  page.content.dayEvents = {EveryYear(5, 8, u"x")};
   page.settings.colors[kHolidayText] = kMagenta;
   page.settings.colors[kHolidayBack] = kWindowColor;
   page.settings.colors[kGrayTextColor] = page.settings.colors[kStandardTextColor];
@@ -280,8 +269,9 @@ TEST(MonthPainterTest, MoonStandsInItsSquareAndNowhereElse) {
     for (const int day : {1, 8, 15, 23, 30}) {
       const QRect square = ToQRect(layout.GlyphRect(
           page.Model().CellOf(5, day), metrics.horizontalAdvance(QStringLiteral("30")), metrics.height()));
-      const QImage moon = with.copy({square.topLeft() * ratio, square.size() * ratio});
-      EXPECT_NE(moon, without.copy({square.topLeft() * ratio, square.size() * ratio})) << day;
+      const QRect pixels(square.topLeft() * ratio, square.size() * ratio);
+      const QImage moon = with.copy(pixels);
+      EXPECT_NE(moon, without.copy(pixels)) << day;
       QPainter(&without).drawImage(square, moon);
     }
     EXPECT_EQ(with, without) << ratio;
@@ -304,11 +294,9 @@ TEST(MonthPainterTest, TodayIsTintedAndUnderlinedOnScreenInItsOwnMonth) {
   // A line as wide as the number, in its color.
   const QFontMetrics metrics(MakeMonthFonts(page.Layout(), page.settings, QFont()).upright);
   std::set<int> widths;
-  for (int y = cell.top + 40; y < cell.bottom; ++y) {
-    const auto inRow =
-        Widths(tinted.copy(cell.left, y, 100, 1), page.settings.ColorAt(kStandardTextColor), 0, false);
-    widths.insert(inRow.begin(), inRow.end());
-  }
+  for (int y = cell.top + 40; y < cell.bottom; ++y)
+    widths.merge(
+        Widths(tinted.copy(cell.left, y, 100, 1), page.settings.ColorAt(kStandardTextColor), 0, false));
   EXPECT_EQ(widths.count(metrics.horizontalAdvance(QStringLiteral("14"))), 1U);
   page.FillDays(20240514, 20240514);
   EXPECT_EQ(PixelAt(page.Paint(), cell.left + 1, cell.top + 1), kYellow);

@@ -93,25 +93,22 @@ class Reader:
         self.atspi = pyatspi
         Atspi.set_timeout(WAIT * 1000, WAIT * 1000)
         self.context = GLib.MainContext.default()
-        self.focused = []  # names, in the order of the events
-        self.renamed = []
-        self.selected = []
         self.log = open(log_path, "a")
-        pyatspi.Registry.registerEventListener(self.on_focus, "object:state-changed:focused")
-        pyatspi.Registry.registerEventListener(self.on_name, "object:property-change:accessible-name")
-        pyatspi.Registry.registerEventListener(self.on_selection, "object:state-changed:selected")
+        self.focused = self.names_told_by("object:state-changed:focused")
+        self.selected = self.names_told_by("object:state-changed:selected")
+        self.renamed = self.names_told_by("object:property-change:accessible-name")
         self.program = subprocess.Popen([program], stdout=self.log, stderr=self.log)
 
-    def on_focus(self, event):
-        if event.detail1:
-            self.focused.append(self.name_of(event.source))
+    def names_told_by(self, kind):
+        """Returns a list that will take the names of what events of a kind are about, in their order."""
+        names = []
 
-    def on_name(self, event):
-        self.renamed.append(self.name_of(event.source))
+        def hear(event):
+            if event.detail1 or "state-changed" not in kind:
+                names.append(self.name_of(event.source))
 
-    def on_selection(self, event):
-        if event.detail1:
-            self.selected.append(self.name_of(event.source))
+        self.atspi.Registry.registerEventListener(hear, kind)
+        return names
 
     def name_of(self, item):
         try:
@@ -140,19 +137,15 @@ class Reader:
     def find(self, matches, item=None):
         """Returns the first match below the program's window, depth first; None while there is none."""
         if item is None:
-            desktop = self.atspi.Registry.getDesktop(0)
-            items = [app for app in desktop if app is not None and app.name == "orbisol"]
-        else:
-            items = list(item)
-        for child in items:
+            item = [app for app in self.atspi.Registry.getDesktop(0) if app is not None and app.name == "orbisol"]
+        for child in item:
             if child is None:
                 continue
             if matches(child):
                 return child
-            if child.getRole() != self.atspi.ROLE_TABLE:
-                found = self.find(matches, child)
-                if found is not None:
-                    return found
+            found = self.find(matches, child) if child.getRole() != self.atspi.ROLE_TABLE else None
+            if found is not None:
+                return found
         return None
 
     def find_named(self, name):
@@ -237,22 +230,11 @@ def check_month(reader):
 
 def check_header(reader, month):
     atspi = reader.atspi
-    for name in ("Mois précédent : août 1792", "Mois : Septembre", "Année : 1792", "Mois suivant : octobre 1792"):
-        part = reader.find_named(name)
-        same(f"{name}: role", part.getRole(), atspi.ROLE_PUSH_BUTTON)
-        same(f"{name}: reached with the keyboard", part.getState().contains(atspi.STATE_FOCUSABLE), True)
-        same(f"{name}: pressed", part.queryAction().nActions > 0, True)
-
-    reader.find_named("Mois précédent : août 1792").queryAction().doAction(0)
+    part = reader.find_named("Mois précédent : août 1792")
+    same("its role", part.getRole(), atspi.ROLE_PUSH_BUTTON)
+    same("it is reached with the keyboard", part.getState().contains(atspi.STATE_FOCUSABLE), True)
+    part.queryAction().doAction(0)
     reader.wait_for("August", lambda: reader.name_of(month) == "Août 1792")
-
-    # The year's editor says its value.
-    reader.focused.clear()
-    reader.find_named("Année : 1792").queryAction().doAction(0)
-    reader.wait_for("the year's editor", lambda: "Année" in reader.focused)
-    value = reader.find(lambda item: item.getRole() == atspi.ROLE_SPIN_BUTTON).queryValue()
-    same("the year", (value.minimumValue, value.currentValue, value.maximumValue), (-3999, 1792, 3999))
-    reader.key("Escape")
 
     # With the keyboard from the month to the arrow before it, and back to September.
     month.queryComponent().grabFocus()

@@ -1,15 +1,11 @@
 // A main frame of its own for each test, on a store and a folder of calendars in memory.
 #pragma once
 
-#include <QTest>
-
 #include <set>
 
-#include "tests/support/memory_files.h"
-#include "tests/support/memory_store.h"
-#include "tests/support/spy_messages.h"
-#include "tests/ui/month/month_fixture.h"
+#include "tests/support/calendar_folder_test.h"
 #include "ui/shell/calendar_frame.h"
+#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 
@@ -22,7 +18,7 @@ inline std::set<QRgb> ColorsIn(QWidget& widget, const QRect& place) {
   return colors;
 }
 
-class FrameTest : public SelectedDateTest {
+class FrameTest : public CalendarFolderTest {
  protected:
   FrameTest() { StoreLayout({.rightPaneShown = true}); }
 
@@ -34,14 +30,23 @@ class FrameTest : public SelectedDateTest {
     Settle();
   }
   CMainDlg& Dialog() { return frame->Dialog(); }
+  QAction& Action(CommandId command) { return *frame->Commands().Action(command); }
+  static void Click(QWidget& widget, const Rect& place, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mouseClick(&widget, Qt::LeftButton, modifiers, ToQRect(place).center());
+  }
 
   // Shows a date as if a view had changed it.
   void Show(PackedDate date) {
     Select(date);
     Dialog().Refresh();
   }
+  void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(frame->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+    Settle();  // what a key does is reported after it
+  }
+  std::string Status() const { return frame->StatusText().toStdString(); }
 
-  // Returns a control of the pane by its class and its text without "&".
+  // Returns a control of the pane by its text without "&", or by its accessible name.
   template <class Widget>
   Widget* Control(const char* text) {
     for (Widget* const widget : Dialog().Pane().template findChildren<Widget*>())
@@ -60,18 +65,12 @@ class FrameTest : public SelectedDateTest {
   void StoreLayout(const WindowLayout& layout) {
     store.Write({{"WindowLayout", BinaryValue(LayoutToBytes(layout))}});
   }
-  WindowLayout Stored() {
+  WindowLayout Stored(const char* name = "WindowLayout") {
     WindowLayout layout;
-    if (const auto bytes = BinaryOf(*store.Read(), "WindowLayout")) LayoutFromBytes(*bytes, layout);
+    if (const auto bytes = BinaryOf(*store.Read(), name)) LayoutFromBytes(*bytes, layout);
     return layout;
   }
 
-  SpyMessages messages;
-  ScopedMessages m_messages{messages};
-  CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
-  CMemoryFiles files;
-  CCalendarStore calendars{files, kMemoryFolders};
-  CPublicCalendars publicCalendars{files, kMemoryFolders};
   std::unique_ptr<CCalendarFrame> frame;
 };
 

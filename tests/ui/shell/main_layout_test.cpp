@@ -5,32 +5,27 @@
 namespace orbisol {
 namespace {
 
-MainMeasures Measures(int width, int height, bool weekNumbers, bool paneShown) {
-  return {.width = width,
-          .height = height,
-          .headerTop = 24,
-          .weekNumbers = weekNumbers,
-          .paneShown = paneShown,
-          .paneWidth = 336};
+MainLayout LaidOut(int width, int height, bool weekNumbers, bool paneShown) {
+  return LayOutMain({width, height, 24, 0, weekNumbers, paneShown, 336});
 }
 
 TEST(MainLayoutTest, SevenColumnsComeOutEqualAtEveryWidth) {
   for (int width = 500; width < 1500; ++width) {
-    const MainLayout places = LayOutMain(Measures(width, 400, false, width % 2 == 0));
+    const MainLayout places = LaidOut(width, 400, false, width % 2 == 0);
     ASSERT_EQ(places.grid.Width() % kDayColumns, 0) << width;
     ASSERT_EQ(places.header.Width(), places.grid.Width());
     // No more is given away than that takes.
     const int right = places.group.right + kMargin + (width % 2 == 0 ? 336 : 0);
     ASSERT_TRUE(right <= width && width - right < kDayColumns) << width;
   }
-  EXPECT_EQ(LayOutMain(Measures(851, 400, true, true)).group.Width(), 851 - 2 * kMargin - 336);
+  EXPECT_EQ(LaidOut(851, 400, true, true).group.Width(), 851 - 2 * kMargin - 336);
 }
 
 TEST(MainLayoutTest, HidingThePaneWithItsWidthLeavesTheMonthAsItIs) {
   for (const bool weekNumbers : {false, true})
     for (int width = 700; width < 720; ++width) {
-      const MainLayout with = LayOutMain(Measures(width + 336, 500, weekNumbers, true));
-      const MainLayout without = LayOutMain(Measures(width, 500, weekNumbers, false));
+      const MainLayout with = LaidOut(width + 336, 500, weekNumbers, true);
+      const MainLayout without = LaidOut(width, 500, weekNumbers, false);
       ASSERT_EQ(with.group, without.group) << width;
       ASSERT_EQ(with.grid, without.grid) << width;
       ASSERT_GE(without.pane.left, width - kDayColumns) << width;
@@ -41,7 +36,7 @@ TEST(MainLayoutTest, PartsFollowOneAnotherAndWeeksCanBeEquallyHigh) {
   for (int height = 200; height < 900; ++height) {
     const int even = EvenHeight(height, 24);
     ASSERT_TRUE(even <= height && height - even <= 8) << height;
-    const MainLayout places = LayOutMain(Measures(850, even, true, true));
+    const MainLayout places = LaidOut(850, even, true, true);
     ASSERT_EQ(places.grid.Height() % 7, 0) << height;
     ASSERT_GE(places.header.top, 24);
     ASSERT_GT(places.grid.top, places.header.bottom);
@@ -53,7 +48,7 @@ TEST(MainLayoutTest, PartsFollowOneAnotherAndWeeksCanBeEquallyHigh) {
 
 TEST(MainLayoutTest, NothingIsTurnedInsideOutInAWindowOfNoSize) {
   for (int size = 0; size < 60; ++size) {
-    const MainLayout places = LayOutMain(Measures(size, size, size % 2 == 0, true));
+    const MainLayout places = LaidOut(size, size, size % 2 == 0, true);
     for (const Rect& rect : {places.group, places.header, places.grid, places.separator, places.pane}) {
       ASSERT_GE(rect.Width(), 0);
       ASSERT_GE(rect.Height(), 0);

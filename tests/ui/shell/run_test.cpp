@@ -2,9 +2,6 @@
 
 #include "ui/shell/run.h"
 
-#include <QLineEdit>
-#include <QTimer>
-
 #include <algorithm>
 #include <csignal>
 #include <sstream>

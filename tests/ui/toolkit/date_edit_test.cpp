@@ -1,24 +1,14 @@
 #include "ui/toolkit/date_edit.h"
 
-#include <QApplication>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
-#include <QTest>
-#include <QToolButton>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <fstream>
 #include <sstream>
 
-#include "core/calendar_config.h"
-#include "core/text.h"
-#include "tests/support/fakes.h"
-#include "tests/support/rules.h"
+#include "tests/support/dialog_test.h"
 #include "ui/toolkit/date_drop_down.h"
-#include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/typed_date.h"
 
 namespace orbisol {
@@ -52,15 +42,13 @@ TEST(TypedDateTest, TextsAreReadInTheOrderOfTheUser) {
             u"Cette date n'existe pas : novembre 2026 n'a pas de jour 31.");
 }
 
-class DateEditTest : public testing::Test {
+class DateEditTest : public DialogTest {
  protected:
-  void SetUp() override {
+  DateEditTest() {
     window.resize(400, 200);
     other.move(0, 100);
-    window.show();
-    window.activateWindow();
     edit.setFocus();
-    QApplication::processEvents();
+    Activate(window);
   }
   bool IsMarked() const {
     const auto* const sign = edit.findChildren<QToolButton*>().back();
@@ -71,8 +59,6 @@ class DateEditTest : public testing::Test {
     QTest::keyClicks(&edit, QLatin1String(text));
   }
 
-  const ScopedRules rules{CalendarRules{}};
-  const ScopedPlatform pinned{FakeLocale(), FakeClock({2024, 5, 15})};
   QWidget window;
   CDateEdit edit{&window};
   QLineEdit other{&window};
@@ -117,24 +103,22 @@ TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
 }
 
 TEST_F(DateEditTest, ADateInWordsIsTakenWhereItHasOneMeaning) {
-  const struct {
-    const char* text;
-    PackedDate date;  // 0 where the field refuses it
-  } kTexts[] = {{"14 juillet 1789", 17890714},
-                {"18 brumaire an VIII", 17991109},
-                {"15 mars 44 av. J.-C.", -430315},
-                {"24 mars 44", 0},
-                {"10 octobre 1582", 0},
-                {"31 avril 2024", 0},
-                {"lundi 9 novembre 1799", 0},
-                {"bonjour", 0}};
-  for (const auto& row : kTexts) {
-    SCOPED_TRACE(row.text);
+  constexpr std::pair<const char*, PackedDate> kTexts[] = {// 0 where the field refuses it
+                                                           {"14 juillet 1789", 17890714},
+                                                           {"18 brumaire an VIII", 17991109},
+                                                           {"15 mars 44 av. J.-C.", -430315},
+                                                           {"24 mars 44", 0},
+                                                           {"10 octobre 1582", 0},
+                                                           {"31 avril 2024", 0},
+                                                           {"lundi 9 novembre 1799", 0},
+                                                           {"bonjour", 0}};
+  for (const auto& [text, date] : kTexts) {
+    SCOPED_TRACE(text);
     edit.SetDate(20240515);
-    Type(row.text);
-    EXPECT_EQ(edit.IsValid(), row.date != 0);
-    if (row.date == 0) continue;
-    EXPECT_EQ(edit.Date(), row.date);
+    Type(text);
+    EXPECT_EQ(edit.IsValid(), date != 0);
+    if (date == 0) continue;
+    EXPECT_EQ(edit.Date(), date);
     other.setFocus();
     EXPECT_FALSE(edit.text().contains(QLatin1Char(' '))) << "it is shown in the form of the field";
     edit.setFocus();

@@ -1,22 +1,13 @@
-#include <QApplication>
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "resources/strings.h"
+#include "tests/support/dialog_test.h"
 #include "ui/toolkit/picture_chooser.h"
 #include "ui/toolkit/picture_reader.h"
-#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
@@ -30,8 +21,7 @@ QByteArray Encoded(const QSize& size, const char* format) {
   return bytes;
 }
 
-// A decoder that opens other files, a pipe without a writer or a picture of a terabyte would stop the
-// program.
+// A decoder that opens other files, a pipe without a writer or a huge picture would stop the program.
 TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
   const QTemporaryDir folder;
   const QString base = folder.path() + QLatin1Char('/');
@@ -72,9 +62,11 @@ TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
   EXPECT_EQ(ReadPicture(QString(), {9, 9}).fault, PictureFault::kNotFound);
 }
 
-// Asks the file dialog itself which files it offers: with a filter that the toolkit does not understand it
-// offers none or all.
-TEST(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown) {
+class PictureChooserTest : public DialogTest {};
+
+// Asks the file dialog itself: with a filter that the toolkit does not understand it offers none or all
+// files.
+TEST_F(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown) {
   const QTemporaryDir folder;
   const QByteArray png = Encoded({400, 100}, "png");
   for (const char* name : {"a.png", "b.PNG", "c.Jpeg", "d.txt", "e.svg"}) {
@@ -97,15 +89,13 @@ TEST(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown) 
 
   QString shownFilter;
   QStringList offered;
-  QTimer::singleShot(0, &chooser, [&] {
-    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    shownFilter = dialog->nameFilters().front();
+  InDialog<QFileDialog>([&](QFileDialog& dialog) {
+    shownFilter = dialog.nameFilters().front();
     const QString patterns = shownFilter.mid(shownFilter.lastIndexOf(QLatin1Char('(')) + 1).chopped(1);
     offered =
         QDir(folder.path()).entryList(patterns.split(QLatin1Char(' ')), QDir::Files | QDir::CaseSensitive);
-    dialog->selectFile(QStringLiteral("b.PNG"));
-    static_cast<QDialog*>(dialog)->accept();
+    dialog.selectFile(QStringLiteral("b.PNG"));
+    static_cast<QDialog&>(dialog).accept();
   });
   chooser.Browse();
   EXPECT_TRUE(shownFilter.startsWith(

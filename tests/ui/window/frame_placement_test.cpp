@@ -2,14 +2,10 @@
 
 #include "ui/window/frame_placement.h"
 
-#include <QApplication>
 #include <QScreen>
-#include <QTest>
-#include <QWidget>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
+#include "tests/support/dialog_test.h"
 #include "ui/toolkit/geometry.h"
 
 namespace orbisol {
@@ -54,11 +50,7 @@ struct FramedWindow {
 };
 
 TEST(FramePlacementTest, AWindowOpensWhereItWasStoredAndStoresThatAgain) {
-  const struct {
-    const char* what;
-    QRect stored;
-    QRect standing;
-  } kRows[] = {
+  const std::tuple<const char*, QRect, QRect> kRows[] = {
       {"as it was", {100, 80, 900, 520}, {100, 80, 900, 520}},
       {"lower than it can be", {50, 50, 850, 400}, {50, 50, 850, 380 + 25 + 7}},
       {"narrower than it can be", {50, 50, 300, 600}, {50, 50, 420 + 3 + 5, 600}},
@@ -67,13 +59,13 @@ TEST(FramePlacementTest, AWindowOpensWhereItWasStoredAndStoresThatAgain) {
       {"across two screens", {1500, 80, 900, 520}, {1500, 80, 900, 520}},
       {"on no screen", {4000, 3000, 900, 520}, {1020, 560, 900, 520}},
   };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.what);
+  for (const auto& [what, stored, standing] : kRows) {
+    SCOPED_TRACE(what);
     FramedWindow framed;
-    framed.Open(row.stored);
+    framed.Open(stored);
     framed.PutFrame();
-    EXPECT_EQ(framed.Frame(), row.standing);
-    EXPECT_EQ(ToQRect(framed.placement.Closing().rect), row.standing);
+    EXPECT_EQ(framed.Frame(), standing);
+    EXPECT_EQ(ToQRect(framed.placement.Closing().rect), standing);
   }
 }
 
@@ -93,11 +85,7 @@ TEST(FramePlacementTest, TheFirstWindowStandsInTheMiddleWithItsFrame) {
 // The user works with the window before its frame is there.
 TEST(FramePlacementTest, ALateFrameUndoesNothingThatWasDoneMeanwhile) {
   const QRect stored(100, 80, 900, 520);
-  const struct {
-    const char* what;
-    void (*act)(FramedWindow& framed);
-    QRect standing;
-  } kRows[] = {
+  const std::tuple<const char*, void (*)(FramedWindow&), QRect> kRows[] = {
       {"nothing", [](FramedWindow&) {}, stored},
       {"made wider by a part",
        [](FramedWindow& framed) { framed.placement.Widen(200); },
@@ -117,14 +105,14 @@ TEST(FramePlacementTest, ALateFrameUndoesNothingThatWasDoneMeanwhile) {
        [](FramedWindow& framed) { framed.window.setGeometry(300, 300, 900, 520); },
        {301, 299, 900, 520}},
   };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.what);
+  for (const auto& [what, act, standing] : kRows) {
+    SCOPED_TRACE(what);
     FramedWindow framed;
     framed.Open(stored);
-    row.act(framed);
+    act(framed);
     framed.PutFrame();
-    EXPECT_EQ(framed.Frame(), row.standing);
-    EXPECT_EQ(ToQRect(framed.placement.Closing().rect), row.standing);
+    EXPECT_EQ(framed.Frame(), standing);
+    EXPECT_EQ(ToQRect(framed.placement.Closing().rect), standing);
   }
 }
 

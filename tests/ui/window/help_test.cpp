@@ -1,25 +1,14 @@
 #include "ui/window/help.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
 #include <QRegularExpression>
-#include <QTest>
 #include <QTextDocument>
-#include <QTreeWidget>
-
-#include <gtest/gtest.h>
 
 #include <set>
 
-#include "core/calendar_config.h"
-#include "core/date.h"
 #include "core/date_reader.h"
 #include "resources/menus.h"
-#include "resources/strings.h"
-#include "ui/toolkit/plain_text.h"
+#include "tests/support/dialog_test.h"
 #include "ui/window/help_text.h"
 
 namespace orbisol {
@@ -131,9 +120,7 @@ TEST(HelpTextTest, ReformsOfTheCountriesAreRight) {
     SCOPED_TRACE(qPrintable(row.front()));
     const DateReadings first = ReadDates(Utf16View(row.at(2)), 20240515);
     ASSERT_FALSE(first.readings.empty());
-    CalendarRules rules = DefaultCalendarRules();
-    rules.ApplyGregorianStart(first.readings[0].date);
-    const ScopedRules inForce(rules);
+    const ScopedRules inForce(RulesWith(first.readings[0].date));
     const DateReadings last = ReadDates(Utf16View(row.at(1)), 20240515);
     ASSERT_FALSE(last.readings.empty());
     EXPECT_FALSE(first.readings[0].isOtherWeekday || last.readings[0].isOtherWeekday);

@@ -1,92 +1,59 @@
 #include "ui/window/save_calendar.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/calendar_builder.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/memory_store.h"
-#include "tests/support/spy_messages.h"
+#include "tests/support/calendar_folder_test.h"
 
 namespace orbisol {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class SaveCalendarTest : public testing::Test {
+class SaveCalendarTest : public CalendarFolderTest {
  protected:
-  SaveCalendarTest() : m_scope(messages) {
+  SaveCalendarTest() {
     Put(u"Calendar", u"before");
-    display = ReadSettings(store, calendars, {files, kMemoryFolders}, {u"fr", u"FR"}, {}).display;
+    display = ReadSettings(store, calendars, publicCalendars, {u"fr", u"FR"}, {}).display;
     display.changed = true;
   }
 
-  void Put(const std::u16string& name, std::u16string_view rule) {
-    files.Put(u"/user/" + name + u".xml", BytesWith(rule));
-  }
   SavedFromWindow Save(std::optional<std::u16string_view> newName = {}) {
     return SaveCalendarFromWindow(nullptr, {store, calendars}, display, {}, CalendarWith(u"mine").content,
                                   newName);
   }
-  // Returns the rule of each file, in the order of their names: "Calendar=mine Calendar (2)=theirs ".
-  std::string OnDisk() {
-    std::u16string all;
-    for (const auto& [path, file] : files.files) {
-      if (!path.starts_with(u"/user/")) continue;
-      const CalendarContent content = ReadCalendar(file.bytes).content;
-      all += path.substr(6) + u"=" + std::u16string(content.dayEvents.at(0).name.View()) + u" ";
-    }
-    return ToUtf8(all);
-  }
-  void ExpectShown(const QString& words) {
-    ASSERT_FALSE(messages.shown.isEmpty());
-    EXPECT_TRUE(messages.shown.last().contains(words)) << qPrintable(messages.shown.last());
-  }
 
-  CMemoryFiles files;
-  CCalendarStore calendars{files, kMemoryFolders};
-  CMemoryStore store{"\"CalendarName\"=\"Calendar\"\n"};
   DisplaySettings display;
-  SpyMessages messages;
-
- private:
-  ScopedMessages m_scope;
 };
 
 TEST_F(SaveCalendarTest, AFileThatNobodyTouchedIsReplacedWithoutAWord) {
   const SavedFromWindow saved = Save();
   EXPECT_EQ(saved.end, SaveEnd::kSaved);
   EXPECT_TRUE(saved.keyStored && !display.changed && messages.shown.isEmpty());
-  EXPECT_EQ(OnDisk(), "Calendar.xml=mine ");
+  EXPECT_EQ(OnDisk(), "Calendar=mine ");
 }
 
 TEST_F(SaveCalendarTest, WhereSomebodyElseChangedTheFileTheUserDecides) {
-  const struct {
-    std::vector<int> answers;
-    SaveEnd end;
-    const char *onDisk, *name;
-  } kRows[] = {
-      {{}, SaveEnd::kUnsaved, "Calendar.xml=theirs ", "Calendar"},
-      {{0}, SaveEnd::kSaved, "Calendar (2).xml=mine Calendar.xml=theirs ", "Calendar (2)"},
-      {{2}, SaveEnd::kSaved, "Calendar.xml=mine Calendar.xml.bak=theirs ", "Calendar"},
-      {{1}, SaveEnd::kReloaded, "Calendar.xml=theirs ", "Calendar"},
+  const std::tuple<std::vector<int>, SaveEnd, const char*, const char*> kRows[] = {
+      {{}, SaveEnd::kUnsaved, "Calendar=theirs ", "Calendar"},
+      {{0}, SaveEnd::kSaved, "Calendar=theirs Calendar (2)=mine ", "Calendar (2)"},
+      {{2}, SaveEnd::kSaved, "Calendar=mine Calendar.bak=theirs ", "Calendar"},
+      {{1}, SaveEnd::kReloaded, "Calendar=theirs ", "Calendar"},
   };
-  for (const auto& row : kRows) {
-    SCOPED_TRACE(row.onDisk);
+  for (const auto& [answers, end, onDisk, name] : kRows) {
+    SCOPED_TRACE(onDisk);
     files.files.clear();
     display.changed = true;
     display.calendarName.Set(u"Calendar");
     Put(u"Calendar", u"theirs");
-    messages.answers = row.answers;
+    messages.answers = answers;
     const SavedFromWindow saved = Save();
-    EXPECT_EQ(saved.end, row.end);
-    EXPECT_EQ(OnDisk(), row.onDisk);
-    EXPECT_EQ(ToUtf8(display.calendarName.View()), row.name);
-    EXPECT_EQ(display.changed, row.end != SaveEnd::kSaved);
-    EXPECT_EQ(saved.reloaded.has_value(), row.end == SaveEnd::kReloaded);
+    EXPECT_EQ(saved.end, end);
+    EXPECT_EQ(OnDisk(), onDisk);
+    EXPECT_EQ(ToUtf8(display.calendarName.View()), name);
+    EXPECT_EQ(display.changed, end != SaveEnd::kSaved);
+    EXPECT_EQ(saved.reloaded.has_value(), end == SaveEnd::kReloaded);
     EXPECT_EQ(saved.reloaded.value_or(CalendarWith(u"theirs")), CalendarWith(u"theirs"));
     EXPECT_EQ(messages.buttons, QStringList({u"Garder les deux"_s, u"Recharger"_s, u"Remplacer"_s}));
-    ExpectShown(u"Le fichier /user/Calendar.xml contient ces autres modifications"_s);
-    ExpectShown(u"« Calendar (2) »"_s);
+    ExpectSaid("Le fichier /user/Calendar.xml contient ces autres modifications");
+    ExpectSaid("« Calendar (2) »");
   }
 }
 
@@ -94,50 +61,47 @@ TEST_F(SaveCalendarTest, WhatAReloadGivesUpIsKeptAsAVersion) {
   Put(u"Calendar", u"theirs");
   messages.answers = {1};
   ASSERT_EQ(Save().end, SaveEnd::kReloaded);
-  const std::vector<CalendarVersion> kept = calendars.Versions().List(u"Calendar");
-  ASSERT_EQ(kept.size(), 1u);
-  EXPECT_EQ(ReadCalendar(*calendars.Versions().Read(u"Calendar", kept[0])).content,
-            CalendarWith(u"mine").content);
+  EXPECT_EQ(Versions(u"Calendar"), "mine ");
 
   Put(u"Calendar", u"newer");
   files.failingWrites = {u"/versions/Calendar"};
   messages.answers = {1, 0};
   EXPECT_EQ(Save().end, SaveEnd::kSaved);
   EXPECT_EQ(messages.buttons, QStringList({u"Garder les deux"_s, u"Recharger quand même"_s}));
-  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newer ");
+  EXPECT_EQ(OnDisk(), "Calendar=newer Calendar (2)=mine ");
 }
 
 TEST_F(SaveCalendarTest, WhereTheFileCannotBeWrittenTheUserSavesUnderAnotherName) {
   files.failingWrites = {u"/user/Calendar.xml"};
   EXPECT_EQ(Save().end, SaveEnd::kUnsaved);
-  EXPECT_EQ(OnDisk(), "Calendar.xml=before ");
+  EXPECT_EQ(OnDisk(), "Calendar=before ");
   EXPECT_TRUE(display.changed);
-  ExpectShown(u"n'a pas été enregistré"_s);
-  ExpectShown(u"Le fichier /user/Calendar.xml est resté tel qu'il était"_s);
+  ExpectSaid("n'a pas été enregistré");
+  ExpectSaid("Le fichier /user/Calendar.xml est resté tel qu'il était");
   EXPECT_EQ(messages.buttons, QStringList({u"Enregistrer sous « Calendar (2) »"_s, u"Réessayer"_s}));
 
   messages.answers = {1, 0};  // again, in vain, then under the other name
   EXPECT_EQ(Save(u"Famille").end, SaveEnd::kSaved);
-  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=before ");
+  EXPECT_EQ(OnDisk(), "Calendar=before Calendar (2)=mine ");
   EXPECT_EQ(display.calendarName.View(), u"Famille") << "only then the program leaves the calendar";
 
   files.files.clear();
   files.failingWrites = {u"/user/Famille.xml"};
   EXPECT_EQ(Save().end, SaveEnd::kUnsaved);
-  ExpectShown(u"Le fichier /user/Famille.xml n'existe pas"_s);
+  ExpectSaid("Le fichier /user/Famille.xml n'existe pas");
 }
 
 TEST_F(SaveCalendarTest, WhatIsWrittenAndNotConfirmedIsSaidSo) {
   files.syncFails = true;
   EXPECT_EQ(Save().end, SaveEnd::kSaved);
-  EXPECT_EQ(OnDisk(), "Calendar.xml=mine ");
+  EXPECT_EQ(OnDisk(), "Calendar=mine ");
   EXPECT_TRUE(display.changed) << "the next save writes it again";
-  ExpectShown(u"Le fichier /user/Calendar.xml contient vos modifications"_s);
+  ExpectSaid("Le fichier /user/Calendar.xml contient vos modifications");
 
   Put(u"Calendar", u"theirs");
   messages.answers = {0};
   EXPECT_EQ(Save().end, SaveEnd::kSaved);
-  ExpectShown(u"Le fichier /user/Calendar (2).xml contient vos modifications"_s);
+  ExpectSaid("Le fichier /user/Calendar (2).xml contient vos modifications");
 }
 
 // Each answer applies to the file as it is on the disk by then.
@@ -150,7 +114,7 @@ TEST_F(SaveCalendarTest, WhatChangesWhileTheUserThinksIsNotOverwritten) {
   messages.answers = {2, 0};
   EXPECT_EQ(Save().end, SaveEnd::kSaved);
   EXPECT_EQ(asked, 2);
-  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newer Calendar.xml.bak=theirs ");
+  EXPECT_EQ(OnDisk(), "Calendar=newer Calendar.bak=theirs Calendar (2)=mine ");
   display.calendarName.Set(u"Calendar");
   CalendarFile newer;
   calendars.Load(u"Calendar", newer);
@@ -161,7 +125,7 @@ TEST_F(SaveCalendarTest, WhatChangesWhileTheUserThinksIsNotOverwritten) {
   };
   messages.answers = {1};
   EXPECT_EQ(Save().end, SaveEnd::kUnsaved) << "another try is no leave to overwrite";
-  EXPECT_EQ(OnDisk(), "Calendar (2).xml=mine Calendar.xml=newest Calendar.xml.bak=theirs ");
+  EXPECT_EQ(OnDisk(), "Calendar=newest Calendar.bak=theirs Calendar (2)=mine ");
 
   Put(u"Calendar", u"theirs");
   messages.whileAsking = [&] { files.files.erase(u"/user/Calendar.xml"); };

@@ -1,23 +1,16 @@
 #include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QTest>
 #include <QToolBar>
 
-#include <gtest/gtest.h>
-
+#include <algorithm>
 #include <map>
 
 #include "resources/menus.h"
 #include "resources/strings.h"
+#include "tests/support/dialog_test.h"
 #include "ui/toolkit/colors.h"
 #include "ui/toolkit/french_toolkit.h"
-#include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/space_key.h"
 #include "ui/window/command_table.h"
 #include "ui/window/tool_icons.h"
@@ -26,12 +19,14 @@ namespace orbisol {
 namespace {
 
 TEST(PlainTextTest, NumbersAreGroupedWithAPlainSpace) {
-  struct {
-    long long number;
-    const char* text;
-  } const kNumbers[] = {{0, "0"},          {999, "999"},          {1000, "1 000"},       {-999, "-999"},
-                        {-1234, "-1 234"}, {-123456, "-123 456"}, {1234567, "1 234 567"}};
-  for (const auto& row : kNumbers) EXPECT_EQ(GroupedNumber(row.number), QLatin1String(row.text));
+  for (const auto& [number, text] : {std::pair{0, "0"},
+                                     {999, "999"},
+                                     {1000, "1 000"},
+                                     {-999, "-999"},
+                                     {-1234, "-1 234"},
+                                     {-123456, "-123 456"},
+                                     {1234567, "1 234 567"}})
+    EXPECT_EQ(GroupedNumber(number), QLatin1String(text));
 }
 
 TEST(PlainTextTest, MarkupIsShownAsItWasWritten) {
@@ -82,15 +77,12 @@ TEST(CommandTableTest, EveryCommandHasItsTextsAndTheToolBarItsIcons) {
 QRgb InkOf(const QIcon& icon, QIcon::Mode mode, const QColor& ground) {
   const QImage picture =
       icon.pixmap(QSize(32, 32), 1.0, mode).toImage().convertToFormat(QImage::Format_ARGB32);
-  std::map<QRgb, int> counts;
+  std::map<QRgb, int> counts{{ground.rgba(), 0}};
   for (int y = 0; y < picture.height(); ++y)
     for (int x = 0; x < picture.width(); ++x)
       if (qAlpha(picture.pixel(x, y)) == 255) ++counts[picture.pixel(x, y)];
-  QRgb ink = ground.rgba();
-  int most = 0;
-  for (const auto& [color, count] : counts)
-    if (count > most) std::tie(ink, most) = std::pair(color, count);
-  return ink;
+  const auto isRarer = [](const auto& a, const auto& b) { return a.second < b.second; };
+  return std::max_element(counts.begin(), counts.end(), isRarer)->first;
 }
 
 TEST(ToolIconsTest, TheyAreDrawnInTheTextColorOfTheThemeAndFollowIt) {
