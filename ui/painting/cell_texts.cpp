@@ -38,6 +38,13 @@ std::vector<Name> NamesIn(const DayCell& day, const DayNames& names) {
 
 }  // namespace
 
+QColor TodayTint() {
+  constexpr float kOpacity = 0.14F;
+  QColor tint = ToQColor(kHighlightColor);
+  tint.setAlphaF(kOpacity);
+  return tint;
+}
+
 void CCellTexts::SetUp(const MonthLayout& layout, const DisplaySettings& settings, const QFont& dialogFont) {
   m_layout = layout;
   m_settings = settings;
@@ -73,33 +80,36 @@ CCellTexts::Lines CCellTexts::LinesOf(int cell, const DayCell& day, const DayNam
   const std::vector<Name> all = NamesIn(day, names);
   if (all.empty()) return {};
   const QRect place = ToQRect(m_layout.TextRect(cell));
-  const QColor ground = GroundOf(cell, day);
+  const QColor ground = GroundOf(cell, day, false);
+  const QColor todayGround = GroundOf(cell, day, true);
   const auto count = std::min(all.size(), static_cast<std::size_t>(m_lineCount));
   const QString more = all.size() > count ? QStringLiteral("+%1").arg(all.size() - count) : QString();
   Lines lines;
   for (std::size_t i = 0; i < count; ++i) {
     const bool isMedium = all[i].color == kHolidayText;
     const QFontMetrics metrics(isMedium ? m_medium : m_plain);
-    const QColor color = LegibleOn(ground, ToQColor(m_settings.ColorAt(all[i].color)));
+    const QColor ink = ToQColor(m_settings.ColorAt(all[i].color));
+    const QColor color = LegibleOn(ground, ink);
+    const QColor todayColor = LegibleOn(todayGround, ink);
     const int baseline = place.y() + static_cast<int>(i) * m_lineHeight + metrics.ascent();
     QString text = all[i].text;
     int width = place.width();
     if (i + 1 == count && !more.isEmpty()) {
       const int right = metrics.horizontalAdvance(more);
-      lines.push_back({more, {place.x() + place.width() - right, baseline}, color, isMedium});
+      lines.push_back({more, {place.x() + place.width() - right, baseline}, color, todayColor, isMedium});
       width -= right + metrics.horizontalAdvance(QLatin1Char(' '));
       text += QChar(u'\u2026');
     }
-    lines.push_back(
-        {metrics.elidedText(text, Qt::ElideRight, width), {place.x(), baseline}, color, isMedium});
+    text = metrics.elidedText(text, Qt::ElideRight, width);
+    lines.push_back({text, {place.x(), baseline}, color, todayColor, isMedium});
   }
   return lines;
 }
 
 // Returns the color behind the texts of a cell, the fill of its marks included where it reaches them.
-QColor CCellTexts::GroundOf(int cell, const DayCell& day) const {
-  const QColor ground =
-      m_picture.isNull() ? ToQColor(m_settings.ColorAt(kStandardBgColor)) : PictureColor(cell);
+QColor CCellTexts::GroundOf(int cell, const DayCell& day, bool isToday) const {
+  QColor ground = m_picture.isNull() ? ToQColor(m_settings.ColorAt(kStandardBgColor)) : PictureColor(cell);
+  if (isToday) ground = Blended(ground, TodayTint(), TodayTint().alpha());
   const bool isFilled = m_settings.fullCellBackground && day.marks != 0 && day.backColor != kWindowColor;
   return isFilled ? Blended(ground, ToQColor(day.backColor), m_settings.BackgroundAlpha()) : ground;
 }
@@ -133,13 +143,21 @@ QRect CCellTexts::PaintNumber(QPainter& painter, int cell, int day, bool isItali
   return rect;
 }
 
-void CCellTexts::Paint(QPainter& painter, int cell) const {
+void CCellTexts::Paint(QPainter& painter, int cell, bool isToday) const {
   if (!AreShown() || !m_hasLines) return;
-  for (const Line& line : m_lines[static_cast<std::size_t>(cell)]) {
+  const Lines& lines = m_lines[static_cast<std::size_t>(cell)];
+  if (lines.empty()) return;
+  painter.save();
+  // Letters of another font, where the calendar's has none, may be higher than a line.
+  const int overhang = m_layout.TextInset() / 2;
+  painter.setClipRect(ToQRect(m_layout.TextRect(cell)).adjusted(-overhang, 0, overhang, 0),
+                      Qt::IntersectClip);
+  for (const Line& line : lines) {
     painter.setFont(line.isMedium ? m_medium : m_plain);
-    painter.setPen(line.color);
+    painter.setPen(isToday ? line.todayColor : line.color);
     painter.drawText(line.origin, line.text);
   }
+  painter.restore();
 }
 
 QRect CCellTexts::CircleRect(int cell, int day) const {

@@ -25,6 +25,10 @@ class QPainter;
 
 namespace orbisol {
 
+// Returns the color that lies over the ground of today's cell on a screen: strong enough to be found at a
+// glance, weaker than a holiday's fill.
+QColor TodayTint();
+
 class CCellTexts {
  public:
   // Forgets all names.
@@ -41,8 +45,8 @@ class CCellTexts {
 
   // Draws the number of a day in the painter's pen. Returns its rectangle.
   QRect PaintNumber(QPainter& painter, int cell, int day, bool isItalic) const;
-  // Draws the lines of a cell; none where it has none.
-  void Paint(QPainter& painter, int cell) const;
+  // Draws the lines of a cell; none where it has none. Today's stand on TodayTint().
+  void Paint(QPainter& painter, int cell, bool isToday) const;
 
   // Returns the rectangle around the circle that marks a day.
   QRect CircleRect(int cell, int day) const;
@@ -52,13 +56,14 @@ class CCellTexts {
     QString text;
     QPoint origin;  // left end of the baseline
     QColor color;
+    QColor todayColor;  // where the cell is today's
     bool isMedium = false;
   };
   using Lines = std::vector<Line>;
 
   QRect NumberRect(int cell, int day) const;
   Lines LinesOf(int cell, const DayCell& day, const DayNames& names) const;
-  QColor GroundOf(int cell, const DayCell& day) const;
+  QColor GroundOf(int cell, const DayCell& day, bool isToday) const;
   QColor PictureColor(int cell) const;
 
   MonthLayout m_layout;

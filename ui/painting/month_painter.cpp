@@ -16,9 +16,6 @@
 namespace orbisol {
 namespace {
 
-// Opacity of the tint in today's cell: strong enough to be found at a glance, weaker than a holiday's fill.
-constexpr float kTodayTint = 0.14F;
-
 // Returns a region that is one unit larger at every side. At a fractional ratio a unit ends inside a device
 // pixel, which must be painted whole.
 QRegion Grown(const QRegion& region) {
@@ -212,11 +209,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
                               const MonthMarks& marks) const {
   const DayCell& day = month.cells[static_cast<std::size_t>(cell)];
   const bool isToday = m_medium == kScreen && marks.today != 0 && day.ymd == marks.today;
-  if (isToday) {
-    QColor tint = ToQColor(kHighlightColor);
-    tint.setAlphaF(kTodayTint);
-    painter.fillRect(ToQRect(m_layout.CellRect(cell)), tint);
-  }
+  if (isToday) painter.fillRect(ToQRect(m_layout.CellRect(cell)), TodayTint());
   // On purpose: the color is compared with the palette's window color, not with the settings' background.
   if (day.marks != 0 && day.backColor != kWindowColor) PaintFill(painter, day, cell);
 
@@ -230,7 +223,7 @@ void CMonthPainter::PaintCell(QPainter& painter, const MonthModel& month, int ce
                      number.width(), thickness, ink);
   }
   if (day.moonPhase != kNoPhase) PaintMoon(painter, cell, day.moonPhase);
-  m_texts.Paint(painter, cell);
+  m_texts.Paint(painter, cell, isToday);
 }
 
 // Draws the number of a day: large in the middle of its cell, or small above its texts. Returns its

@@ -14,7 +14,7 @@
 namespace orbisol {
 namespace {
 
-// May 2024 with a holiday, a day of four events beside a full moon, and a vacation.
+// May 2024 with a holiday under a pile of accents, a day of four events beside a full moon, and a vacation.
 struct TextPage {
   CalendarContent content;
   DisplaySettings settings;
@@ -29,7 +29,10 @@ struct TextPage {
                                        u"Dîner", u"Poubelles", u"Courses", u"Lecture", u"Sport"})
       content.dayEvents.push_back(Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 23, .name = name}));
     content.dayEvents.push_back(
-        Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire de mil neuf cent quarante-cinq"}));
+        Rule(kFixedDate,
+             {.month = 5,
+              .day = 8,
+              .name = u"V\u0301\u0301\u0301\u0301\u0301\u0301ictoire de mil neuf cent quarante-cinq"}));
     content.vacations.push_back(Period(20240513, 20240524, u"Vacances de printemps à la montagne"));
     marks.month = 5;
     marks.day = 2;
@@ -80,7 +83,7 @@ QRect Scaled(const Rect& rect, double ratio) {
 TEST(CellTextsTest, LinesStayBelowNumberAndMoonInsideTheirCells) {
   const ScopedRules inForce(RulesWith(kRomanReform));
   for (const QSize size : {QSize(850, 434), QSize(1280, 800), QSize(1920, 1080), QSize(500, 900)}) {
-    for (const double ratio : {1.0, 2.0}) {
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
       SCOPED_TRACE(std::to_string(size.width()) + " at " + std::to_string(ratio));
       TextPage page;
       page.size = size;
@@ -123,20 +126,24 @@ TEST(CellTextsTest, TextsHaveTheirMarksColorAndCanBeReadOnTheirGround) {
   const ScopedRules inForce(RulesWith(kRomanReform));
   TextPage page;
   page.content.dayEvents.erase(page.content.dayEvents.begin(), page.content.dayEvents.end() - 1);
-  page.settings.fullCellBackground = true;
   page.settings.backgroundAlpha = 255;
-  for (const Color ink : {Rgb(255, 230, 0), Rgb(0, 0, 160)}) {
-    for (const Color ground : {Rgb(255, 255, 255), Rgb(30, 30, 40)}) {
-      page.settings.colors[kHolidayText] = ink;
-      page.settings.colors[kHolidayBack] = ground;
-      page.settings.colors[kStandardBgColor] = ground;
-      const QImage image = page.Paint();
-      const QRect place = ToQRect(page.Layout().TextRect(page.CellOf(8)));
-      double best = 0;  // letters are blended with their ground; their middle is not
-      for (int y = place.top(); y <= place.bottom(); ++y)
-        for (int x = place.left(); x <= place.right(); ++x)
-          best = std::max(best, Contrast(image.pixelColor(x, y), ToQColor(ground)));
-      EXPECT_GE(best, 4.0) << ink << " on " << ground;
+  for (const PackedDate today : {0, 20240508}) {
+    page.marks.today = today;
+    page.settings.fullCellBackground = today == 0;  // a fill would hide today's tint
+    for (const Color ink : {Rgb(255, 230, 0), Rgb(0, 0, 160), Rgb(255, 0, 0)}) {
+      for (const Color ground : {Rgb(255, 255, 255), Rgb(30, 30, 40)}) {
+        page.settings.colors[kHolidayText] = ink;
+        page.settings.colors[kHolidayBack] = ground;
+        page.settings.colors[kStandardBgColor] = ground;
+        const QImage image = page.Paint();
+        const QRect place = ToQRect(page.Layout().TextRect(page.CellOf(8)));
+        const QColor behind = image.pixelColor(place.bottomRight());
+        double best = 0;  // letters are blended with their ground; their middle is not
+        for (int y = place.top(); y <= place.bottom(); ++y)
+          for (int x = place.left(); x <= place.right(); ++x)
+            best = std::max(best, Contrast(image.pixelColor(x, y), behind));
+        EXPECT_GE(best, 4.2) << ink << " on " << ground << " today " << today;
+      }
     }
   }
 }
@@ -147,7 +154,7 @@ TEST(CellTextsTest, PartsPaintedAnewAreThoseOfAWholePainting) {
   page.picture = BuiltInBackground();
   page.settings.circleTheDay = true;
   page.settings.showWeekNumber = true;
-  for (const double ratio : {1.0, 1.25, 2.0}) {
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
     page.ratio = ratio;
     page.marks.day = 2;
     QImage canvas = page.Paint();
