@@ -28,7 +28,7 @@ constexpr NationalReform kReforms[] = {
     {{}, 17520902, 17520914},        // United States, P with the colonies
     {{}, 17530217, 17530301},        // Finland, A
     {{}, 15821209, 15821220},        // France, P A
-    {{}, 19240309, 19240323, true},  // Greece, A; the state had changed on 15 February 1923, the church now
+    {{}, 19240309, 19240323, true},  // Greece, A; the church: the state in 1923
     {{}, 15871021, 15871101},        // Hungary, P A
     {{}, 17001116, 17001128},        // Iceland
     {{}, 15821004, 15821015},        // Italy, P A
