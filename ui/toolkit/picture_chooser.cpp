@@ -86,8 +86,9 @@ CPictureChooser::CPictureChooser(QWidget* parent)
 }
 
 void CPictureChooser::SetPath(const QString& path) {
-  m_path = path;
   m_edit->setText(path);
+  if (path == m_path) return;
+  m_path = path;
   ShowPicture();
 }
 
@@ -98,7 +99,10 @@ void CPictureChooser::Take(const QString& path) {
 }
 
 void CPictureChooser::ShowPicture() {
-  const PictureFile file = m_path.isEmpty() ? PictureFile() : ReadPicture(m_path, QSize(3840, 2160));
+  const qreal ratio = devicePixelRatioF();
+  const int height = qRound(m_picture->height() * ratio);
+  // The picture is at most twice as wide as high, so that a panorama does not widen the dialog.
+  const PictureFile file = m_path.isEmpty() ? PictureFile() : ReadPicture(m_path, QSize(2 * height, height));
   m_isValid = file.fault == PictureFault::kNone;
   const QString fault = PictureFaultText(file.fault);
   m_edit->setAccessibleDescription(fault);
@@ -108,11 +112,7 @@ void CPictureChooser::ShowPicture() {
     m_picture->setText(fault);
     return;
   }
-  const qreal ratio = devicePixelRatioF();
-  const int height = qRound(m_picture->height() * ratio);
-  // The picture is at most twice as wide as high, so that a panorama does not widen the dialog.
-  const QImage small = file.image.scaled(2 * height, height, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-  QPixmap pixmap = QPixmap::fromImage(small);
+  QPixmap pixmap = QPixmap::fromImage(file.image);
   pixmap.setDevicePixelRatio(ratio);
   m_picture->setPixmap(pixmap);
 }
