@@ -29,7 +29,7 @@ inline constexpr TextEntry kPreferencesTexts[] = {
     {kTextColorPresets, u"Clair|Sombre|Contraste élevé"},
     {kTextPictureHidden, u"L'image de fond est masquée : ces couleurs demandent un fond uni."},
     {kTextElementTip, u"%s\nClic gauche : texte ; clic droit : arrière-plan"},
-    {kTextColorColumns, u"Texte|Arrière-plan|Transparence de l'arrière-plan"},
+    {kTextColorColumns, u"Texte|Arrière-plan|Opacité de l'arrière-plan"},
     {kTextCalendarFont, u"Police du calendrier|Police des dialogues|Police"},
     {kTextSwitchesNotStored,
      u"Les options d'affichage n'ont pas pu être enregistrées dans les réglages.\n\n"

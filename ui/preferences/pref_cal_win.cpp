@@ -43,6 +43,11 @@ void CPrefCalWin::SetSample(SampleKind kind) {
   SettingsChanged();
 }
 
+void CPrefCalWin::SetClickable(bool isClickable) {
+  m_isClickable = isClickable;
+  setCursor(isClickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
 void CPrefCalWin::SettingsChanged() {
   m_isOutdated = true;
   const DisplaySettings& display = m_edited.display;
@@ -102,7 +107,7 @@ PreviewElement CPrefCalWin::ElementAt(QPoint position) {
 }
 
 bool CPrefCalWin::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && m_kind == SampleKind::kElements) {
+  if (event->type() == QEvent::ToolTip && m_isClickable) {
     const auto* const help = static_cast<QHelpEvent*>(event);
     const PreviewElement element = ElementAt(help->pos());
     QToolTip::showText(help->globalPos(),
@@ -133,7 +138,7 @@ void CPrefCalWin::resizeEvent(QResizeEvent*) { m_isOutdated = true; }
 void CPrefCalWin::mousePressEvent(QMouseEvent* event) {
   const PreviewElement element = ElementAt(PixelAt(event->position()));
   const bool isOurs = event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
-  if (isOurs && element != kNoElement) emit elementClicked(element, event->button());
+  if (m_isClickable && isOurs && element != kNoElement) emit elementClicked(element, event->button());
 }
 
 }  // namespace orbisol

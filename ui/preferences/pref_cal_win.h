@@ -23,6 +23,8 @@ class CPrefCalWin : public QWidget {
   explicit CPrefCalWin(const Preferences& edited, QWidget* parent = nullptr);
 
   void SetSample(SampleKind kind);
+  // Sets whether its elements can be clicked, which a tip and the pointer then say.
+  void SetClickable(bool isClickable);
   void SettingsChanged();
 
   // Returns the element at a position; kNoElement between them.
@@ -52,6 +54,7 @@ class CPrefCalWin : public QWidget {
   SampleKind m_kind = SampleKind::kReform;
   SampleMonth m_sample;
   bool m_isOutdated = true;
+  bool m_isClickable = false;
   CMonthPainter m_painter;
   CBackgroundPicture m_background;
   bool m_hadPicture = false;  // switch and path that the picture was last loaded for

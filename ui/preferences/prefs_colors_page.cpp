@@ -75,7 +75,6 @@ void CPrefsColorsPage::MakeButtons() {
 
 void CPrefsColorsPage::AddButton(int row, int column, ColorIndex index) {
   auto* const button = new QPushButton;
-  button->setAutoDefault(false);
   const QString caption = CaptionOf(index);
   button->setAccessibleName(caption);
   button->setToolTip(caption);
@@ -97,13 +96,17 @@ void CPrefsColorsPage::MakePresets() {
 void CPrefsColorsPage::Activate() {
   const QSignalBlocker blocker(m_form->alpha);
   m_form->alpha->setValue(m_edited.display.BackgroundAlpha());
+  ShowNote();
   ShowColors();
 }
 
 void CPrefsColorsPage::ShowColors() {
   m_form->title->SetLook(m_edited.display);
-  for (std::size_t i = 0; i < m_buttons.size(); ++i)
-    m_buttons[i]->setIcon(Swatch(m_edited.display.colors[i], m_buttons[i]->iconSize(), devicePixelRatioF()));
+  for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+    const Color color = m_edited.display.colors[i];
+    m_buttons[i]->setIcon(Swatch(color, m_buttons[i]->iconSize(), devicePixelRatioF()));
+    m_buttons[i]->setAccessibleDescription(ToQColor(color).name().toUpper());
+  }
 }
 
 void CPrefsColorsPage::EditElement(PreviewElement element, Qt::MouseButton button) {
@@ -123,16 +126,22 @@ void CPrefsColorsPage::Choose(ColorIndex index) {
 void CPrefsColorsPage::TakePreset(ColorPreset preset) {
   DisplaySettings& display = m_edited.display;
   display.colors = PresetColors(preset);
-  if (!SuitsPicture(preset) && !m_pictureBefore) {
-    m_pictureBefore = display.backgroundImage;
+  if (SuitsPicture(preset)) {
+    display.backgroundImage = display.backgroundImage || m_hidesPicture;
+    m_hidesPicture = false;
+  } else if (display.backgroundImage) {
     display.backgroundImage = false;
-  } else if (SuitsPicture(preset) && m_pictureBefore) {
-    display.backgroundImage = *m_pictureBefore;
-    m_pictureBefore.reset();
+    m_hidesPicture = true;
   }
-  m_form->presetNote->setText(m_pictureBefore.value_or(false) ? TableText(kTextPictureHidden) : QString());
+  ShowNote();
   ShowColors();
   emit settingsChanged();
+}
+
+// Says where the picture is, unless the user has shown it again.
+void CPrefsColorsPage::ShowNote() {
+  const bool isHidden = m_hidesPicture && !m_edited.display.backgroundImage;
+  m_form->presetNote->setText(isHidden ? TableText(kTextPictureHidden) : QString());
 }
 
 }  // namespace orbisol

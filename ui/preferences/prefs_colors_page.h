@@ -4,7 +4,6 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 
 #include "settings/settings_persistence.h"
 #include "ui/preferences/color_presets.h"
@@ -40,11 +39,12 @@ class CPrefsColorsPage : public CPrefsPage {
   void Choose(ColorIndex index);
   void TakePreset(ColorPreset preset);
   void ShowColors();
+  void ShowNote();
 
   Preferences& m_edited;
   std::unique_ptr<Ui::PrefsColors> m_form;
   std::array<QPushButton*, kColorCount> m_buttons{};
-  std::optional<bool> m_pictureBefore;  // whether the picture was shown before a set took it away
+  bool m_hidesPicture = false;  // whether a set took the picture away, which the light one brings back
 };
 
 }  // namespace orbisol

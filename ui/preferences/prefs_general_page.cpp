@@ -17,6 +17,8 @@ enum RowRefusal { kEmptyRow, kRowAfterReform, kRowNotLater };  // pieces of kTex
 enum RowName { kDateName, kPlusOneName, kNoneName };           // pieces of kTextCivilYearNames
 enum PresetText { kCertainReform, kDoubtfulReform };           // pieces of kTextReformPreset
 
+constexpr int kNoteLines = 2;
+
 int UserOrder() { return CurrentPlatform().dateOrder; }
 
 // Returns rules under which every date is Gregorian, as the first day of that calendar is, or Julian, as the
@@ -57,8 +59,10 @@ CPrefsGeneralPage::CPrefsGeneralPage(Preferences& edited)
     : CPrefsPage(kHelpConfiguration), m_edited(edited), m_form(new Ui::PrefsGeneral) {
   m_form->setupUi(this);
   for (QLabel* const label : {m_form->startHelp, m_form->yearsHelp2}) ShowPattern(*label);
-  m_rows = {Row{m_form->row1, m_form->plusOne1}, Row{m_form->row2, m_form->plusOne2},
-            Row{m_form->row3, m_form->plusOne3}, Row{m_form->row4, m_form->plusOne4}};
+  m_rows = {Row{m_form->rowLabel1, m_form->row1, m_form->plusOne1},
+            Row{m_form->rowLabel2, m_form->row2, m_form->plusOne2},
+            Row{m_form->rowLabel3, m_form->row3, m_form->plusOne3},
+            Row{m_form->rowLabel4, m_form->row4, m_form->plusOne4}};
   m_form->start->SetRules(GregorianThroughout());
   int number = 1;
   for (const Row& row : m_rows) {
@@ -68,10 +72,12 @@ CPrefsGeneralPage::CPrefsGeneralPage(Preferences& edited)
     row.from->SetRules(JulianThroughout());
     row.from->SetNoneText(name(kNoneName));
     row.from->setAccessibleName(name(kDateName));
+    row.label->setAccessibleName(name(kDateName));  // readers prefer the name of a label
     row.plusOne->setAccessibleName(name(kPlusOneName));
     ++number;
   }
   m_form->note->setTextFormat(Qt::PlainText);
+  m_form->note->setMinimumHeight(kNoteLines * fontMetrics().lineSpacing());  // fields stay where they are
   MakeReformPresets(*m_form->reformPresets);
   MakeYearPresets(*m_form->yearPresets);
   Fill();
@@ -172,10 +178,11 @@ QWidget* CPrefsGeneralPage::FaultyField() {
   return field;
 }
 
-// Shows a note below the fields, for screen readers as the description of a field too.
-void CPrefsGeneralPage::Say(const QString& note, QWidget* field) {
+// Shows a note below the fields, and at the field that it is about.
+void CPrefsGeneralPage::Say(const QString& note, const CDateEdit* field) {
   m_form->note->setText(note);
-  if (field != nullptr) field->setAccessibleDescription(note);
+  m_form->start->Refuse(field == m_form->start ? note : QString());
+  for (const Row& row : m_rows) row.from->Refuse(field == row.from ? note : QString());
 }
 
 }  // namespace orbisol

@@ -8,6 +8,7 @@
 #include "ui/preferences/prefs_page.h"
 
 class QCheckBox;
+class QLabel;
 class QPushButton;
 
 namespace Ui {  // NOLINT(readability-identifier-naming): as the forms are generated
@@ -32,6 +33,7 @@ class CPrefsGeneralPage : public CPrefsPage {
 
  private:
   struct Row {
+    QLabel* label;
     CDateEdit* from;
     QCheckBox* plusOne;
   };
@@ -42,7 +44,7 @@ class CPrefsGeneralPage : public CPrefsPage {
   void MakeYearPresets(QPushButton& button);
   void Take();
   void FillRows(const CivilYearStyle& style);
-  void Say(const QString& note, QWidget* field = nullptr);
+  void Say(const QString& note, const CDateEdit* field = nullptr);
 
   Preferences& m_edited;
   std::unique_ptr<Ui::PrefsGeneral> m_form;

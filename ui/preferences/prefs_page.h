@@ -15,7 +15,7 @@ class CPrefsPage : public QWidget {
 
   HelpTopic Help() const { return m_help; }
 
-  // Shows the record again, when the page comes to the front: another page may have changed it.
+  // Shows the record when the page comes to the front: another page may have changed it.
   virtual void Activate() {}
 
   // Returns the field that keeps the record from being applied, and says why beside it; null for none.

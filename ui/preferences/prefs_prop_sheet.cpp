@@ -52,10 +52,7 @@ CPrefsPropSheet::CPrefsPropSheet(const SavePlaces& places, QWidget* parent)
   m_pages->addWidget(m_colors);
   for (int i = 0; i < kPageCount; ++i)
     connect(&Page(i), &CPrefsPage::settingsChanged, this, &CPrefsPropSheet::OnChanged);
-  connect(m_preview, &CPrefCalWin::elementClicked, this,
-          [this](PreviewElement element, Qt::MouseButton button) {
-            if (m_pages->currentWidget() == m_colors) m_colors->EditElement(element, button);
-          });
+  connect(m_preview, &CPrefCalWin::elementClicked, m_colors, &CPrefsColorsPage::EditElement);
   auto* const grid = new QGridLayout(this);
   grid->addWidget(m_tree, 0, 0);
   grid->addWidget(m_pages, 0, 1);
@@ -101,6 +98,7 @@ void CPrefsPropSheet::Show(PageIndex page) {
   m_pages->setCurrentIndex(page);
   Page(page).Activate();
   m_preview->SetSample(page == kConfigurationPage ? SampleKind::kReform : SampleKind::kElements);
+  m_preview->SetClickable(page == kColorsPage);
 }
 
 void CPrefsPropSheet::OnChanged() {
@@ -128,8 +126,18 @@ void CPrefsPropSheet::accept() {
 }
 
 void CPrefsPropSheet::done(int result) {
-  if (m_applied && !Save() && result == Accepted) return;
+  if (m_applied && !Save()) {
+    m_applied.reset();  // a second "Annuler" closes; the pages hold all that was applied
+    m_apply->setEnabled(true);
+    return;
+  }
   QDialog::done(result);
+}
+
+void CPrefsPropSheet::KeepUnsaved() {
+  if (!m_applied) return;
+  DisplaySettings settings = WithLive(m_applied->display, Display());
+  if (SaveUnasked(m_places, settings, m_applied->rules, Content())) PutAppliedInForce(settings);
 }
 
 // Writes what was applied, with the lists in force, and puts it in force. Returns false, with nothing
@@ -137,22 +145,32 @@ void CPrefsPropSheet::done(int result) {
 bool CPrefsPropSheet::Save() {
   DisplaySettings settings = WithLive(m_applied->display, Display());
   SavedFromWindow saved = SaveCalendarFromWindow(this, m_places, settings, m_applied->rules, Content());
-  if (saved.end == SaveEnd::kUnsaved) return false;
+  if (saved.end == SaveEnd::kUnsaved) {
+    // The key is written although the calendar's file cannot be; what is in force goes back there.
+    DisplaySettings live = Display();
+    if (saved.keyStored) SwitchCalendar(m_places.store, m_places.calendars, live, live.calendarName.View());
+    return false;
+  }
   if (saved.end == SaveEnd::kReloaded) {
     // The user wants the calendar that is in the file; the switches of the view belong to none.
     PutInForce(std::move(*saved.reloaded));
+    m_applied->rules = Rules();
     settings.Look() = Display().Look();
     settings.changed = false;
     saved.keyStored =
         SwitchCalendar(m_places.store, m_places.calendars, settings, settings.calendarName.View());
-  } else {
-    Rules() = m_applied->rules;
   }
-  Display() = std::move(settings);
-  m_applied.reset();
+  PutAppliedInForce(settings);
   if (!saved.keyStored) Messages().ShowError(this, TableText(kTextSwitchesNotStored));
-  emit settingsSaved();
   return true;
+}
+
+// Puts saved settings in force, with the rules that were applied.
+void CPrefsPropSheet::PutAppliedInForce(const DisplaySettings& saved) {
+  Rules() = m_applied->rules;
+  Display() = saved;
+  m_applied.reset();
+  emit settingsSaved();
 }
 
 }  // namespace orbisol

@@ -7,7 +7,8 @@
 // The pages edit a copy of the stored look, switches and rules; lists of events and periods are not part of
 // it. "Appliquer" freezes that copy, and closing saves the one frozen last, whichever button closes: OK
 // applies first, "Annuler" does not. What was never applied changes nothing, neither on the disk nor on the
-// screen. After a save the frozen copy is in force.
+// screen. After a save the frozen copy is in force. Where it cannot be saved, and the user answers no
+// question about that, the sheet stays open and "Appliquer" can be pressed again.
 #pragma once
 
 #include <QDialog>
@@ -17,6 +18,7 @@
 
 #include "ui/preferences/prefs_page.h"
 #include "ui/window/save_calendar.h"
+#include "ui/window/session_end.h"
 
 class QPushButton;
 class QStackedWidget;
@@ -27,7 +29,7 @@ namespace orbisol {
 class CPrefCalWin;
 class CPrefsColorsPage;
 
-class CPrefsPropSheet : public QDialog {
+class CPrefsPropSheet : public QDialog, public SessionWindow {
   Q_OBJECT
 
  public:
@@ -44,8 +46,10 @@ class CPrefsPropSheet : public QDialog {
   CPrefCalWin& Preview() { return *m_preview; }
 
   void accept() override;
-  // Saves what was applied, then closes. Where it could not be saved "OK" leaves the sheet open.
+  // Saves what was applied, then closes. Stays open where it could not be saved.
   void done(int result) override;
+  // Saves what was applied when the session ends.
+  void KeepUnsaved() override;
 
  signals:
   void settingsSaved();  // look, switches or rules in force are now others
@@ -57,6 +61,7 @@ class CPrefsPropSheet : public QDialog {
   CPrefsPage& Page(int index);
   void OnChanged();
   bool Save();
+  void PutAppliedInForce(const DisplaySettings& saved);
 
   SavePlaces m_places;
   Preferences m_edited;

@@ -56,7 +56,6 @@ CPrefsScreenPage::CPrefsScreenPage(Preferences& edited)
   connect(m_form->picturePath, &CPictureChooser::pathChanged, this, &CPrefsScreenPage::TakePath);
   connect(m_form->chooseFont, &QPushButton::clicked, this, &CPrefsScreenPage::ChooseFont);
   connect(m_form->dialogFont, &QPushButton::clicked, this, [this] { SetFont({}, kNormalWeight); });
-  Activate();
 }
 
 CPrefsScreenPage::~CPrefsScreenPage() = default;

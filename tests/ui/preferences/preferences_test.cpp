@@ -1,275 +1,18 @@
-// The preferences as a user meets them: every control is changed with mouse or keyboard in the open sheet,
-// and looked for in the calendar's file, in the key and on the screen of the next start.
+// The sheet of the preferences as a whole: what its buttons keep, what it refuses, its presets and its
+// preview.
 
-#include <QAction>
-#include <QCheckBox>
 #include <QColorDialog>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFontDialog>
 #include <QLabel>
-#include <QMenu>
-#include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
-#include <QStackedWidget>
-#include <QTemporaryDir>
-#include <QTimer>
 
-#include "content/calendar_content.h"
-#include "tests/support/calendar_builder.h"
-#include "tests/ui/shell/frame_fixture.h"
-#include "ui/preferences/pref_cal_win.h"
-#include "ui/preferences/prefs_prop_sheet.h"
+#include "tests/ui/preferences/preferences_fixture.h"
 #include "ui/toolkit/date_edit.h"
-#include "ui/toolkit/picture_chooser.h"
 
 namespace orbisol {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr PackedDate kShown = 20240515;
-
-class PreferencesTest : public FrameTest {
- protected:
-  PreferencesTest() {
-    CalendarFile calendar;
-    calendar.content = {{Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire"}),
-                         Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 14, .name = u"Dîner"})},
-                        {Period(20240520, 20240524, u"Vacances")}};
-    calendar.look.backgroundImage = false;
-    files.Put(u"/user/Calendar.xml", WriteCalendar(calendar, CalendarForm::kUser));
-    store.Write({{"FullCellBkgnd", DwordValue(1)}});
-    StoreLayout({.rect = {50, 50, 1250, 900}, .rightPaneShown = true});  // cells have room for texts
-    Open();
-    OpenSheet();
-  }
-
-  void OpenSheet() {
-    sheet = std::make_unique<CPrefsPropSheet>(SavePlaces{store, calendars}, frame.get());
-    QObject::connect(sheet.get(), &CPrefsPropSheet::settingsSaved, frame.get(),
-                     &CCalendarFrame::CalendarChanged);
-    sheet->show();
-    sheet->activateWindow();
-    Settle();
-  }
-
-  template <class Widget = QWidget>
-  Widget& Find(const char* name) {
-    auto* const found = sheet->findChild<Widget*>(QString::fromLatin1(name));
-    if (found == nullptr) throw std::runtime_error(name);
-    return *found;
-  }
-  void Press(QDialogButtonBox::StandardButton which) {
-    QTest::mouseClick(sheet->findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
-    Settle();
-  }
-  void Click(const char* box) {
-    auto& widget = Find<QCheckBox>(box);
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(8, widget.height() / 2));
-  }
-  void Type(const char* field, const QString& text) {
-    auto& edit = Find<QLineEdit>(field);
-    edit.setFocus();
-    edit.selectAll();
-    QTest::keyClicks(&edit, text);
-  }
-  void Choose(const char* menuButton, const QString& beginning) {
-    for (QAction* const action : Find<QPushButton>(menuButton).menu()->actions())
-      if (action->text().startsWith(beginning)) return action->trigger();
-    ADD_FAILURE() << "no entry " << qPrintable(beginning);
-  }
-  // Does what opens a dialog, and leaves that dialog to `act`.
-  template <class Dialog>
-  void WithDialog(const std::function<void()>& open, const std::function<void(Dialog&)>& act) {
-    QTimer untilOpen;
-    bool isOpened = false;
-    QObject::connect(&untilOpen, &QTimer::timeout, [&] {
-      auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      untilOpen.stop();
-      isOpened = true;
-      act(*dialog);
-      dialog->accept();
-    });
-    untilOpen.start(0);
-    open();
-    EXPECT_TRUE(isOpened);
-  }
-
-  // The main window without what depends on the focus and the pointer.
-  struct Seen {
-    QImage month, header;
-    QString status;
-    bool operator==(const Seen&) const = default;
-  };
-  // Returns the main window as it is with that date after a restart.
-  Seen AfterRestart(PackedDate date) {
-    sheet.reset();
-    frame.reset();
-    Display() = DisplaySettings();
-    Rules() = DefaultCalendarRules();
-    Content() = CalendarContent();
-    Select(date);
-    Open();
-    Show(date);
-    Dialog().Month().clearFocus();
-    Settle();
-    return {Dialog().Month().grab().toImage(), Dialog().Header().grab().toImage(), frame->StatusText()};
-  }
-  std::string Stored() const { return files.files.at(u"/user/Calendar.xml").bytes + *store.text; }
-
-  std::unique_ptr<CPrefsPropSheet> sheet;
-};
-
-struct ControlRow {
-  const char* name;
-  CPrefsPropSheet::PageIndex page;
-  std::function<void(PreferencesTest&)> change;
-  std::string stored;         // text that file or key holds afterwards, and not before
-  PackedDate shown = kShown;  // date whose month looks otherwise afterwards
-  bool isSeen = true;
-};
-
-class PreferencesControlTest : public PreferencesTest {
- public:
-  static void ClickBox(PreferencesTest& test, const char* box) {
-    static_cast<PreferencesControlTest&>(test).Click(box);
-  }
-  static PreferencesControlTest& Of(PreferencesTest& test) {
-    return static_cast<PreferencesControlTest&>(test);
-  }
-
-  static std::vector<ControlRow> Controls();
-
-  void Change(const ControlRow& control) {
-    sheet->ShowPage(control.page);
-    Settle();
-    control.change(*this);
-    Settle();
-  }
-};
-
-ControlRow Box(const char* name, CPrefsPropSheet::PageIndex page, const std::string& stored,
-               bool isSeen = true, PackedDate shown = kShown) {
-  return {name,   page,  [name](PreferencesTest& test) { PreferencesControlTest::ClickBox(test, name); },
-          stored, shown, isSeen};
-}
-
-std::vector<ControlRow> PreferencesControlTest::Controls() {
-  constexpr auto kGeneral = CPrefsPropSheet::kConfigurationPage;
-  constexpr auto kScreen = CPrefsPropSheet::kDisplayPage;
-  constexpr auto kColors = CPrefsPropSheet::kColorsPage;
-  std::vector<ControlRow> controls = {
-      Box("grid", kScreen, "\"Grid\"=dword:00000000"),
-      Box("weekNumbers", kScreen, "\"ShowWeekNumber\"=dword:00000000"),
-      Box("cellTexts", kScreen, "\"CellTexts\"=dword:00000001"),
-      Box("circle", kScreen, "\"CircleTheDay\"=dword:00000001"),
-      Box("fullCell", kScreen, "\"FullCellBkgnd\"=dword:00000000"),
-      Box("collapse", kScreen, "\"CollapseCells\"=dword:00000000"),
-      Box("tips", kScreen, "\"TipsEvtOnly\"=dword:00000000"),
-      Box("magnet", kScreen, "\"MagnetMouse\"=dword:00000000", false),
-      Box("picture", kScreen, "<bgImage>1<"),
-      {"circleWidth", kScreen,
-       [](PreferencesTest& test) { QTest::keyClick(&Of(test).Find("circleWidth"), Qt::Key_Down); },
-       "\"CircleWidth\"=dword:00000003"},
-      {"picturePath", kScreen,
-       [](PreferencesTest& test) {
-         auto& edit = *Of(test).Find("picturePath").findChild<QLineEdit*>();
-         edit.setFocus();
-         QTest::keyClicks(&edit, u"/nowhere/ciel.png"_s);
-         Of(test).Find("grid").setFocus();
-       },
-       "<bgImagePath>/nowhere/ciel.png<", kShown, false},
-      {"chooseFont", kScreen,
-       [](PreferencesTest& test) {
-         Of(test).WithDialog<QFontDialog>(
-             [&] { QTest::mouseClick(&Of(test).Find("chooseFont"), Qt::LeftButton); },
-             [](QFontDialog& dialog) { dialog.setCurrentFont(QFont(u"DejaVu Serif"_s, 12, QFont::Bold)); });
-       },
-       "<fontName>DejaVu Serif<"},
-      {"alpha", kColors,
-       [](PreferencesTest& test) { QTest::keyClick(&Of(test).Find("alpha"), Qt::Key_PageUp); },
-       "\"BkgndAlpha\"=dword:00000090"},
-      Box("iso8601", kGeneral, "<iso8601>0<"),
-      Box("proleptic", kGeneral, "<proleptic>1<", true, 40201),
-      {"start", kGeneral, [](PreferencesTest& test) { Of(test).Type("start", u"14/09/1752"_s); },
-       "<startGregorian>17520914<", 17520902},
-      {"reformPresets", kGeneral,
-       [](PreferencesTest& test) { Of(test).Choose("reformPresets", u"Russie"_s); },
-       "<startGregorian>19180214<", 19180214},
-      {"yearPresets", kGeneral, [](PreferencesTest& test) { Of(test).Choose("yearPresets", u"1er mars"_s); },
-       "<firstDayOfYear>15820101", 15000201},
-  };
-  for (const int row : {1, 2, 3, 4}) {
-    controls.push_back({"row", kGeneral,
-                        [row](PreferencesTest& test) {
-                          const auto date = [](int fromBelow, const QString& years) {
-                            return u"25/03/1"_s + QString::number(5 - fromBelow) + years;
-                          };
-                          for (int above = 1; above < row; ++above)
-                            Of(test).Type(qPrintable(u"row%1"_s.arg(above)), date(above, u"50"_s));
-                          Of(test).Type(qPrintable(u"row%1"_s.arg(row)), date(row, u"00"_s));
-                          Of(test).Click(qPrintable(u"plusOne%1"_s.arg(row)));
-                        },
-                        "+1" + std::to_string(5 - row) + "000325", Pack(1010 + 100 * (5 - row), 4, 1)});
-  }
-  for (int color = 0; color < kColorCount; ++color)
-    controls.push_back({"color", kColors,
-                        [color](PreferencesTest& test) {
-                          const auto caption = ColorTable()[static_cast<std::size_t>(color)].text;
-                          for (auto* const button : Of(test).sheet->findChildren<QPushButton*>()) {
-                            if (button->accessibleName() !=
-                                QString::fromUtf16(caption.data(), static_cast<qsizetype>(caption.size())))
-                              continue;
-                            Of(test).WithDialog<QColorDialog>(
-                                [&] { QTest::mouseClick(button, Qt::LeftButton); },
-                                [&](QColorDialog& dialog) {
-                                  EXPECT_EQ(dialog.windowTitle(), button->accessibleName());
-                                  dialog.setCurrentColor(QColor(0x12, 0x34, 0x56));
-                                });
-                          }
-                        },
-                        "#563412"});
-  return controls;
-}
-
-TEST_F(PreferencesControlTest, EachIsFoundAgainInFileKeyAndOnScreenAndCancelChangesNothing) {
-  const std::string fresh = Stored();
-  const auto file = files.files;
-  const auto key = store.text;
-  for (const ControlRow& control : Controls()) {
-    SCOPED_TRACE(control.name + (" " + control.stored));
-    EXPECT_EQ(fresh.find(control.stored), std::string::npos);
-    AfterRestart(control.shown);  // large glyphs are drawn a little otherwise the first time
-    const Seen before = AfterRestart(control.shown);
-
-    // Live records say all that is painted. Pictures are not compared here: the toolkit draws large glyphs a
-    // little otherwise after new ones, such as those of the preview, came into its cache.
-    const DisplaySettings display = Display();
-    const CalendarRules rules = Rules();
-    OpenSheet();
-    Change(control);
-    Press(QDialogButtonBox::Cancel);
-    EXPECT_EQ(Stored(), fresh);
-    EXPECT_TRUE(Display() == display);
-    EXPECT_TRUE(Rules() == rules);
-
-    OpenSheet();
-    Change(control);
-    EXPECT_EQ(Stored(), fresh);
-    Press(QDialogButtonBox::Ok);
-    ASSERT_FALSE(sheet->isVisible());
-    EXPECT_NE(Stored().find(control.stored), std::string::npos) << Stored();
-    EXPECT_EQ(AfterRestart(control.shown) != before, control.isSeen);
-
-    sheet.reset();
-    frame.reset();
-    store.text = key;
-    files.files = file;
-  }
-  EXPECT_EQ(messages.beeps, 0);
-}
 
 TEST_F(PreferencesTest, CancelAfterApplyKeepsWhatWasAppliedAndNothingLater) {
   const std::string fresh = Stored();
@@ -285,20 +28,50 @@ TEST_F(PreferencesTest, CancelAfterApplyKeepsWhatWasAppliedAndNothingLater) {
   EXPECT_FALSE(Display().changed);
 }
 
-// A sheet that is open while somebody else writes the file must not overwrite it in silence.
-TEST_F(PreferencesTest, AFileThatSomebodyElseChangedIsAskedAboutAndNoAnswerChangesNothing) {
-  sheet.reset();
-  files.Put(u"/user/Calendar.xml", BytesWith(u"Une autre"));
+// What is applied is in no hands but the sheet's when the session ends over it.
+TEST_F(PreferencesTest, TheEndOfTheSessionKeepsWhatWasAppliedAndNothingLater) {
+  Click("proleptic");
+  frame->KeepForNextSession();
+  EXPECT_EQ(Stored().find("<proleptic>1<"), std::string::npos);
+  Press(QDialogButtonBox::Apply);
+  Click("iso8601");
+  frame->KeepForNextSession();
+  EXPECT_NE(Stored().find("<proleptic>1<"), std::string::npos);
+  EXPECT_TRUE(sheet->isVisible() && Rules().proleptic && Rules().iso8601);
+}
+
+TEST_F(PreferencesTest, AFileThatCannotSimplyBeReplacedIsAskedAboutAndNoAnswerChangesNothing) {
   Content().vacations.clear();  // not saved yet
-  const std::string theirs = Stored();
+  for (const bool isOther : {false, true}) {
+    SCOPED_TRACE(isOther);
+    if (isOther) {  // somebody else wrote it while the sheet is open
+      files.failingWrites.clear();
+      files.Put(u"/user/Calendar.xml", BytesWith(u"Une autre"));
+    } else {
+      files.failingWrites.insert(u"/user/Calendar.xml");
+    }
+    const std::string theirs = files.files.at(u"/user/Calendar.xml").bytes;
+    messages.questions.clear();
+    OpenSheet();
+    Click("iso8601");
+    sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
+    Click("grid");
+    Press(QDialogButtonBox::Ok);
+    EXPECT_TRUE(sheet->isVisible());
+    Press(QDialogButtonBox::Apply);  // can be pressed again
+    Press(QDialogButtonBox::Cancel);
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_EQ(messages.questions.size(), 2U);
+    EXPECT_EQ(files.files.at(u"/user/Calendar.xml").bytes, theirs);
+    EXPECT_NE(DwordOf(*store.Read(), "Grid"), 0U);
+    EXPECT_TRUE(Rules().iso8601 && Display().grid);
+    EXPECT_TRUE(Content().vacations.empty());
+    Press(QDialogButtonBox::Cancel);
+    EXPECT_FALSE(sheet->isVisible());
+    EXPECT_EQ(messages.questions.size(), 2U);
+  }
   OpenSheet();
   Click("iso8601");
-  Press(QDialogButtonBox::Ok);
-  EXPECT_TRUE(sheet->isVisible());
-  EXPECT_EQ(messages.questions.size(), 1U);
-  EXPECT_EQ(Stored(), theirs);
-  EXPECT_TRUE(Rules().iso8601);
-  EXPECT_TRUE(Content().vacations.empty());
   messages.answers = {1};  // reload
   Press(QDialogButtonBox::Ok);
   EXPECT_FALSE(sheet->isVisible());
@@ -323,6 +96,7 @@ TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) 
       {{"25/03/1400", "", "", ""}, "29/02/1700", "start"},
       {{"01/01/1701", "", "", ""}, "12/01/1701", nullptr},  // a day that this reform drops
       {{"", "", "", ""}, "10/10/1582", nullptr},            // one that the reform in force drops
+      {{"", "", "", ""}, "", "start"},
   };
   for (const auto& example : kCases) {
     SCOPED_TRACE(std::string(example.start) + " " + example.rows[0] + " " + example.rows[1] + " " +
@@ -335,6 +109,7 @@ TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) 
       Type(qPrintable(u"row%1"_s.arg(row + 1)), QString::fromLatin1(*text == '\0' ? "aucune" : text));
     }
     Click("iso8601");
+    const int place = Find("row4").y();
     sheet->ShowPage(CPrefsPropSheet::kColorsPage);
     const int beeps = messages.beeps;
     Press(QDialogButtonBox::Ok);
@@ -343,7 +118,13 @@ TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) 
     if (example.field != nullptr) {
       EXPECT_EQ(sheet->focusWidget(), &Find(example.field));
       EXPECT_TRUE(Find(example.field).isVisible());
-      EXPECT_FALSE(Find<QLabel>("note").text().isEmpty());
+      const QString reason = Find<QLabel>("note").text();
+      EXPECT_FALSE(reason.isEmpty());
+      EXPECT_EQ(Find(example.field).accessibleDescription(), reason);
+      EXPECT_EQ(Find("row4").y(), place);  // no field moves away from under the pointer
+      Choose("yearPresets", u"1er mars"_s);
+      Choose("reformPresets", u"Rome"_s);
+      EXPECT_NE(Find(example.field).accessibleDescription(), reason);  // mended elsewhere too
       Press(QDialogButtonBox::Cancel);
       EXPECT_EQ(Stored(), fresh);
     }
@@ -385,6 +166,11 @@ TEST_F(PreferencesTest, PresetsOfReformsGiveTheMonthsOfTheirCountries) {
 
 TEST_F(PreferencesTest, ClicksOnThePreviewEditTheColorsOfWhatWasHit) {
   CPrefCalWin& preview = sheet->Preview();
+  sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
+  Settle();
+  QSignalSpy clicks(&preview, &CPrefCalWin::elementClicked);
+  QTest::mouseClick(&preview, Qt::LeftButton, {}, preview.DayRect(3, 8).center());
+  EXPECT_EQ(clicks.size(), 0);
   sheet->ShowPage(CPrefsPropSheet::kColorsPage);
   Settle();
   const struct {
@@ -423,16 +209,26 @@ TEST_F(PreferencesTest, ClicksOnThePreviewEditTheColorsOfWhatWasHit) {
 }
 
 TEST_F(PreferencesTest, ASetOfColorsThatNeedsAPlainGroundTakesThePictureAwayAndTheLightOneBringsItBack) {
-  sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
-  Click("picture");
-  sheet->ShowPage(CPrefsPropSheet::kColorsPage);
-  for (const auto& [preset, isShown] : {std::pair{u"Sombre"_s, false}, {u"Clair"_s, true}}) {
-    Choose("presets", preset);
-    EXPECT_EQ(Find<QLabel>("presetNote").text().isEmpty(), isShown);
+  const struct {
+    bool isShownByHand;  // before the set is chosen
+    QString preset;
+    bool isShown;
+  } kSteps[] = {
+      {false, u"Sombre"_s, false},   {false, u"Clair"_s, false}, {true, u"Sombre"_s, false},
+      {true, u"Contraste"_s, false}, {false, u"Clair"_s, true},  {false, u"Clair"_s, true},
+  };
+  for (const auto& step : kSteps) {
+    SCOPED_TRACE(qPrintable(step.preset));
     sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
-    EXPECT_EQ(Find<QCheckBox>("picture").isChecked(), isShown);
+    if (step.isShownByHand) Click("picture");
     sheet->ShowPage(CPrefsPropSheet::kColorsPage);
+    const bool hadNote = !Find<QLabel>("presetNote").text().isEmpty();
+    EXPECT_FALSE(hadNote && step.isShownByHand);
+    Choose("presets", step.preset);
+    sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
+    EXPECT_EQ(Find<QCheckBox>("picture").isChecked(), step.isShown);
   }
+  EXPECT_TRUE(Find<QLabel>("presetNote").text().isEmpty());
 }
 
 TEST_F(PreferencesTest, TextsInTheCellsAreACommandThatStoresOneValueAndHoldsWhereItCannot) {
