@@ -17,15 +17,6 @@
 namespace orbisol {
 namespace {
 
-// Sets the colors that a dark desktop sets for all programs.
-QPalette DarkTheme() {
-  QPalette dark(QColor(0x3A, 0x3A, 0x3A), QColor(0x2B, 0x2B, 0x2B));
-  dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
-  dark.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xE4));
-  dark.setColor(QPalette::HighlightedText, Qt::white);
-  return dark;
-}
-
 void DragFromSelected(CMonthWindow& window, PackedDate to) {
   const YearMonthDay end = Unpack(to);
   const auto middle = [&](int cell) {

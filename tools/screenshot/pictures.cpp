@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 #include <QWidget>
 
@@ -38,6 +39,14 @@ void CPictureFolder::Write(const Picture& picture, const QString& name) {
   if (picture.save(path)) return;
   ++m_failures;
   std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+}
+
+QPalette DarkTheme() {
+  QPalette dark(QColor(0x3A, 0x3A, 0x3A), QColor(0x2B, 0x2B, 0x2B));
+  dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x1E));
+  dark.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xE4));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  return dark;
 }
 
 std::string FileOfFrance() {

@@ -7,6 +7,7 @@
 #include <string>
 
 class QImage;
+class QPalette;
 class QWidget;
 
 namespace orbisol {
@@ -32,6 +33,9 @@ class CPictureFolder {
   QString m_path;
   int m_failures = 0;
 };
+
+// Returns the colors that a dark desktop sets for all programs.
+QPalette DarkTheme();
 
 // Returns the bytes of the shipped calendar of France.
 std::string FileOfFrance();

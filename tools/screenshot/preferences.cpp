@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPalette>
 #include <QPushButton>
 
 #include "content/calendar_content.h"
@@ -45,7 +46,7 @@ void Restore() {
   Selected().SetPacked(20260513);
 }
 
-void TakeSheet(CPictureFolder& folder) {
+void TakeSheet(CPictureFolder& folder, const QString& suffix) {
   Restore();
   CMemoryStore store("\"CalendarName\"=\"Calendar\"\n");
   CMemoryFiles files;
@@ -53,26 +54,41 @@ void TakeSheet(CPictureFolder& folder) {
   CPrefsPropSheet sheet({store, calendars});
   sheet.show();
   QApplication::processEvents();
-  folder.Save(sheet, QStringLiteral("preferences_configuration"));
+  folder.Save(sheet, QStringLiteral("preferences_configuration") + suffix);
   auto* const presets = sheet.findChild<QPushButton*>(QStringLiteral("reformPresets"))->menu();
   presets->popup(sheet.geometry().topLeft());
-  folder.Save(*presets, QStringLiteral("preferences_reforms"));
+  folder.Save(*presets, QStringLiteral("preferences_reforms") + suffix);
   presets->close();
   sheet.findChild<QPushButton*>(QStringLiteral("yearPresets"))->menu()->actions().constLast()->trigger();
   sheet.findChild<QLineEdit*>(QStringLiteral("row3"))->setText(QStringLiteral("25/03/1700"));
   sheet.findChild<QLineEdit*>(QStringLiteral("row3"))->textEdited(QStringLiteral("25/03/1700"));
   sheet.Apply();
   QApplication::processEvents();
-  folder.Save(sheet, QStringLiteral("preferences_refused"));
+  folder.Save(sheet, QStringLiteral("preferences_refused") + suffix);
   sheet.ShowPage(CPrefsPropSheet::kDisplayPage);
   QApplication::processEvents();
-  folder.Save(sheet, QStringLiteral("preferences_display"));
+  folder.Save(sheet, QStringLiteral("preferences_display") + suffix);
   sheet.ShowPage(CPrefsPropSheet::kColorsPage);
   QApplication::processEvents();
-  folder.Save(sheet, QStringLiteral("preferences_colors"));
+  folder.Save(sheet, QStringLiteral("preferences_colors") + suffix);
   sheet.findChild<QPushButton*>(QStringLiteral("presets"))->menu()->actions().at(kDarkColors)->trigger();
   QApplication::processEvents();
-  folder.Save(sheet, QStringLiteral("preferences_colors_dark"));
+  folder.Save(sheet, QStringLiteral("preferences_colors_dark") + suffix);
+}
+
+// Takes the pages in the font of the desktop, in one twice as large, and under a dark theme.
+void TakeSheets(CPictureFolder& folder) {
+  TakeSheet(folder, {});
+  const QFont font = QApplication::font();
+  QFont large = font;
+  large.setPointSizeF(2 * font.pointSizeF());
+  QApplication::setFont(large);
+  TakeSheet(folder, QStringLiteral("_large_font"));
+  QApplication::setFont(font);
+  const QPalette palette = QApplication::palette();
+  QApplication::setPalette(DarkTheme());
+  TakeSheet(folder, QStringLiteral("_dark_theme"));
+  QApplication::setPalette(palette);
 }
 
 struct TextsPicture {
@@ -105,7 +121,7 @@ const TextsPicture kTextsPictures[] = {
 }  // namespace
 
 void TakePreferences(CPictureFolder& folder) {
-  TakeSheet(folder);
+  TakeSheets(folder);
   for (const TextsPicture& picture : kTextsPictures) {
     Restore();
     FillMay();
