@@ -37,6 +37,7 @@ TEST_F(PreferencesTest, TheEndOfTheSessionKeepsWhatWasAppliedAndNothingLater) {
   Click("iso8601");
   frame->KeepForNextSession();
   EXPECT_NE(Stored().find("<proleptic>1<"), std::string::npos);
+  EXPECT_EQ(Stored().find("<iso8601>0<"), std::string::npos);
   EXPECT_TRUE(sheet->isVisible() && Rules().proleptic && Rules().iso8601);
 }
 
@@ -71,11 +72,13 @@ TEST_F(PreferencesTest, AFileThatCannotSimplyBeReplacedIsAskedAboutAndNoAnswerCh
     EXPECT_EQ(messages.questions.size(), 2U);
   }
   OpenSheet();
+  const bool isIso = Find<QCheckBox>("iso8601").isChecked();
   Click("iso8601");
   messages.answers = {1};  // reload
   Press(QDialogButtonBox::Ok);
   EXPECT_FALSE(sheet->isVisible());
   EXPECT_EQ(Content().dayEvents[0].name.View(), u"Une autre");
+  EXPECT_EQ(Rules().iso8601, isIso);
 }
 
 TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) {
