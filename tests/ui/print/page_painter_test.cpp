@@ -233,6 +233,22 @@ TEST(PagePainterTest, MoonWeeksAndSundaysFollowTheirSwitches) {
   EXPECT_NE(american.Darkness(label(5)), moonless.Darkness(label(5))) << "a Sunday";
 }
 
+TEST(PagePainterTest, LinesAreHeavierUnderAWeekAMonthAndADecade) {
+  const PaintedPage page(WithOptions(JobOf(kCmdFormatMonth, kCmdPeriodMonth, 1799, 11), kRepublicanOption));
+  const ColumnLayout column = page.Column(1, 0);
+  const auto line = [&](int day, int left, int right) {
+    const int y = column.RowTop(day + 1);
+    return page.Darkness({left, y - 4, right, y + 4});
+  };
+  const int middle = column.left + column.width / 2;
+  const int thin = line(4, middle, middle + 50);
+  EXPECT_GT(line(3, middle, middle + 50), thin * 17 / 10) << "a Sunday";
+  EXPECT_GT(line(30, middle, middle + 50), thin * 17 / 10) << "a Saturday, but the last day";
+  const int right = column.left + column.width;
+  EXPECT_GT(line(1, right - column.width / 4, right), line(4, right - column.width / 4, right) * 12 / 10)
+      << "the end of a decade";
+}
+
 TEST(PagePainterTest, AMonthAsOnTheScreenHasItsColorsAndItsGround) {
   PrintSource source = SourceOfTests();
   source.settings.colors[kHeaderBgColor] = Rgb(10, 60, 20);

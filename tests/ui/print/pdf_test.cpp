@@ -86,6 +86,14 @@ void CheckText(const PdfFile& file, const PrintJob& job) {
   EXPECT_EQ(text.contains(QStringLiteral("Dentiste")), hasMay && job.Has(kEventOption));
   EXPECT_EQ(text.contains(QStringLiteral("Repos")), hasMay && job.Has(kVacationOption));
   EXPECT_EQ(text.contains(QStringLiteral("floréal")), hasMay && job.Has(kRepublicanOption));
+  EXPECT_EQ(text.contains(QStringLiteral("Julien Républicain")),
+            job.formatCommand == kCmdFormatMonth && job.Has(kJulianOption) && job.Has(kRepublicanOption));
+  if (hasMay) {
+    EXPECT_TRUE(text.contains(QStringLiteral("s. 22"))) << "the week of the 27th";
+  }
+  if (hasMay && job.formatCommand != kCmdFormatTable) {
+    EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("\\b1 M\\b")))) << "a Wednesday";
+  }
   EXPECT_EQ(
       text.contains(QStringLiteral("avril")),
       (hasMay && job.Has(kJulianOption)) || ToQString(job.Caption(0)).contains(QStringLiteral("avril")));
