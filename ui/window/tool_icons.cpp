@@ -126,11 +126,15 @@ class CProgramIcon : public QIconEngine {
   }
 
  private:
-  // Small icons have drawings of their own, whose lines fall on whole pixels.
+  // Returns the drawing of the greatest size that is not above `side`: small sizes have drawings of their
+  // own, whose lines fall on whole pixels.
   static QString DrawingFor(int side) {
-    for (const int drawn : {16, 22, 24, 32})
-      if (side <= drawn) return QStringLiteral("orbisol-%1").arg(drawn);
-    return QStringLiteral("orbisol");
+    constexpr int kFrom = 64;  // from here on one drawing serves all
+    if (side >= kFrom) return QStringLiteral("orbisol");
+    int drawn = kSmallGrid;
+    for (const int size : {22, 24, 32, 48})
+      if (size <= side) drawn = size;
+    return QStringLiteral("orbisol-%1").arg(drawn);
   }
 };
 
