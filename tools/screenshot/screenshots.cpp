@@ -2,8 +2,10 @@
 // that never changes.
 //
 //   QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 orbisol_screenshots build/screenshots main_window fields
+//   QT_QPA_PLATFORM=offscreen orbisol_screenshots build/screenshots/dark theme=dark
 //
-// Without the name of a set all are taken.
+// Without the name of a set all are taken; "theme=dark" and "theme=contrast" give them the palette of such a
+// desktop.
 
 #include <QApplication>
 #include <QDir>
@@ -12,8 +14,10 @@
 #include <cstdio>
 
 #include "tests/support/fakes.h"
+#include "tests/support/themes.h"
 #include "tools/screenshot/pictures.h"
 #include "ui/toolkit/french_toolkit.h"
+#include "ui/toolkit/program_style.h"
 
 namespace orbisol {
 namespace {
@@ -57,12 +61,16 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QStringList arguments = QCoreApplication::arguments().mid(1);
   if (arguments.isEmpty()) {
-    std::fputs("usage: orbisol_screenshots FOLDER [SET...]\n", stderr);
+    std::fputs("usage: orbisol_screenshots FOLDER [theme=dark|theme=contrast] [SET...]\n", stderr);
     return 2;
   }
   orbisol::SpeakFrench(application);
+  orbisol::SetProgramStyle();
   const QString path = arguments.takeFirst();
   if (!QDir().mkpath(path)) return 1;
+  for (const orbisol::Theme& theme : {orbisol::kDarkTheme, orbisol::kContrastTheme})
+    if (arguments.removeAll(QStringLiteral("theme=%1").arg(QLatin1String(theme.name))) > 0)
+      QApplication::setPalette(theme.Palette());
   orbisol::CPictureFolder folder(path);
   return orbisol::TakeSets(folder, arguments);
 }

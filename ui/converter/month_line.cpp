@@ -56,7 +56,11 @@ void CMonthLine::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const bool isTinted = option.state.testFlag(QStyle::State_MouseOver) || index.data(kMarkedRole).toBool();
   QColor ground = option.palette.color(QPalette::Highlight);
   constexpr float kTint = 0.14F;
-  if (!hasKeyboard) ground.setAlphaF(isTinted ? kTint : 0.0F);
+  if (!hasKeyboard) {
+    ground = LegibleOn(option.palette.color(QPalette::Window),
+                       ground);  // a dark tint is not seen on a dark ground
+    ground.setAlphaF(isTinted ? kTint : 0.0F);
+  }
   painter->fillRect(option.rect, ground);
 
   const HighlightKind kind = KindOf(index);

@@ -9,6 +9,7 @@
 #include "core/date_text.h"
 #include "resources/strings.h"
 #include "ui/editors/row_list.h"
+#include "ui/toolkit/colors.h"
 #include "ui/toolkit/field_note.h"
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/spoken_value.h"
@@ -79,6 +80,7 @@ CEventsDialog::CEventsDialog(const EditorServices& services, const CalendarConte
          kHelpEvents},
         std::unique_ptr<CRowsModel>(m_events));
   form.help->setForegroundRole(QPalette::PlaceholderText);
+  ColorHelp();
   form.help->setText(LongestPiece(kTextKindHelp, kKinds));
   form.fallsOn->setText(TableText(kTextLongestFallsOn));
   LayOut({4, 6, 4, 2}, {form.name, form.type, form.since, form.until}, {form.help, form.fallsOn});
@@ -88,6 +90,18 @@ CEventsDialog::CEventsDialog(const EditorServices& services, const CalendarConte
 }
 
 CEventsDialog::~CEventsDialog() = default;
+
+void CEventsDialog::changeEvent(QEvent* event) {
+  CEditorDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_form->help != nullptr) ColorHelp();
+}
+
+// Draws what explains the kind of an event like a note.
+void CEventsDialog::ColorHelp() {
+  QPalette colors;
+  colors.setColor(QPalette::PlaceholderText, NoteColor(palette(), QPalette::Window));
+  m_form->help->setPalette(colors);
+}
 
 void CEventsDialog::ConnectForm() {
   const auto edited = [this] { OnEdited(); };

@@ -32,6 +32,7 @@ class CEventsDialog : public CEditorDialog {
   const CEventList& Events() const { return *m_events; }
 
  protected:
+  void changeEvent(QEvent* event) override;
   void ShowFields(int row) override;
   bool IsFormEdited() const override;
   bool IsFormRead() const override;
@@ -48,6 +49,7 @@ class CEventsDialog : public CEditorDialog {
   void SetFields(const EventFields& fields);
   std::vector<Refusal<EventField>> Refusals() const;
   void ConnectForm();
+  void ColorHelp();
   void OnEdited();
   void ShowKind();
   void ShowNotes(bool all);

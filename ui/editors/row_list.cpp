@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include "ui/toolkit/colors.h"
+
 namespace orbisol {
 namespace {
 
@@ -59,7 +61,7 @@ void CRowList::paintEvent(QPaintEvent* event) {
   QTreeView::paintEvent(event);
   if (model() == nullptr || model()->rowCount() > 0 || m_emptyText.isEmpty()) return;
   QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.setPen(NoteColor(palette(), QPalette::Base));
   const int margin = fontMetrics().height();
   painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                    Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);

@@ -150,11 +150,6 @@ void CCalendarFrame::Open() {
   }
 }
 
-void CCalendarFrame::changeEvent(QEvent* event) {
-  QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && m_dialog != nullptr) m_dialog->ThemeChanged();
-}
-
 void CCalendarFrame::StoreLayout() {
   ClosingFrame closing = m_placement->Closing();
   closing.paneShown = m_dialog->IsPaneShown();
@@ -163,9 +158,13 @@ void CCalendarFrame::StoreLayout() {
   SaveMainWindowLayout(m_services.store, Display().mainLayout, closing, VirtualScreen());
 }
 
-void CCalendarFrame::KeepForNextSession() {
+void CCalendarFrame::KeepUnsaved() {
   KeepAllUnsaved();
   if (Display().changed) SaveUnasked({m_services.store, m_services.calendars}, Display(), Rules(), Content());
+}
+
+void CCalendarFrame::KeepForNextSession() {
+  KeepUnsaved();
   StoreLayout();
 }
 

@@ -51,8 +51,9 @@ class CCalendarFrame : public QMainWindow {
   // gave to that start, so that the window may take the focus; empty where it gave none.
   void Raise(const std::string& token = {});
 
-  // Keeps what is not saved in any window, without a question, and stores where this window and its print
-  // frame stand.
+  // Keeps what is not saved in any window, without a question.
+  void KeepUnsaved();
+  // Likewise, and stores where this window and its print frame stand.
   void KeepForNextSession();
 
   void RunCommand(CommandId command);
@@ -78,7 +79,6 @@ class CCalendarFrame : public QMainWindow {
   void calendarShown();
 
  protected:
-  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:

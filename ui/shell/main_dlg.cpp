@@ -1,6 +1,5 @@
 #include "ui/shell/main_dlg.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
 #include <QScreen>
@@ -64,10 +63,9 @@ void CMainDlg::ApplyColors() {
   QPalette colors(ground, ground);
   colors.setColor(QPalette::Active, QPalette::WindowText, ink);
   colors.setColor(QPalette::Inactive, QPalette::WindowText, ink);
-  const QPalette desktop = QApplication::palette();
-  for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
-    for (const auto group : {QPalette::Active, QPalette::Inactive})
-      colors.setColor(group, role, desktop.color(group, role));
+  colors.setColor(QPalette::Highlight, ToQColor(kHighlightColor));
+  colors.setColor(QPalette::HighlightedText, ToQColor(kHighlightTextColor));
+  colors.setColor(QPalette::PlaceholderText, NoteColor(colors, QPalette::Base));
   setPalette(colors);
   QPalette line;
   line.setColor(QPalette::Window, LineColor(*this));

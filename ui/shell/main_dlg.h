@@ -29,8 +29,6 @@ class CMainDlg : public QWidget {
   void Refresh(DateMove move = DateMove::kLeap);
   // Takes over colors, fonts, switches, calendar rules and content that were changed.
   void SettingsChanged();
-  // Takes over the desktop's colors that were changed.
-  void ThemeChanged() { ApplyColors(); }
 
   bool IsPaneShown() const { return m_isPaneShown; }
   void ShowPane(bool isShown);

@@ -10,14 +10,15 @@
 #include "platform/desktop_files.h"
 #include "platform/desktop_locale.h"
 #include "platform/desktop_store.h"
-#include "platform/end_signals.h"
 #include "platform/folders.h"
 #include "platform/runtime_folder.h"
 #include "resources/strings.h"
 #include "ui/shell/calendar_frame.h"
+#include "ui/shell/program_end.h"
 #include "ui/toolkit/french_toolkit.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/program_style.h"
 #include "ui/toolkit/space_key.h"
 #include "ui/window/tool_icons.h"
 
@@ -46,27 +47,14 @@ int Run(const StartUp& startUp) {
       if (const auto token = instance.TakeCall()) frame.Raise(*token);
     });
   }
-  const CEndSignals endSignals;
-  std::unique_ptr<QSocketNotifier> ending;
-  if (endSignals.Descriptor() >= 0) {
-    ending = std::make_unique<QSocketNotifier>(endSignals.Descriptor(), QSocketNotifier::Read);
-    QObject::connect(ending.get(), &QSocketNotifier::activated, &frame, [&] {
-      ending->setEnabled(false);
-      frame.KeepForNextSession();
-      frame.close();
-      QApplication::exit();  // unlike quit(), asks no dialog whether it may be closed
-    });
-  }
-  // A session that ends waits for this slot only and then closes the display.
-  QObject::connect(
-      qApp, &QGuiApplication::commitDataRequest, &frame, [&] { frame.KeepForNextSession(); },
-      Qt::DirectConnection);
+  const CProgramEnd end(frame);
   frame.Open();
   return QApplication::exec();
 }
 
 int Run(QApplication& application) {
   SpeakFrench(application);
+  SetProgramStyle();
   QApplication::setWindowIcon(ProgramIcon());
   static const CDesktopLocale locale;
   SetPlatform(locale, *CurrentPlatform().clock);

@@ -30,4 +30,15 @@ QColor LegibleOn(const QColor& ground, QColor ink) {
   return ink;
 }
 
+QColor NoteColor(const QPalette& colors, QPalette::ColorRole ground) {
+  const QColor behind = colors.color(ground);
+  const QColor ink = colors.color(QPalette::PlaceholderText);  // half transparent in most themes
+  const auto mixed = [&](float part, float partBehind) {
+    return partBehind + (part - partBehind) * ink.alphaF();
+  };
+  return LegibleOn(behind,
+                   QColor::fromRgbF(mixed(ink.redF(), behind.redF()), mixed(ink.greenF(), behind.greenF()),
+                                    mixed(ink.blueF(), behind.blueF())));
+}
+
 }  // namespace orbisol

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include "content/calendar_look.h"
 
@@ -19,5 +20,8 @@ double Contrast(const QColor& a, const QColor& b);
 // Returns `ink` if a small text in it is easy to read on `ground`; else the nearest darker or lighter color
 // of the same hue that is.
 QColor LegibleOn(const QColor& ground, QColor ink);
+
+// Returns the color of notes and hints on a ground of the palette: that of placeholders, where it is legible.
+QColor NoteColor(const QPalette& colors, QPalette::ColorRole ground);
 
 }  // namespace orbisol

@@ -234,14 +234,14 @@ TEST_F(FrameTest, TabGoesThroughEverythingInAFullCircle) {
   }
 }
 
-TEST_F(FrameTest, SelectionsFollowTheThemeOfTheDesktop) {
+TEST_F(FrameTest, SelectionsInTheCalendarHaveItsColorUnderEveryTheme) {
   Open();
   const QPalette before = QApplication::palette();
   QPalette theme = before;
   theme.setColor(QPalette::Highlight, QColor(200, 30, 90));
   QApplication::setPalette(theme);
   Settle();
-  EXPECT_EQ(Dialog().Pane().palette().color(QPalette::Highlight), QColor(200, 30, 90));
+  EXPECT_EQ(Dialog().Pane().palette().color(QPalette::Highlight), ToQColor(kHighlightColor));
   QApplication::setPalette(before);
 }
 

@@ -3,6 +3,7 @@
 #include "ui/shell/run.h"
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <sstream>
 #include <thread>
@@ -87,6 +88,21 @@ TEST_F(RunTest, AnEndFromOutsideLosesNothingAndAsksNothing) {
       [] { std::raise(SIGTERM); },
       [] { std::raise(SIGHUP); },
       [] { std::raise(SIGINT); },
+      [] {
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(qApp, &quit);
+      },
+      [] {
+        std::atomic<bool> isSaid = false;
+        std::thread toolkit([&] {
+          qWarning("The Wayland connection broke. Did the Wayland compositor die?");
+          isSaid = true;
+        });
+        while (!isSaid) QCoreApplication::processEvents();
+        toolkit.join();
+        Window()->close();
+        qApp->exit();
+      },
       [] {
         alignas(void*) char session[sizeof(void*)] = {};  // answers nothing, and is asked nothing
         emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(session));

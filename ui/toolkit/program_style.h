@@ -1,0 +1,13 @@
+// The toolkit's own style with two changes: frames of boxes, buttons and fields are seen on dark grounds too,
+// where it draws them darker than the ground, and an empty check box on black is black; and what is selected
+// has the blue of the calendar, unless the desktop has colors of its own.
+//
+//   SetProgramStyle();  // once, when the application is made; themes may change afterwards
+#pragma once
+
+namespace orbisol {
+
+// Does nothing where the user's desktop has a style of its own.
+void SetProgramStyle();
+
+}  // namespace orbisol
