@@ -21,10 +21,18 @@ bool IsEarlier(PackedDate a, PackedDate b) { return DayOrder(a) < DayOrder(b); }
 
 SearchHit DayOf(const SearchHit& hit, PackedDate day) { return {day, day, hit.text}; }
 
-PackedDate DayBeside(PackedDate day, int distance) {
-  Date date(day);
-  date.AddDays(distance);
-  return date.Packed();
+// Return the date before and after `day`. 29 February -8 counts as 1 March -8: a day less is 29 February
+// again, and a day more already 2 March.
+PackedDate DayBefore(PackedDate day) {
+  const int dayNumber = Date(day).DayNumber();
+  const PackedDate before = DateOfDayNumber(dayNumber - 1).Packed();
+  return IsEarlier(before, day) ? before : DateOfDayNumber(dayNumber - 2).Packed();
+}
+
+PackedDate DayAfter(PackedDate day) {
+  const int dayNumber = Date(day).DayNumber();
+  const PackedDate counted = DateOfDayNumber(dayNumber).Packed();
+  return IsEarlier(day, counted) ? counted : DateOfDayNumber(dayNumber + 1).Packed();
 }
 
 }  // namespace
@@ -111,7 +119,7 @@ std::optional<SearchHit> CContentSearch::NextInYear(int year, PackedDate after) 
   std::optional<SearchHit> nearest;
   for (const SearchHit& hit : HitsInYear(year)) {
     if (!IsEarlier(after, hit.lastDate)) continue;
-    const PackedDate day = IsEarlier(after, hit.date) ? hit.date : DayBeside(after, 1);
+    const PackedDate day = IsEarlier(after, hit.date) ? hit.date : DayAfter(after);
     if (!nearest || IsEarlier(day, nearest->date)) nearest = DayOf(hit, day);
   }
   return nearest;
@@ -121,7 +129,7 @@ std::optional<SearchHit> CContentSearch::PreviousInYear(int year, PackedDate bef
   std::optional<SearchHit> nearest;
   for (const SearchHit& hit : HitsInYear(year)) {
     if (!IsEarlier(hit.date, before)) continue;
-    const PackedDate day = IsEarlier(hit.lastDate, before) ? hit.lastDate : DayBeside(before, -1);
+    const PackedDate day = IsEarlier(hit.lastDate, before) ? hit.lastDate : DayBefore(before);
     if (!nearest || IsEarlier(nearest->date, day)) nearest = DayOf(hit, day);
   }
   return nearest;

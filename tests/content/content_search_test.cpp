@@ -102,5 +102,17 @@ TEST(ContentSearchTest, NothingIsFoundWhereNoNameHoldsTheWord) {
   EXPECT_EQ(bounded.LastYear(), 1900);
 }
 
+TEST(ContentSearchTest, NoDayIsSkippedOrHeldWhereTwoDatesHaveOneNumber) {
+  const ScopedRules rules(RulesWith(kRomanReform));
+  CalendarContent content;
+  content.vacations = {Period(-80320, -80201, u"Fête")};  // of one year before the era, in packed order
+  const CContentSearch search(content, u"fête");
+  constexpr PackedDate kDays[] = {-80228, -80229, -80301, -80302};  // the second counts as the third
+  for (std::size_t i = 0; i + 1 < std::size(kDays); ++i) {
+    EXPECT_EQ(search.NextInYear(-8, kDays[i])->date, kDays[i + 1]);
+    EXPECT_EQ(search.PreviousInYear(-8, kDays[i + 1])->date, kDays[i]);
+  }
+}
+
 }  // namespace
 }  // namespace orbisol

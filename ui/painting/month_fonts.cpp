@@ -96,9 +96,10 @@ MonthFonts MakeMonthFonts(const MonthLayout& layout, const DisplaySettings& sett
   }
 
   const QFont small = FontOfHeight(fonts.upright, layout.SmallFontHeight());
+  const int leastWeek = std::min(kLeastWeekPixels * layout.lineScale, std::max(layout.rowHeight * 6 / 7, 1));
   const auto ofWeeks = [&](const QString& widest) {
     QFont font = FontOfWidth(small, std::array{widest}, layout.WeekNumberRect(1).Width());
-    font.setPixelSize(std::max(font.pixelSize(), kLeastWeekPixels * layout.lineScale));
+    font.setPixelSize(std::max(font.pixelSize(), leastWeek));
     return font;
   };
   fonts.small = ofWeeks(QStringLiteral("00"));

@@ -20,6 +20,13 @@ std::u16string OneLine(std::u16string text) {
   return text;
 }
 
+// Takes the brackets off a text that stands in brackets as a whole: the moon's phase, where nothing stands
+// before it.
+std::u16string WithoutBrackets(const std::u16string& text) {
+  const bool isWhole = text.size() > 2 && text.front() == u'(' && text.find(u')') == text.size() - 1;
+  return isWhole ? text.substr(1, text.size() - 2) : text;
+}
+
 std::u16string NextHolidayText(const Date& date, std::span<const DayEvent> rules) {
   const auto next = NextPublicHoliday(rules, date);
   if (!next) return {};
@@ -31,7 +38,7 @@ std::u16string NextHolidayText(const Date& date, std::span<const DayEvent> rules
 std::u16string StatusText(const StatusFacts& facts, std::span<const DayEvent> rules) {
   if (!facts.range.empty()) return UpperFirst(facts.range);
   if (facts.day == nullptr) return MissingDateText(facts.date);
-  std::u16string text = TipText(*facts.day, facts.withoutDate);
+  std::u16string text = WithoutBrackets(TipText(*facts.day, facts.withoutDate));
   if (facts.namesNextHoliday && TipText(*facts.day, true).empty()) {
     const std::u16string next = NextHolidayText(facts.date, rules);
     if (!text.empty() && !next.empty()) text += u'\n';

@@ -137,7 +137,7 @@ class ChangeOfCalendarTest : public FrameTest {
 };
 
 TEST_F(ChangeOfCalendarTest, TheWindowFollows) {
-  EXPECT_EQ(Status(), "(Pleine lune)");
+  EXPECT_EQ(Status(), "Pleine lune");
   InDialog<CChooseCalendarDlg>([](CChooseCalendarDlg& dialog) {
     dialog.findChild<QListWidget*>()->setCurrentRow(1);
     dialog.accept();
