@@ -117,15 +117,4 @@ std::vector<PackedDate> RuleDatesInYear(const DayEvent& rule, int year) {
   return days;
 }
 
-PackedDate NextRuleDate(const DayEvent& rule, PackedDate after) {
-  std::vector<PackedDate> days;
-  for (int year = std::max(Unpack(after).year, FirstYear(rule)); year <= LastYear(rule); ++year) {
-    days.clear();
-    AppendRuleDates(rule, year, days);
-    for (const PackedDate day : days)
-      if (Precedes(after, day)) return day;
-  }
-  return 0;
-}
-
 }  // namespace orbisol

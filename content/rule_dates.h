@@ -2,7 +2,6 @@
 // to the matcher (day_rules.h). It answers as if every day of every month's page had been asked.
 //
 //   RuleDatesInYear(easterMonday, 2024);                // {20240401}
-//   NextRuleDate(easterMonday, 20240401);               // 20250421: after that day
 //
 //   std::vector<PackedDate> days;                       // of many rules, without a vector for each
 //   for (const DayEvent& rule : rules) AppendRuleDates(rule, 2024, days);
@@ -14,7 +13,7 @@
 //
 // A day that a rule marks need not show its name: a public holiday hides the personal events of its day.
 //
-// One rule takes less than 1 µs a year (make bench), all years of a rule some milliseconds.
+// One rule takes less than 1 µs a year (make bench).
 #pragma once
 
 #include <vector>
@@ -27,9 +26,5 @@ namespace orbisol {
 void AppendRuleDates(const DayEvent& rule, int year, std::vector<PackedDate>& days);
 
 std::vector<PackedDate> RuleDatesInYear(const DayEvent& rule, int year);
-
-// Returns the first day of a rule after a date; 0 for none. Only the years in which the rule is valid are
-// gone through.
-PackedDate NextRuleDate(const DayEvent& rule, PackedDate after);
 
 }  // namespace orbisol

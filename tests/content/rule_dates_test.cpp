@@ -86,18 +86,13 @@ TEST(RuleDatesTest, AreTheMarkedDaysOfEveryPage) {
   }
 }
 
-TEST(RuleDatesTest, ReachFromYearToYearInTheOrderOfDays) {
+TEST(RuleDatesTest, OddYearsHaveTheirDays) {
   const DayEvent easterMonday = Rule(kRomanEaster, {.day = 1, .to = 20251231});
-  EXPECT_EQ(NextRuleDate(easterMonday, 20240331), 20240401);
-  EXPECT_EQ(NextRuleDate(easterMonday, 20240401), 20250421);
-  EXPECT_EQ(NextRuleDate(easterMonday, 20250421), 0);
-  EXPECT_EQ(NextRuleDate(easterMonday, kFirstDateShown), 3260404) << "the first Easter of all";
-
-  const DayEvent leapDay = Rule(kFixedDate, {.month = 2, .day = 29});
-  EXPECT_EQ(NextRuleDate(leapDay, -440315), -410229) << "one leap year in three";
+  const std::pair<int, Days> kYears[] = {{2025, {20250421}}, {2026, {}}, {325, {}}, {326, {3260404}}};
+  for (const auto& [year, days] : kYears)
+    EXPECT_EQ(RuleDatesInYear(easterMonday, year), days) << "there is no Easter before 326";
   const DayEvent caesar = Rule(kFixedDate, {.month = 3, .day = 15, .from = -440315, .to = -440101});
   EXPECT_EQ(RuleDatesInYear(caesar, -44), (Days{-440315}));
-  EXPECT_EQ(NextRuleDate(caesar, -440316), 0);
   const DayEvent monday = Rule(kWeekdayAfter, {.month = 3, .day = 1, .weekday = 1, .weeknum = 1});
   EXPECT_EQ(RuleDatesInYear(monday, -8), (Days{-80229, -80301})) << "two dates of one day number";
 }
