@@ -112,6 +112,17 @@ TEST(ToolIconsTest, StraightLinesAreSharpAtSmallSizesAndDoubledScale) {
     while (first < picture.width() && qAlpha(picture.pixel(first, middle)) == 0) ++first;
     EXPECT_EQ(qAlpha(picture.pixel(first, middle)), 255);
   }
+  // The sheet of the program's icon begins with its blue head, and the white below it begins at once.
+  for (const int side : {16, 22, 24, 32, 48, 64, 128, 256}) {
+    const QImage picture = ProgramIcon().pixmap(QSize(side, side), 1.0).toImage();
+    ASSERT_EQ(picture.width(), side);
+    int y = 0;
+    while (qAlpha(picture.pixel(side / 4, y)) == 0) ++y;
+    const QRgb head = picture.pixel(side / 4, y);
+    while (picture.pixel(side / 4, y) == head) ++y;
+    EXPECT_EQ(QColor::fromRgba(head), QColor("#22496B")) << side;
+    EXPECT_EQ(picture.pixelColor(side / 4, y), QColor(Qt::white)) << side;
+  }
 }
 
 TEST(SpaceKeyTest, FieldsThatUseSpaceKeepIt) {
