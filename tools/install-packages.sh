@@ -3,7 +3,7 @@
 #
 #   tools/install-packages.sh GROUP...
 #
-# Groups: build run test clang lint coverage bench display package fresh. On Debian and its relatives the missing ones
+# Groups: build run test clang lint coverage bench display wayland package fresh. On Debian and its relatives the missing ones
 # are installed through apt-get, by root or sudo. Elsewhere their names are printed and the command ends
 # with 1. With nothing missing it takes a tenth of a second and touches nothing.
 
@@ -28,6 +28,7 @@ packages_of() {
                    appstream=appstreamcli man-db=man mandoc=mandoc" ;;
     fresh) echo "debootstrap=debootstrap util-linux=unshare" ;;
     display) echo "xvfb=Xvfb openbox=openbox xdotool=xdotool imagemagick=import x11-utils=xprop" ;;
+    wayland) echo "qt6-wayland=- sway=sway grim=grim wtype=wtype wl-clipboard=wl-paste python3=python3" ;;
     *) echo "install-packages: no group is called '$1'" >&2; return 1 ;;
   esac
 }
