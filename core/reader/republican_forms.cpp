@@ -28,7 +28,14 @@ bool TakeNumber(const Item& number, Entry& entry) {
   return fits;
 }
 
-// Sets what the words and numbers say; false where they are more than a date.
+// Returns the day of the selected date in its Republican month; 1 where it has none.
+int SelectedDay(const Request& request) {
+  if (DayOrder(request.selected) < DayOrder(Date(kRepublicanEpoch))) return 1;
+  return ToRepublican(request.selected).dayIndex + 1;
+}
+
+// Sets what the words and numbers say; false where they are more than a date. A month without a day keeps the
+// selected one.
 bool TakeItems(const Request& request, Entry& entry) {
   for (const Item& item : request.items) {
     const bool isMonth = item.kind == WordKind::kRepublicanMonth || item.kind == WordKind::kComplementary ||
@@ -44,6 +51,7 @@ bool TakeItems(const Request& request, Entry& entry) {
       return false;
     }
   }
+  if (entry.day == 0 && entry.month <= kComplementaryMonth) entry.day = SelectedDay(request);
   return entry.month != 0 && entry.day != 0;
 }
 
