@@ -63,8 +63,9 @@ PageList PagesOf(const PrintJob& job, const PageChoice& choice) {
 
   PageList list;
   const int outer = choice.isCollated ? choice.copies : 1;
+  const auto inner = static_cast<std::size_t>(choice.isCollated ? 1 : choice.copies);
   for (int copy = 0; copy < outer; ++copy)
-    for (const int page : once) list.insert(list.end(), choice.isCollated ? 1U : choice.copies, page);
+    for (const int page : once) list.insert(list.end(), inner, page);
   return list;
 }
 
