@@ -226,6 +226,8 @@ TEST(PageLayoutTest, ThePartsOfAPageLieInsideItAndDoNotMeet) {
               EXPECT_TRUE(isInside(part, place));
             if (table.hasDatesBelow) {
               EXPECT_GE(parts.dates.top, std::max(parts.number.bottom, parts.moon.bottom));
+              EXPECT_GE(parts.dates.Height(),
+                        std::min(2 * table.SmallFontHeight(), place.bottom - parts.dates.top));
             }
           }
         }
