@@ -126,7 +126,7 @@ TEST(PagePainterTest, LetteringTellsMarksApart) {
   const ColumnLayout column = page.Column(1, 0);
   const auto ink = [&](int day) {
     return (page.Darkness(column.Text(day)) - bare.Darkness(column.Text(day))) * 100 /
-           qGray(page.Ground(Inner(column.Text(day))));
+           std::max(1, qGray(page.Ground(Inner(column.Text(day)))));
   };
   EXPECT_GT(ink(2), ink(3) * 12 / 10) << "a holiday is bold";
   EXPECT_NE(ink(7), ink(3)) << "a vacation is italic";
