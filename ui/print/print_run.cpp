@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QSaveFile>
 
 #include <unistd.h>
@@ -120,7 +121,9 @@ RunResult PrintPages(const CPagePainter& pages, const QPageLayout& layout, QPrin
   if (result != RunResult::kDone) printer.abort();
   const bool isEnded = painter.end();
   if (result != RunResult::kDone) return result;
-  return isEnded && printer.printerState() != QPrinter::Error ? RunResult::kDone : RunResult::kFailed;
+  if (!isEnded || printer.printerState() == QPrinter::Error) return RunResult::kFailed;
+  // The toolkit takes no notice of a print server that is gone.
+  return QPrinterInfo::printerInfo(printer.printerName()).isNull() ? RunResult::kFailed : RunResult::kDone;
 }
 
 }  // namespace orbisol

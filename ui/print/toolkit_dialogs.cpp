@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 #include "resources/strings.h"
@@ -30,14 +31,15 @@ constexpr const char* kControls[] = {"unitCombo",
 
 constexpr QSize kWindowFrame(8, 40);  // room for the frame around a dialog
 
-int HeightUnfolded(const QLayout& column) {
-  int height = 0;
+// Returns the size of a column with all of its parts shown.
+QSize SizeUnfolded(const QLayout& column) {
+  QSize size;
   for (int i = 0; i < column.count(); ++i) {
     QLayoutItem& item = *column.itemAt(i);
-    height += column.spacing();
-    height += item.widget() != nullptr ? item.widget()->sizeHint().height() : item.sizeHint().height();
+    const QSize part = item.widget() != nullptr ? item.widget()->sizeHint() : item.sizeHint();
+    size = QSize(std::max(size.width(), part.width()), size.height() + part.height() + column.spacing());
   }
-  return height;
+  return size;
 }
 
 }  // namespace
@@ -57,25 +59,30 @@ void NameControls(const QDialog& dialog) {
 void FitScreen(QDialog& dialog) {
   const QSize room = dialog.screen()->availableSize() - kWindowFrame;
   auto* const column = qobject_cast<QVBoxLayout*>(dialog.layout());
-  if (column != nullptr && HeightUnfolded(*column) > room.height()) {
-    auto* const inside = new QWidget;
-    auto* const above = new QVBoxLayout(inside);
-    above->setContentsMargins({});
-    while (column->count() > 1) {
-      const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
-      if (item->widget() != nullptr) above->addWidget(item->widget());
-    }
-    auto* const area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(inside);
-    area->setMinimumWidth(inside->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
-    column->insertWidget(0, area);
-    dialog.setMaximumSize(room.expandedTo(dialog.minimumSizeHint()));
-    dialog.resize(dialog.sizeHint().width(), room.height());
-  } else {
+  // Otherwise the toolkit finds their width when they are shown.
+  for (QComboBox* const box : dialog.findChildren<QComboBox*>())
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  if (column == nullptr || SizeUnfolded(*column).height() <= room.height()) {
     dialog.resize(dialog.sizeHint().boundedTo(room));
+    return;
   }
+  const int width = SizeUnfolded(*column).width();
+  auto* const inside = new QWidget;
+  auto* const above = new QVBoxLayout(inside);
+  above->setContentsMargins({});
+  while (column->count() > 1) {
+    const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
+    if (item->widget() != nullptr) above->addWidget(item->widget());
+  }
+  above->addStretch();
+  auto* const area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(inside);
+  area->setMinimumWidth(width + area->verticalScrollBar()->sizeHint().width());
+  column->insertWidget(0, area);
+  dialog.setMaximumSize(room.expandedTo(dialog.minimumSizeHint()));
+  dialog.resize(dialog.sizeHint().width(), room.height());
 }
 
 }  // namespace orbisol

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,12 +14,17 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QVBoxLayout>
 
 #include "tests/ui/print/frame_fixture.h"
 #include "ui/print/print_years_dlg.h"
+#include "ui/print/toolkit_dialogs.h"
 
 namespace orbisol {
 namespace {
@@ -118,6 +124,29 @@ TEST_F(PrintFrameTest, EveryControlOfTheToolkitsDialogsIsNamed) {
   ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, check);
   ChooseAndAnswer<QPageSetupDialog>(kCmdPageSetup, check);
   ChooseAndAnswer<CPrintYearsDlg>(kCmdPrintYears, check);
+}
+
+TEST_F(PrintFrameTest, ADialogHigherThanTheScreenScrollsAboveItsButtons) {
+  QDialog dialog;
+  auto* const column = new QVBoxLayout(&dialog);
+  auto* const folded = new QWidget;
+  for (auto* const part : {new QWidget, folded}) {
+    part->setMinimumSize(part == folded ? 400 : 300, 1500);
+    column->addWidget(part);
+  }
+  folded->hide();
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+  column->addWidget(buttons);
+  FitScreen(dialog);
+  dialog.show();
+  folded->show();
+  Settle();
+  EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+  EXPECT_TRUE(dialog.rect().contains(buttons->geometry()));
+  const auto* const area = dialog.findChild<QScrollArea*>();
+  ASSERT_NE(area, nullptr);
+  EXPECT_GT(area->verticalScrollBar()->maximum(), 2000);
+  EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(PrintFrameTest, WhatCannotBeWrittenIsSaidAndLeavesNoFile) {
