@@ -36,7 +36,9 @@ QSize SizeUnfolded(const QLayout& column) {
   QSize size;
   for (int i = 0; i < column.count(); ++i) {
     QLayoutItem& item = *column.itemAt(i);
-    const QSize part = item.widget() != nullptr ? item.widget()->sizeHint() : item.sizeHint();
+    const QWidget* const widget = item.widget();
+    const QSize part =
+        widget != nullptr ? widget->sizeHint().expandedTo(widget->minimumSize()) : item.sizeHint();
     size = QSize(std::max(size.width(), part.width()), size.height() + part.height() + column.spacing());
   }
   return size;
