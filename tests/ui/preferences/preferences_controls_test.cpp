@@ -25,9 +25,9 @@ struct ControlRow {
 
   void Change(PreferencesTest& test) const {
     test.sheet->ShowPage(page);
-    test.Settle();
+    PreferencesTest::Settle();
     change(test);
-    test.Settle();
+    PreferencesTest::Settle();
     const bool isDependent =
         test.Find("collapse").isEnabled() == test.Find<QCheckBox>("fullCell").isChecked();
     EXPECT_TRUE(isDependent || page != kScreen);

@@ -247,7 +247,7 @@ TEST(PageLayoutTest, TitlesAndTablesGrowWithThePaper) {
   for (const bool isWide : {false, true}) {
     const auto once = isWide ? heights(6500, 4400) : heights(4400, 6500);
     const auto twice = isWide ? heights(13000, 8800) : heights(8800, 13000);
-    for (std::size_t i = 0; i < once.size(); ++i) EXPECT_NEAR(twice[i], 2 * once[i], once[i] / 8) << i;
+    for (std::size_t i = 0; i < once.size(); ++i) EXPECT_NEAR(twice[i], 2 * once[i], once[i] / 8.0) << i;
   }
 }
 
