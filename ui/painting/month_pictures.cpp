@@ -1,14 +1,27 @@
 #include "ui/painting/month_pictures.h"
 
+#include <QImageReader>
 #include <QPainter>
 
 #include "resources/pictures/pictures.h"
 
 namespace orbisol {
-QImage BuiltInBackground() { return QImage(BackgroundPicturePath()); }
+namespace {
+
+// Reads a picture of the program itself. Its format is named, as a reader that has to find it out loads the
+// library of every format that is installed.
+QImage ReadBuiltIn(const QString& path, const char* format) {
+  QImageReader reader(path, format);
+  reader.setAutoDetectImageFormat(false);
+  return reader.read();
+}
+
+}  // namespace
+
+QImage BuiltInBackground() { return ReadBuiltIn(BackgroundPicturePath(), "jpg"); }
 
 QImage MoonGlyph(MoonPhase phase, int side) {
-  static const QImage strip(MoonPicturePath());
+  static const QImage strip = ReadBuiltIn(MoonPicturePath(), "png");
   const int glyph = strip.height();
   return strip.copy((phase - kNewMoon) * glyph, 0, glyph, glyph)
       .scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)

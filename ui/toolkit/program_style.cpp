@@ -1,8 +1,13 @@
 #include "ui/toolkit/program_style.h"
 
 #include <QApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleOption>
+
+#include <algorithm>
 
 #include "ui/toolkit/colors.h"
 
@@ -27,6 +32,41 @@ QColor GroundForFrames(const QColor& ground, const QColor& ink) {
   return Qt::white;
 }
 
+// Draws the two arrow heads behind which a bar without room keeps what does not fit, in the color of the
+// theme's texts. The toolkit's own are black pictures, and to read one it loads every reader of pictures that
+// is installed.
+class CMoreIcon : public QIconEngine {
+ public:
+  explicit CMoreIcon(bool isUpright) : m_isUpright(isUpright) {}
+
+  QIconEngine* clone() const override { return new CMoreIcon(*this); }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    const double unit = std::min(rect.width(), rect.height()) / 8.0;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(QRectF(rect).center());
+    if (m_isUpright) painter->rotate(90);
+    painter->scale(unit, unit);
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    painter->setPen(QPen(QApplication::palette().color(group, QPalette::WindowText), 1));
+    for (const double left : {-3.0, 0.0})
+      painter->drawPolyline(QPolygonF{{left, -2.5}, {left + 2.5, 0}, {left, 2.5}});
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+  }
+
+ private:
+  bool m_isUpright;
+};
+
 class CProgramStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -49,6 +89,12 @@ class CProgramStyle : public QProxyStyle {
                 QStyleHintReturn* answer) const override {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+    if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new CMoreIcon(false));
+    if (which == SP_ToolBarVerticalExtensionButton) return QIcon(new CMoreIcon(true));
+    return QProxyStyle::standardIcon(which, option, widget);
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

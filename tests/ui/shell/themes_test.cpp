@@ -107,12 +107,21 @@ TEST_F(ThemesTest, EveryTextOfEveryWindowIsReadWithEase) {
   }
 }
 
-// An empty box is nothing but its frame.
-TEST_F(ThemesTest, EmptyBoxesAreSeenOnEveryGround) {
+// An empty box is nothing but its frame, and what a bar has no room for lies behind two arrow heads.
+TEST_F(ThemesTest, EmptyBoxesAndArrowHeadsAreSeenOnEveryGround) {
   SetProgramStyle();
   EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), ToQColor(kHighlightColor)) << "one blue";
   for (const Theme& theme : {kDarkTheme, kContrastTheme}) {
     QApplication::setPalette(theme.Palette());
+    for (const auto arrows :
+         {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_ToolBarVerticalExtensionButton}) {
+      QImage picture(16, 16, QImage::Format_RGB32);
+      picture.fill(theme.window);
+      QPainter painter(&picture);
+      QApplication::style()->standardIcon(arrows).paint(&painter, picture.rect());
+      painter.end();
+      EXPECT_GE(BestContrast(picture), 4.5) << theme.name;
+    }
     for (const auto indicator : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
       QImage picture(24, 24, QImage::Format_RGB32);
       picture.fill(theme.window);
