@@ -75,7 +75,6 @@ PackedDate Previous(const CContentSearch& search, PackedDate before) {
 }
 
 TEST(ContentSearchTest, NextAndPreviousGoFromDayToDay) {
-  const ScopedRules rules(RulesWith(kRomanReform));
   const CalendarContent content = ContentWithWord();
   const CContentSearch search(content, u"fete");
   std::vector<PackedDate> days;
@@ -91,7 +90,6 @@ TEST(ContentSearchTest, NextAndPreviousGoFromDayToDay) {
 }
 
 TEST(ContentSearchTest, NothingIsFoundWhereNoNameHoldsTheWord) {
-  const ScopedRules rules(RulesWith(kRomanReform));
   for (const std::u16string_view word : {u"pleine lune", u"", u"  ", u"Vierge"}) {
     const CContentSearch search(ContentWithWord(), word);
     EXPECT_LT(search.LastYear(), search.FirstYear());
@@ -103,7 +101,6 @@ TEST(ContentSearchTest, NothingIsFoundWhereNoNameHoldsTheWord) {
 }
 
 TEST(ContentSearchTest, NoDayIsSkippedOrHeldWhereTwoDatesHaveOneNumber) {
-  const ScopedRules rules(RulesWith(kRomanReform));
   CalendarContent content;
   content.vacations = {Period(-80320, -80201, u"Fête")};  // of one year before the era, in packed order
   const CContentSearch search(content, u"fête");

@@ -86,16 +86,5 @@ TEST(RuleDatesTest, AreTheMarkedDaysOfEveryPage) {
   }
 }
 
-TEST(RuleDatesTest, OddYearsHaveTheirDays) {
-  const DayEvent easterMonday = Rule(kRomanEaster, {.day = 1, .to = 20251231});
-  const std::pair<int, Days> kYears[] = {{2025, {20250421}}, {2026, {}}, {325, {}}, {326, {3260404}}};
-  for (const auto& [year, days] : kYears)
-    EXPECT_EQ(RuleDatesInYear(easterMonday, year), days) << "there is no Easter before 326";
-  const DayEvent caesar = Rule(kFixedDate, {.month = 3, .day = 15, .from = -440315, .to = -440101});
-  EXPECT_EQ(RuleDatesInYear(caesar, -44), (Days{-440315}));
-  const DayEvent monday = Rule(kWeekdayAfter, {.month = 3, .day = 1, .weekday = 1, .weeknum = 1});
-  EXPECT_EQ(RuleDatesInYear(monday, -8), (Days{-80229, -80301})) << "two dates of one day number";
-}
-
 }  // namespace
 }  // namespace orbisol

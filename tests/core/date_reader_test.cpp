@@ -112,7 +112,6 @@ TEST(DateReaderTest, TextsHaveTheReadingsOfTheTable) {
 }
 
 TEST(DateReaderTest, AReadingNamesItsDayUnmistakably) {
-  const ScopedRules rules(RulesWith(kRomanReform));
   const ScopedPlatform platform(FakeLocale(), FakeClock({2024, 5, 15}));
   const std::pair<const char16_t*, const char*> kRows[] = {
       {u"15 mars -44", "mardi 15 mars −44 (45 av. J.-C.), julien"},

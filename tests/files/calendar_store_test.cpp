@@ -99,6 +99,11 @@ TEST_F(CalendarStoreTest, AFileChangedBySomebodyElseIsLeftAlone) {
   EXPECT_EQ(Save(u"next"), WriteResult::kNotSynced);
   files.syncFails = false;
   EXPECT_EQ(Save(u"next"), WriteResult::kWritten) << "the new bytes were ours";
+  files.unreadable = {kPath};
+  EXPECT_EQ(calendars.Load(u"A", calendar), LoadResult::kUnreadable);
+  EXPECT_EQ(Save(u"ours", IfChanged::kOverwrite), WriteResult::kFailed)
+      << "nobody has seen what would be lost";
+  files.unreadable.clear();
   files.files.clear();
   EXPECT_EQ(Save(u"ours"), WriteResult::kWritten) << "what somebody deleted is written again";
 }

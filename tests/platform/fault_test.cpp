@@ -227,11 +227,13 @@ TEST(FaultTest, ProcessesThatWriteAtOnceLoseNothingOfEachOther) {
   const CTestFolder folder;
   const std::string key = folder / "Calendar.reg";
   const std::string file = folder / "file.xml";
+  const std::u16string kept = PathText(folder / "versions");
   CDesktopFiles files({});
   PutFile(key, "");
   PutFile(file, std::string(50000, '-'));  // long enough to be read while it is replaced
   const auto write = [&](char letter) {
     CDesktopStore store(files, {key}, std::chrono::hours(1));
+    CVersions versions(files, kept);
     for (int count = 0; count < 100;) {
       const auto lock = files.LockFolderOf(PathText(file));
       const FileBytes seen = ReadWholeFile(file).value_or(FileBytes());
@@ -240,13 +242,23 @@ TEST(FaultTest, ProcessesThatWriteAtOnceLoseNothingOfEachOther) {
       if (result == WriteResult::kWritten) ++count;
     }
     bool done = true;
-    for (int i = 0; i < 40; ++i) done = store.Write({{letter + std::to_string(i), DwordValue(1)}}) && done;
+    for (int i = 0; i < 40; ++i) {
+      const std::string name = letter + std::to_string(i);
+      done = store.Write({{name, DwordValue(1)}}) && done;
+      done = versions.Keep(u"A", name, {{2026, 5, 1 + i / 3}, 0, 0, 0}) && done;
+    }
     return done;
   };
   RunThreeAtOnce(write);
   EXPECT_EQ(CDesktopStore(files, {key}).Read()->size(), 120u);
   const std::string bytes = BytesOf(file);
   for (const char letter : {'A', 'B', 'C'}) EXPECT_EQ(std::count(bytes.begin(), bytes.end(), letter), 100);
+  CVersions versions(files, kept);
+  versions.Keep(u"A", "last", {{2026, 5, 21}, 0, 0, 0});
+  EXPECT_GE(versions.List(u"A").size(), kNewestVersions);
+  EXPECT_LE(versions.List(u"A").size(), kNewestVersions + kVersionDays);
+  for (const CalendarVersion& version : versions.List(u"A"))
+    EXPECT_TRUE(versions.Read(u"A", version).has_value());
 }
 
 }  // namespace

@@ -81,25 +81,5 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
   ForEachFault({EIO, EPERM, kKillFault}, 1, step, prepare, check);
 }
 
-TEST(VersionFaultTest, ProcessesThatKeepVersionsAtOnceDoNotMindEachOther) {
-  const CTestFolder folder;
-  CDesktopFiles files({});
-  const std::u16string root = PathText(folder / "versions");
-  const auto keep = [&](char letter) {
-    CVersions versions(files, root);
-    bool done = true;
-    for (int i = 0; i < 60; ++i)
-      done = versions.Keep(u"A", letter + std::to_string(i), {{2026, 5, 1 + i / 3}, 0, 0, 0}) && done;
-    return done;
-  };
-  RunThreeAtOnce(keep);
-  CVersions versions(files, root);
-  versions.Keep(u"A", "last", {{2026, 5, 21}, 0, 0, 0});
-  EXPECT_GE(versions.List(u"A").size(), kNewestVersions);
-  EXPECT_LE(versions.List(u"A").size(), kNewestVersions + kVersionDays);
-  for (const CalendarVersion& version : versions.List(u"A"))
-    EXPECT_TRUE(versions.Read(u"A", version).has_value());
-}
-
 }  // namespace
 }  // namespace orbisol

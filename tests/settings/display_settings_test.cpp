@@ -3,29 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 
 #include "settings/window_layout.h"
 
 namespace orbisol {
 namespace {
-
-TEST(DisplaySettingsTest, StoredNumbersOutOfRangeAreClampedWhereTheyAreUsed) {
-  constexpr struct { int stored, width, alpha; } kRows[] = {{-5, 1, 0}, {2, 2, 2}, {9, 3, 9}, {1000, 3, 255}};
-  for (const auto& row : kRows) {
-    DisplaySettings settings;
-    settings.circleWidth = settings.backgroundAlpha = row.stored;
-    EXPECT_EQ(settings.CircleWidth(), row.width);
-    EXPECT_EQ(settings.BackgroundAlpha(), row.alpha);
-  }
-}
-
-TEST(CalendarLookTest, EveryColorHasItsOwnCaption) {
-  std::set<std::u16string_view> captions = {u""};
-  for (const ColorInfo& info : ColorTable()) captions.insert(info.text);
-  EXPECT_EQ(captions.size(), 1 + 15u);
-  EXPECT_EQ(ColorTable()[kVacationBack].text, u"Couleur d'arrière-plan du jour de vacances");
-}
 
 TEST(WindowLayoutTest, IsStoredLittleEndianAndFewerBytesFillTheFieldsTheyHold) {
   constexpr std::array<std::uint8_t, kWindowLayoutBytes> kBytes = {

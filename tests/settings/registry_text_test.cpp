@@ -58,10 +58,7 @@ TEST(RegistryTextTest, LinesThatAreNotUnderstoodAreKeptAndAreNoValues) {
 }
 
 TEST(RegistryTextTest, WhatAPersonMayWriteIsReadWithPatience) {
-  constexpr struct {
-    const char* value;
-    std::optional<std::uint32_t> number;
-  } kNumbers[] = {
+  constexpr std::pair<const char*, std::optional<std::uint32_t>> kNumbers[] = {
       {" DWORD: FFFFFFFF\t", 0xFFFFFFFF},
       {"hex(4):01, 02,\t0,0,", 0x201},
       {"hex(4):01,00", {}},           // two bytes are no number,
@@ -69,8 +66,8 @@ TEST(RegistryTextTest, WhatAPersonMayWriteIsReadWithPatience) {
       {"dword:1\n\"a\"=dword:2", 2},  // the later line counts
       {"dword:1\n\"A\"=-", {}},
   };
-  for (const auto& row : kNumbers)
-    EXPECT_EQ(DwordOf(ValuesOf("\"A\"="s + row.value), "A"), row.number) << row.value;
+  for (const auto& [value, number] : kNumbers)
+    EXPECT_EQ(DwordOf(ValuesOf("\"A\"="s + value), "A"), number) << value;
 
   CRegistryText twice("[HKEY_CURRENT_USER\\SOFTWARE\\Corvalen\\Calendar]\n\"A\"=dword:1\n\"a\"=dword:2\n");
   EXPECT_TRUE(twice.Set("A", DwordValue(3)));
@@ -112,11 +109,7 @@ TEST(RegistryTextTest, AValueFindsItsKeyOrMakesIt) {
 }
 
 TEST(SettingsStoreTest, OnlyWellFormedBytesAreATextOfAtMostTheAllowedLength) {
-  const struct {
-    ValueType type;
-    std::string bytes;
-    std::optional<std::u16string> text;
-  } kRows[] = {
+  const std::tuple<ValueType, std::string, std::optional<std::u16string>> kRows[] = {
       {kRegSz, "A\0\0\0"s, u"A"},
       {kRegExpandSz, "%\0A\0%\0\0\0"s, u"%A%"},
       {kRegSz, "A\0\0\0B\0\0\0"s, u"A"},  // a zero inside ends the text
@@ -125,7 +118,7 @@ TEST(SettingsStoreTest, OnlyWellFormedBytesAreATextOfAtMostTheAllowedLength) {
       {kRegBinary, "A\0\0\0"s, {}},
       {kRegSz, "A\0A\0A\0A\0\0\0"s, {}},  // too long
   };
-  for (const auto& row : kRows) EXPECT_EQ(TextOf({{"A", {row.type, row.bytes}}}, "a", 3), row.text);
+  for (const auto& [type, bytes, text] : kRows) EXPECT_EQ(TextOf({{"A", {type, bytes}}}, "a", 3), text);
 }
 
 }  // namespace

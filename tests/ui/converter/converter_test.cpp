@@ -204,15 +204,11 @@ TEST_F(ConverterTest, TheDistanceToARememberedDateIsShown) {
 }
 
 TEST_F(ConverterTest, TheRememberedDateIsWrittenInTheOrderAndUnderTheRulesInForce) {
-  const struct {
-    int order;
-    const char* text;
-  } kOrders[] = {{0, "mai 15, 2024"}, {2, "2024 mai 15"}, {1, "15 mai 2024"}};
   Click(Keep());
-  for (const auto& row : kOrders) {
-    Selected().dateOrder = row.order;
+  for (const auto& [order, text] : {std::pair{0, "mai 15, 2024"}, {2, "2024 mai 15"}, {1, "15 mai 2024"}}) {
+    Selected().dateOrder = order;
     Dialog().Refresh();
-    EXPECT_EQ(Kept()->text(), QLatin1String(row.text));
+    EXPECT_EQ(Kept()->text(), QLatin1String(text));
   }
   Rules().firstDayOfYear[0] = {20000301, true};
   Dialog().SettingsChanged();
@@ -242,17 +238,13 @@ TEST_F(ConverterTest, TheKeyboardCopiesWhatIsShownAndPressesButtons) {
 
 TEST_F(ConverterTest, TheButtonsGoToNotableDays) {
   Rules().ApplyGregorianStart(17520914);
-  const struct {
-    const char* button;
-    PackedDate date;
-  } kDays[] = {{"républicain", 17920922},
-               {"grégorien", 17520914},
-               {"notre ère", 10101},
-               {"julien", -440101},
-               {"Aujourd'hui", 20240515}};
-  for (const auto& row : kDays) {
-    Click(Control<QPushButton>(row.button));
-    EXPECT_EQ(Now(), row.date) << row.button;
+  for (const auto& [button, date] : {std::pair{"républicain", 17920922},
+                                     {"grégorien", 17520914},
+                                     {"notre ère", 10101},
+                                     {"julien", -440101},
+                                     {"Aujourd'hui", 20240515}}) {
+    Click(Control<QPushButton>(button));
+    EXPECT_EQ(Now(), date) << button;
     EXPECT_EQ(Dialog().Month().Month().year, Selected().year);
   }
 }

@@ -146,16 +146,12 @@ TEST_F(EditorTest, StepsAreTakenBackAndMadeAgain) {
   undo();
   EXPECT_EQ(Part<QLineEdit>("name").text(), QStringLiteral("deux")) << "first what the form was changed to";
   EXPECT_EQ(names(), QStringLiteral("un deux trois"));
-  Part<QLineEdit>("name").clear();
+  Part<QLineEdit>("name").setText(QStringLiteral("  "));
+  Part<QPushButton>("apply").click();
+  EXPECT_EQ(Part<QLineEdit>("name").text(), QStringLiteral("  ")) << "what was typed stays";
   events.SelectRow(0);
   EXPECT_EQ(events.ShownRow(), 1) << "a refused form is not left";
   EXPECT_FALSE(Note("nameNote").isEmpty());
-  dialog->reject();
-  EXPECT_TRUE(dialog->isVisible()) << "unsaved changes are asked for";
-  messages.answers = {1};
-  dialog->reject();
-  EXPECT_FALSE(dialog->isVisible()) << "and given up at the user's wish";
-  EXPECT_TRUE(Saved().dayEvents.empty());
 }
 
 TEST_F(EditorTest, TheListIsFilteredAndSortedAndItsOrderStays) {
@@ -200,10 +196,6 @@ TEST_F(EditorTest, TheListIsFilteredAndSortedAndItsOrderStays) {
   Part<QLineEdit>("name").setText(QStringLiteral("Toussaint"));
   Part<QPushButton>("add").click();
   EXPECT_EQ(Rows(), 4) << "what was added is seen";
-  Part<CRowList>("list").sortByColumn(CEventList::kName, Qt::DescendingOrder);
-  Part<CRowList>("list").selectAll();
-  Part<QPushButton>("remove").click();
-  EXPECT_EQ(Rows(), 0);
 }
 
 TEST_F(EditorTest, ImportedHolidaysAreOneStep) {

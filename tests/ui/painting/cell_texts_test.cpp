@@ -1,29 +1,14 @@
 // Months with texts in their cells.
 
-#include <QImage>
-#include <QPainter>
-
-#include <gtest/gtest.h>
-
-#include "tests/content/rule_builder.h"
-#include "ui/painting/month_painter.h"
-#include "ui/painting/month_pictures.h"
-#include "ui/toolkit/colors.h"
-#include "ui/toolkit/geometry.h"
+#include "tests/ui/painting/month_page.h"
 
 namespace orbisol {
 namespace {
 
 // May 2024 with a holiday under a pile of accents, a day of four events beside a full moon, and a vacation.
-struct TextPage {
-  CalendarContent content;
-  DisplaySettings settings;
-  QImage picture;
-  MonthMarks marks;
-  QSize size{1280, 800};
-  double ratio = 1;
-
+struct TextPage : MonthPage {
   TextPage() {
+    size = {1280, 800};
     settings.cellTexts = true;
     for (const char16_t* const name : {u"Réunion de toute l'équipe au deuxième étage", u"Piscine", u"Chorale",
                                        u"Dîner", u"Poubelles", u"Courses", u"Lecture", u"Sport"})
@@ -34,34 +19,7 @@ struct TextPage {
               .day = 8,
               .name = u"V\u0301\u0301\u0301\u0301\u0301\u0301ictoire de mil neuf cent quarante-cinq"}));
     content.vacations.push_back(Period(20240513, 20240524, u"Vacances de printemps à la montagne"));
-    marks.month = 5;
     marks.day = 2;
-  }
-
-  MonthLayout Layout() const { return {size.width(), size.height(), settings.showWeekNumber, true}; }
-  MonthModel Model() const {
-    MonthModel model;
-    model.year = 2024;
-    model.month = 5;
-    model.Build(content, settings.colors, MonthModel::kWithMoon);
-    return model;
-  }
-  int CellOf(int day) const { return Model().CellOf(5, day); }
-
-  void PaintOn(QImage& canvas, const QRegion& region = {}) const {
-    CMonthPainter painter;
-    painter.SetUp(Layout(), settings, QFont(), CMonthPainter::kScreen);
-    painter.SetBackground(picture);
-    painter.SetTexts(Model(), content);
-    QPainter ink(&canvas);
-    painter.Paint(ink, Model(), marks, region);
-  }
-  QImage Paint() const {
-    QImage canvas((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
-    canvas.setDevicePixelRatio(ratio);
-    canvas.fill(Qt::magenta);
-    PaintOn(canvas);
-    return canvas;
   }
 };
 
@@ -81,7 +39,6 @@ QRect Scaled(const Rect& rect, double ratio) {
 
 // Names never reach the number, the moon, the edges or another cell, whatever the size.
 TEST(CellTextsTest, LinesStayBelowNumberAndMoonInsideTheirCells) {
-  const ScopedRules inForce(RulesWith(kRomanReform));
   for (const QSize size : {QSize(850, 434), QSize(1280, 800), QSize(1920, 1080), QSize(500, 900)}) {
     for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
       SCOPED_TRACE(std::to_string(size.width()) + " at " + std::to_string(ratio));
@@ -112,7 +69,6 @@ TEST(CellTextsTest, LinesStayBelowNumberAndMoonInsideTheirCells) {
 }
 
 TEST(CellTextsTest, MonthsWithoutRoomForTwoLinesAreDrawnAsWithoutTexts) {
-  const ScopedRules inForce(RulesWith(kRomanReform));
   for (const QSize size : {QSize(500, 250), QSize(210, 300), QSize(140, 90), QSize(150, 900), QSize(7, 7)}) {
     TextPage page;
     page.size = size;
@@ -123,7 +79,6 @@ TEST(CellTextsTest, MonthsWithoutRoomForTwoLinesAreDrawnAsWithoutTexts) {
 }
 
 TEST(CellTextsTest, TextsHaveTheirMarksColorAndCanBeReadOnTheirGround) {
-  const ScopedRules inForce(RulesWith(kRomanReform));
   TextPage page;
   page.content.dayEvents.erase(page.content.dayEvents.begin(), page.content.dayEvents.end() - 1);
   page.settings.backgroundAlpha = 255;
@@ -148,28 +103,8 @@ TEST(CellTextsTest, TextsHaveTheirMarksColorAndCanBeReadOnTheirGround) {
   }
 }
 
-TEST(CellTextsTest, PartsPaintedAnewAreThoseOfAWholePainting) {
-  const ScopedRules inForce(RulesWith(kRomanReform));
-  TextPage page;
-  page.picture = BuiltInBackground();
-  page.settings.circleTheDay = true;
-  page.settings.showWeekNumber = true;
-  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
-    page.ratio = ratio;
-    page.marks.day = 2;
-    QImage canvas = page.Paint();
-    const MonthLayout layout = page.Layout();
-    page.marks.day = 23;
-    QRegion dirty(ToQRect(layout.DirtyRect(page.CellOf(2))));
-    dirty += ToQRect(layout.DirtyRect(page.CellOf(23)));
-    page.PaintOn(canvas, dirty);
-    EXPECT_EQ(canvas, page.Paint()) << ratio;
-  }
-}
-
 // The circle goes around the small number, and stays in its cell.
 TEST(CellTextsTest, CircleSurroundsTheNumberInTheCorner) {
-  const ScopedRules inForce(RulesWith(kRomanReform));
   TextPage page;
   page.settings.circleTheDay = true;
   const QImage with = page.Paint();

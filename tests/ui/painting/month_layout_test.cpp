@@ -20,18 +20,6 @@ TEST(MonthLayoutTest, EveryPixelBelongsToTheCellWhoseRectangleHoldsIt) {
     }
 }
 
-TEST(MonthLayoutTest, ColumnsShareTheWidthWithTheWeekNumbers) {
-  const MonthLayout without(900, 423, false, true);
-  EXPECT_EQ(without.CellRect(14), (Rect{6 * 128, 120, 7 * 128, 180}));
-  const MonthLayout with(900, 423, true, false);
-  EXPECT_EQ(with.CellRect(0), (Rect{0, 60, 124, 120}));
-  EXPECT_EQ(with.WeekHeaderRect(), (Rect{869, 0, 900, 60}));  // from 28/29 of the width
-  EXPECT_EQ(with.WeekNumberRect(6), (Rect{869, 360, 899, 420}));
-  EXPECT_EQ(with.GlyphRect(0, 40, 48), (Rect{82, 84, 94, 96}));
-  const MonthLayout paper(700, 420, false, true, 6);
-  EXPECT_EQ(paper.RoundedRect(1), (Rect{24, 84, 76, 96}));
-}
-
 // On purpose: some stand right of 28/29 of the width.
 TEST(MonthLayoutTest, WeekNumbersStandRightOfTheLineThatPartsThem) {
   for (int width = 60; width < 2000; ++width) {

@@ -1,66 +1,30 @@
 #include "ui/painting/month_painter.h"
 
-#include <QImage>
-#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <set>
 
 #include "core/calendar_config.h"
-#include "tests/content/rule_builder.h"
-#include "ui/painting/month_pictures.h"
+#include "tests/ui/painting/month_page.h"
 #include "ui/painting/month_texts.h"
-#include "ui/toolkit/colors.h"
-#include "ui/toolkit/geometry.h"
 
 namespace orbisol {
 namespace {
 
 constexpr Color kBlue = Rgb(0x20, 0x60, 0xE0);
 constexpr Color kYellow = Rgb(0xFF, 0xF0, 0x80);
-constexpr Color kMagenta = Rgb(0xFF, 0, 0xFF);  // color where nothing was painted
 
-// May 2024, painted as a window does. Plain and without a grid, so that a pixel has one reason for its color.
-struct Page {
-  CalendarContent content;
-  DisplaySettings settings;
-  QImage picture;
-  MonthMarks marks;
-  int width = 700, height = 420;
-  double ratio = 1;
-  CMonthPainter::Medium medium = CMonthPainter::kScreen;
-  MonthModel::Moon moon = MonthModel::kWithMoon;
-
+// Plain and without a grid, so that a pixel has one reason for its color.
+struct Page : MonthPage {
   Page() {
     settings.grid = false;
     settings.fullCellBackground = true;
     settings.backgroundAlpha = 255;
     settings.colors[kVacationBack] = kYellow;
     settings.colors[kCircleColor] = kBlue;
-    marks.month = 5;
   }
-
-  MonthLayout Layout() const { return {width, height, settings.showWeekNumber, Rules().iso8601}; }
-  MonthModel Model() const { return BuiltMonth(2024, 5, content, moon, settings.colors); }
-  Rect Cell(int day, int month = 5) const { return Layout().CellRect(Model().CellOf(month, day)); }
   void FillDays(PackedDate from, PackedDate to) { content.vacations.push_back(Period(from, to)); }
-  void PaintOn(QImage& canvas, const QRegion& region = {}) const {
-    CMonthPainter painter;
-    painter.SetUp(Layout(), settings, QFont(), medium);
-    painter.SetBackground(picture);
-    QPainter ink(&canvas);
-    painter.Paint(ink, Model(), marks, region);
-  }
-  QImage Paint() const {
-    QImage canvas((QSizeF(width, height) * ratio).toSize(), QImage::Format_RGB32);
-    canvas.setDevicePixelRatio(ratio);
-    canvas.fill(ToQColor(kMagenta));
-    PaintOn(canvas);
-    return canvas;
-  }
 };
 
 Color PixelAt(const QImage& image, int x, int y) {
@@ -109,7 +73,7 @@ TEST(MonthPainterTest, GridLinesStandAtTheCellsEdgesAndNumbersBesideWeeksWithDay
   const QImage grid = page.Paint();
   for (const int x : {0, 100, 600, 699}) EXPECT_EQ(PixelAt(grid, x, 65), kGreyTextColor) << x;
   for (const int y : {0, 60, 360, 419}) EXPECT_EQ(PixelAt(grid, 5, y), kGreyTextColor) << y;
-  page.width = 725;
+  page.size.setWidth(725);
   page.settings.grid = false;
   page.settings.showWeekNumber = true;
   const QImage weeks = page.Paint();
@@ -122,7 +86,7 @@ TEST(MonthPainterTest, GridLinesStandAtTheCellsEdgesAndNumbersBesideWeeksWithDay
 // Lines are measured in device pixels, at ratios where these are not the pixels of the layout.
 TEST(MonthPainterTest, LinesAndFramesAreEquallyWideAtEveryRatio) {
   Page page;
-  page.width = 713;
+  page.size.setWidth(713);
   page.settings.grid = true;
   page.settings.circleWidth = 2;
   for (const auto& [ratio, line, stroke] :
@@ -173,7 +137,7 @@ TEST(MonthPainterTest, FillsHaveTheFormAndTheOpacityOfTheSettings) {
 TEST(MonthPainterTest, MarkCanBeAnEllipseAndStandOnANeighboringMonthsDay) {
   Page page;
   page.settings.circleTheDay = true;
-  page.settings.circleWidth = 3;
+  page.settings.circleWidth = 9;  // three, as it is clamped
   page.marks.month = 4;
   page.marks.day = 30;  // five pixels inside the sides, three inside top and bottom, a twentieth of the cell
   EXPECT_EQ(PixelAt(page.Paint(), 105, 90), kBlue);
@@ -207,19 +171,18 @@ TEST(MonthPainterTest, PartsPaintedAnewAreThoseOfAWholePainting) {
                    << "ratio " << ratio << (isCircle ? ", circle " : ", frame ") << isSmall);
       Page page;
       page.ratio = ratio;
-      page.width = isSmall ? 75 : 711;  // there the mark leaves its cell
-      page.height = isSmall ? 61 : 433;
+      page.size = isSmall ? QSize(75, 61) : QSize(711, 433);  // there the mark leaves its cell
       if (isCircle) page.picture = BuiltInBackground();
       page.settings.showWeekNumber = true;
       page.settings.circleTheDay = isCircle;
       page.settings.circleWidth = 3;
+      page.settings.cellTexts = isCircle;
+      page.content.dayEvents = {EveryYear(5, 12, u"Réunion de toute l'équipe"), EveryYear(5, 20, u"Piscine")};
       page.FillDays(20240506, 20240526);
       page.marks.day = 12;  // the last of its row
       QImage canvas = page.Paint();
       page.marks.day = 20;
-      const auto dirty = [&](int day) {
-        return ToQRect(page.Layout().DirtyRect(page.Model().CellOf(5, day)));
-      };
+      const auto dirty = [&](int day) { return ToQRect(page.Layout().DirtyRect(page.CellOf(day))); };
       page.PaintOn(canvas, QRegion(dirty(12)) + dirty(20));
       EXPECT_EQ(canvas, page.Paint());
       for (int y = 0; y < canvas.height(); ++y) EXPECT_TRUE(Widths(canvas, kMagenta, y, false).empty());
@@ -308,8 +271,7 @@ TEST(MonthPainterTest, TodayIsTintedAndUnderlinedOnScreenInItsOwnMonth) {
 
 TEST(MonthPainterTest, TitleOfTheWeekNumbersHasAFontOfItsOwn) {
   Page page;
-  page.width = 2000;
-  page.height = 500;
+  page.size = {2000, 500};
   page.settings.showWeekNumber = true;
   const MonthFonts fonts = MakeMonthFonts(page.Layout(), page.settings, QFont());
   ASSERT_LT(fonts.weekTitle.pixelSize(), fonts.names.pixelSize());

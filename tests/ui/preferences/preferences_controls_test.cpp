@@ -47,9 +47,11 @@ void TypePicture(PreferencesTest& test) {
 }
 
 void ChooseFont(PreferencesTest& test) {
-  PreferencesTest::WithDialog<QFontDialog>(
-      [&] { QTest::keyClick(&test.Find("chooseFont"), Qt::Key_Return); },
-      [](QFontDialog& dialog) { dialog.setCurrentFont(QFont(u"DejaVu Serif"_s, 12, QFont::Bold)); });
+  test.InDialog<QFontDialog>([](QFontDialog& dialog) {
+    dialog.setCurrentFont(QFont(u"DejaVu Serif"_s, 12, QFont::Bold));
+    dialog.accept();
+  });
+  QTest::keyClick(&test.Find("chooseFont"), Qt::Key_Return);
 }
 
 // Types a row of the civil years, and those above it, which may not be empty.
@@ -73,11 +75,12 @@ ControlRow ColorButton(int color) {
         QString::fromStdU16String(std::u16string(ColorTable()[static_cast<std::size_t>(color)].text));
     for (auto* const button : test.sheet->findChildren<QPushButton*>()) {
       if (button->accessibleName() != caption) continue;
-      PreferencesTest::WithDialog<QColorDialog>([&] { QTest::keyClick(button, Qt::Key_Return); },
-                                                [&](QColorDialog& dialog) {
-                                                  EXPECT_EQ(dialog.windowTitle(), caption);
-                                                  dialog.setCurrentColor(QColor(0x12, 0x34, 0x56));
-                                                });
+      test.InDialog<QColorDialog>([&](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), caption);
+        dialog.setCurrentColor(QColor(0x12, 0x34, 0x56));
+        dialog.accept();
+      });
+      QTest::keyClick(button, Qt::Key_Return);
       EXPECT_EQ(button->accessibleDescription(), u"#123456"_s);
     }
   };

@@ -2,15 +2,8 @@
 #pragma once
 
 #include <QAction>
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
-#include <QTimer>
 
-#include "content/calendar_content.h"
-#include "tests/support/calendar_builder.h"
 #include "tests/ui/shell/frame_fixture.h"
 #include "ui/preferences/pref_cal_win.h"
 #include "ui/preferences/prefs_prop_sheet.h"
@@ -21,12 +14,12 @@ inline constexpr PackedDate kShown = 20240515;
 
 class PreferencesTest : public FrameTest {
  public:
+  using FrameTest::InDialog;
   using FrameTest::Settle;
 
   PreferencesTest() {
     CalendarFile calendar;
-    calendar.content = {{Rule(kFixedDate, {.month = 5, .day = 8, .name = u"Victoire"}),
-                         Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 14, .name = u"Dîner"})},
+    calendar.content = {{EveryYear(5, 8, u"Victoire"), EveryYear(5, 14, u"Dîner", false)},
                         {Period(20240520, 20240524, u"Vacances")}};
     calendar.look.backgroundImage = false;
     files.Put(u"/user/Calendar.xml", WriteCalendar(calendar, CalendarForm::kUser));
@@ -71,24 +64,6 @@ class PreferencesTest : public FrameTest {
       if (action->text().startsWith(beginning)) return action->trigger();
     ADD_FAILURE() << "no entry " << qPrintable(beginning);
   }
-  // Does what opens a dialog, and leaves that dialog to `act`.
-  template <class Dialog>
-  static void WithDialog(const std::function<void()>& open, const std::function<void(Dialog&)>& act) {
-    QTimer untilOpen;
-    bool isOpened = false;
-    QObject::connect(&untilOpen, &QTimer::timeout, [&] {
-      auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      untilOpen.stop();
-      isOpened = true;
-      act(*dialog);
-      dialog->accept();
-    });
-    untilOpen.start(0);
-    open();
-    EXPECT_TRUE(isOpened);
-  }
-
   // The main window without what depends on the focus and the pointer.
   struct Seen {
     QImage month, header;

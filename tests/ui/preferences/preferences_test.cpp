@@ -2,11 +2,12 @@
 // preview.
 
 #include <QColorDialog>
-#include <QLabel>
 #include <QSignalSpy>
 #include <QSlider>
 
 #include "tests/ui/preferences/preferences_fixture.h"
+#include "ui/preferences/color_presets.h"
+#include "ui/toolkit/colors.h"
 #include "ui/toolkit/date_edit.h"
 
 namespace orbisol {
@@ -42,35 +43,25 @@ TEST_F(PreferencesTest, TheEndOfTheSessionKeepsWhatWasAppliedAndNothingLater) {
 }
 
 TEST_F(PreferencesTest, AFileThatCannotSimplyBeReplacedIsAskedAboutAndNoAnswerChangesNothing) {
-  Content().vacations.clear();  // not saved yet
-  for (const bool isOther : {false, true}) {
-    SCOPED_TRACE(isOther);
-    if (isOther) {  // somebody else wrote it while the sheet is open
-      files.failingWrites.clear();
-      files.Put(u"/user/Calendar.xml", BytesWith(u"Une autre"));
-    } else {
-      files.failingWrites.insert(u"/user/Calendar.xml");
-    }
-    const std::string theirs = files.files.at(u"/user/Calendar.xml").bytes;
-    messages.questions.clear();
-    OpenSheet();
-    Click("iso8601");
-    sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
-    Click("grid");
-    Press(QDialogButtonBox::Ok);
-    EXPECT_TRUE(sheet->isVisible());
-    Press(QDialogButtonBox::Apply);  // can be pressed again
-    Press(QDialogButtonBox::Cancel);
-    EXPECT_TRUE(sheet->isVisible());
-    EXPECT_EQ(messages.questions.size(), 2U);
-    EXPECT_EQ(files.files.at(u"/user/Calendar.xml").bytes, theirs);
-    EXPECT_NE(DwordOf(*store.Read(), "Grid"), 0U);
-    EXPECT_TRUE(Rules().iso8601 && Display().grid);
-    EXPECT_TRUE(Content().vacations.empty());
-    Press(QDialogButtonBox::Cancel);
-    EXPECT_FALSE(sheet->isVisible());
-    EXPECT_EQ(messages.questions.size(), 2U);
-  }
+  Content().vacations.clear();                                // not saved yet
+  files.Put(u"/user/Calendar.xml", BytesWith(u"Une autre"));  // somebody else wrote it
+  const std::string theirs = files.files.at(u"/user/Calendar.xml").bytes;
+  Click("iso8601");
+  sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
+  Click("grid");
+  Press(QDialogButtonBox::Ok);
+  EXPECT_TRUE(sheet->isVisible());
+  Press(QDialogButtonBox::Apply);  // can be pressed again
+  Press(QDialogButtonBox::Cancel);
+  EXPECT_TRUE(sheet->isVisible());
+  EXPECT_EQ(messages.questions.size(), 2U);
+  EXPECT_EQ(files.files.at(u"/user/Calendar.xml").bytes, theirs);
+  EXPECT_NE(DwordOf(*store.Read(), "Grid"), 0U);
+  EXPECT_TRUE(Rules().iso8601 && Display().grid);
+  EXPECT_TRUE(Content().vacations.empty());
+  Press(QDialogButtonBox::Cancel);
+  EXPECT_FALSE(sheet->isVisible());
+  EXPECT_EQ(messages.questions.size(), 2U);
   OpenSheet();
   const bool isIso = Find<QCheckBox>("iso8601").isChecked();
   Click("iso8601");
@@ -88,13 +79,9 @@ TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) 
     const char* field;  // that gets the focus; null where the rows are accepted
   } kCases[] = {
       {{"25/03/1400", "25/03/1300", "25/03/1200", "25/03/1100"}, "15/10/1582", nullptr},
-      {{"15/10/1582", "", "", ""}, "15/10/1582", nullptr},
-      {{"", "", "", ""}, "15/10/1582", nullptr},
       {{"25/03/1300", "25/03/1400", "", ""}, "15/10/1582", "row1"},  // the older first
-      {{"25/03/1300", "25/03/1300", "", ""}, "15/10/1582", "row1"},
       {{"25/03/1400", "", "25/03/1300", ""}, "15/10/1582", "row2"},
       {{"16/10/1582", "", "", ""}, "15/10/1582", "row1"},
-      {{"25/03/1400", "25/03/1300", "25/03/1700", ""}, "15/10/1582", "row3"},
       {{"30/02/1400", "", "", ""}, "15/10/1582", "row1"},
       {{"25/03/1400", "", "", ""}, "29/02/1700", "start"},
       {{"01/01/1701", "", "", ""}, "12/01/1701", nullptr},  // a day that this reform drops
@@ -134,31 +121,11 @@ TEST_F(PreferencesTest, RowsOutOfOrderAreRefusedAtTheirFieldAndNothingIsStored) 
   }
 }
 
-TEST_F(PreferencesTest, PresetsOfReformsGiveTheMonthsOfTheirCountries) {
-  const struct {
-    QString country;
-    int year, month;
-    std::set<int> gone;
-  } kCases[] = {
-      {u"Royaume-Uni"_s, 1752, 9, {3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}},
-      {u"Danemark"_s, 1700, 2, {19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29}},
-      {u"Russie"_s, 1918, 2, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}},
-  };
-  for (const auto& example : kCases) {
-    SCOPED_TRACE(qPrintable(example.country));
-    OpenSheet();
-    Choose("reformPresets", example.country);
-    const int gap = *example.gone.begin();
-    EXPECT_TRUE(sheet->Preview().DayRect(example.month, gap).isEmpty());
-    EXPECT_EQ(sheet->Preview().Sample().month.month, example.month);
-    Press(QDialogButtonBox::Ok);
-    Show(Pack(example.year, example.month, gap == 1 ? 14 : 1));
-    const MonthModel& month = Dialog().Month().Month();
-    const int last = example.month == 2 && example.year == 1918 ? 28 : example.month == 2 ? 29 : 30;
-    for (int day = 1; day <= last; ++day)
-      EXPECT_EQ(month.CellOf(example.month, day) == kNoCell, example.gone.count(day) > 0) << day;
-  }
-  OpenSheet();
+TEST_F(PreferencesTest, PresetsFillTheFieldsAndThePreviewShowsTheirReform) {
+  Choose("reformPresets", u"Danemark"_s);
+  EXPECT_EQ(sheet->Preview().Sample().month.month, 2);
+  EXPECT_TRUE(sheet->Preview().DayRect(2, 19).isEmpty());
+  EXPECT_FALSE(sheet->Preview().DayRect(2, 18).isEmpty());
   Choose("yearPresets", u"25 mars, depuis"_s);
   EXPECT_EQ(Find<CDateEdit>("start").Date(), 17520914);
   Choose("reformPresets", u"Rome"_s);
@@ -194,13 +161,13 @@ TEST_F(PreferencesTest, ClicksOnThePreviewEditTheColorsOfWhatWasHit) {
     for (const auto& [button, index] :
          {std::pair{Qt::LeftButton, example.foreground}, std::pair{Qt::RightButton, example.background}}) {
       const QImage before = preview.grab().toImage();
-      WithDialog<QColorDialog>([&, b = button] { QTest::mouseClick(&preview, b, {}, example.at); },
-                               [&, i = index](QColorDialog& dialog) {
-                                 const auto caption = ColorTable()[static_cast<std::size_t>(i)].text;
-                                 EXPECT_EQ(dialog.windowTitle().toStdU16String(), caption);
-                                 EXPECT_EQ(dialog.customColor(4), QColor(Qt::white));
-                                 dialog.setCurrentColor(QColor(10 + i, 100, example.at.x() % 200));
-                               });
+      InDialog<QColorDialog>([&, i = index](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdU16String(), ColorTable()[static_cast<std::size_t>(i)].text);
+        EXPECT_EQ(dialog.customColor(4), QColor(Qt::white));
+        dialog.setCurrentColor(QColor(10 + i, 100, example.at.x() % 200));
+        dialog.accept();
+      });
+      QTest::mouseClick(&preview, button, {}, example.at);
       Settle();
       EXPECT_NE(preview.grab().toImage(), before) << index;
     }
@@ -212,24 +179,22 @@ TEST_F(PreferencesTest, ClicksOnThePreviewEditTheColorsOfWhatWasHit) {
 }
 
 TEST_F(PreferencesTest, ASetOfColorsThatNeedsAPlainGroundTakesThePictureAwayAndTheLightOneBringsItBack) {
-  const struct {
-    bool isShownByHand;  // before the set is chosen
-    QString preset;
-    bool isShown;
-  } kSteps[] = {
+  // Whether the picture is shown by hand before the set is chosen, the set, and whether it is shown
+  // afterwards.
+  const std::tuple<bool, QString, bool> kSteps[] = {
       {false, u"Sombre"_s, false},   {false, u"Clair"_s, false}, {true, u"Sombre"_s, false},
       {true, u"Contraste"_s, false}, {false, u"Clair"_s, true},  {false, u"Clair"_s, true},
   };
-  for (const auto& step : kSteps) {
-    SCOPED_TRACE(qPrintable(step.preset));
+  for (const auto& [isShownByHand, preset, isShown] : kSteps) {
+    SCOPED_TRACE(qPrintable(preset));
     sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
-    if (step.isShownByHand) Click("picture");
+    if (isShownByHand) Click("picture");
     sheet->ShowPage(CPrefsPropSheet::kColorsPage);
     const bool hadNote = !Find<QLabel>("presetNote").text().isEmpty();
-    EXPECT_FALSE(hadNote && step.isShownByHand);
-    Choose("presets", step.preset);
+    EXPECT_FALSE(hadNote && isShownByHand);
+    Choose("presets", preset);
     sheet->ShowPage(CPrefsPropSheet::kDisplayPage);
-    EXPECT_EQ(Find<QCheckBox>("picture").isChecked(), step.isShown);
+    EXPECT_EQ(Find<QCheckBox>("picture").isChecked(), isShown);
   }
   EXPECT_TRUE(Find<QLabel>("presetNote").text().isEmpty());
 }
@@ -256,6 +221,30 @@ TEST_F(PreferencesTest, TextsInTheCellsAreACommandThatStoresOneValueAndHoldsWher
   Click("iso8601");
   Press(QDialogButtonBox::Ok);
   EXPECT_EQ(messages.errors.size(), 1U);  // the switches were not stored
+}
+
+// A day's text stands on its own ground, on that of a vacation, or on any mixture of a fill with the plain
+// ground. Contrast is least at one end of a mixture where the text is lighter than both ends.
+TEST(ColorPresetsTest, EveryTextIsLegibleOnEveryGroundItMayStandOn) {
+  const std::pair<ColorIndex, std::vector<ColorIndex>> kRows[] = {
+      {kHeaderTextColor, {kHeaderBgColor}},
+      {kColorCalHeader, {kColorBgCal}},
+      {kColorWeekNumber, {kStandardBgColor}},
+      {kStandardTextColor, {kStandardBgColor}},
+      {kGrayTextColor, {kStandardBgColor, kVacationBack}},
+      {kHolidayText, {kStandardBgColor, kHolidayBack, kVacationBack}},
+      {kEventText, {kStandardBgColor, kEventBack, kVacationBack}},
+      {kVacationText, {kStandardBgColor, kHolidayBack, kEventBack, kVacationBack}},
+  };
+  for (const ColorPreset preset : {kDarkColors, kHighContrastColors}) {
+    const auto colors = PresetColors(preset);
+    const auto at = [&](ColorIndex index) { return ToQColor(colors[static_cast<std::size_t>(index)]); };
+    for (const auto& [text, grounds] : kRows)
+      for (const ColorIndex ground : grounds)
+        EXPECT_GE(Contrast(at(text), at(ground)), 4.5) << preset << " " << text << " on " << ground;
+    EXPECT_GE(Contrast(at(kCircleColor), at(kStandardBgColor)), 3.0);
+  }
+  EXPECT_EQ(PresetColors(kLightColors), CalendarLook().colors);
 }
 
 }  // namespace

@@ -4,15 +4,9 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
-#include <QTimer>
-#include <QToolButton>
 
 #include <map>
 
@@ -87,6 +81,8 @@ TEST_F(ThemesTest, EveryTextOfEveryWindowIsReadWithEase) {
     QApplication::setPalette(theme.Palette());
     Open();
     ExpectReadable(*frame);
+    EXPECT_EQ(Dialog().Pane().palette().color(QPalette::Highlight), ToQColor(kHighlightColor))
+        << "its own blue";
     for (const CommandId command : kDialogs) {
       QTimer::singleShot(0, frame.get(), [&] {
         QWidget* const dialog = QApplication::activeModalWidget();

@@ -17,7 +17,6 @@ namespace {
 TEST(TypedDateTest, TextsAreReadInTheOrderOfTheUser) {
   constexpr const char* kFaults[] = {"kNone",  "kIncomplete", "kNotADate",   "kNoMonth",
                                      "kNoDay", "kDropped",    "kOutOfBounds"};
-  const ScopedRules roman(CalendarRules{});
   std::ifstream file(ORBISOL_TEST_DATA "/field_dates.txt");
   int rows = 0;
   for (std::string line; std::getline(file, line); ++rows) {
@@ -126,13 +125,8 @@ TEST_F(DateEditTest, ADateInWordsIsTakenWhereItHasOneMeaning) {
 }
 
 TEST_F(DateEditTest, ArrowsStepThePartAtTheCursor) {
-  const struct {
-    PackedDate from;
-    int cursor;
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    PackedDate to;
-  } kSteps[] = {
+  // From a date, with the cursor at a place and a key with modifiers, to a date.
+  const std::tuple<PackedDate, int, Qt::Key, Qt::KeyboardModifiers, PackedDate> kSteps[] = {
       {20240531, 1, Qt::Key_Up, {}, 20240601},
       {20240531, 4, Qt::Key_Down, {}, 20240430},
       {20240229, 8, Qt::Key_Up, {}, 20250228},
@@ -146,12 +140,11 @@ TEST_F(DateEditTest, ArrowsStepThePartAtTheCursor) {
       {20240515, 0, Qt::Key_PageUp, Qt::ControlModifier, 20230515},
       {39990601, 8, Qt::Key_Up, {}, 39991231},
   };
-  for (const auto& row : kSteps) {
-    SCOPED_TRACE(testing::Message() << row.from << " to " << row.to);
-    edit.SetDate(row.from);
-    edit.setCursorPosition(row.cursor);
-    QTest::keyClick(&edit, static_cast<Qt::Key>(row.key), row.modifiers);
-    EXPECT_EQ(edit.Date(), row.to);
+  for (const auto& [from, cursor, key, modifiers, to] : kSteps) {
+    edit.SetDate(from);
+    edit.setCursorPosition(cursor);
+    QTest::keyClick(&edit, key, modifiers);
+    EXPECT_EQ(edit.Date(), to) << from;
   }
   FakeLocale american;
   american.dateOrder = 0;

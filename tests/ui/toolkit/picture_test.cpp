@@ -28,11 +28,7 @@ TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
   const QByteArray png = Encoded({400, 100}, "png");
   QByteArray huge = Encoded({1, 1}, "bmp");
   for (const qsizetype field : {18, 22}) huge.replace(field, 4, QByteArray("\x00\x40\x00\x00", 4));  // 16384
-  const struct {
-    const char* name;
-    QByteArray bytes;
-    PictureFault fault;
-  } kFiles[] = {
+  const std::tuple<const char*, QByteArray, PictureFault> kFiles[] = {
       {"picture.png", png, PictureFault::kNone},
       {"wrongly named.svg", png, PictureFault::kNone},
       {"photo.jpg", Encoded({400, 100}, "jpg"), PictureFault::kNone},
@@ -44,15 +40,15 @@ TEST(PictureReaderTest, OnlyPicturesInRegularFilesAreRead) {
        PictureFault::kNoPicture},
       {"pixels.xpm", Encoded({4, 4}, "xpm"), PictureFault::kNoPicture},
   };
-  for (const auto& row : kFiles) {
-    SCOPED_TRACE(row.name);
-    QFile file(base + QLatin1String(row.name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(row.bytes) == row.bytes.size());
+  for (const auto& [name, bytes, fault] : kFiles) {
+    SCOPED_TRACE(name);
+    QFile file(base + QLatin1String(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
     const PictureFile picture = ReadPicture(file.fileName(), QSize(200, 200));
-    EXPECT_EQ(picture.fault, row.fault);
-    EXPECT_EQ(picture.image.size(), row.fault == PictureFault::kNone ? QSize(200, 50) : QSize(0, 0));
-    EXPECT_EQ(PictureFaultText(picture.fault).isEmpty(), row.fault == PictureFault::kNone);
+    EXPECT_EQ(picture.fault, fault);
+    EXPECT_EQ(picture.image.size(), fault == PictureFault::kNone ? QSize(200, 50) : QSize(0, 0));
+    EXPECT_EQ(PictureFaultText(picture.fault).isEmpty(), fault == PictureFault::kNone);
   }
   ASSERT_EQ(mkfifo(QFile::encodeName(base + QLatin1String("pipe.png")).constData(), 0600), 0);
   for (const QString& path : {base + QLatin1String("pipe.png"), folder.path(), QStringLiteral("/dev/zero"),

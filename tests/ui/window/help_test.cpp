@@ -14,12 +14,6 @@
 namespace orbisol {
 namespace {
 
-CHelpWindow* OpenHelp() {
-  for (QWidget* const widget : QApplication::topLevelWidgets())
-    if (auto* const window = dynamic_cast<CHelpWindow*>(widget); window && window->isVisible()) return window;
-  return nullptr;
-}
-
 // Every topic has its page and every page its topic, and all links lead somewhere.
 TEST(HelpTextTest, TopicsHavePagesWhoseLinksResolve) {
   std::set<QString> targets;
@@ -157,7 +151,8 @@ TEST(HelpWindowTest, F1ShowsTheTopicAndNothingOutsideTheHelpIsLoaded) {
   window.activateWindow();
   QApplication::processEvents();
   QTest::keyClick(&window, Qt::Key_F1);
-  CHelpWindow* const help = OpenHelp();
+  QApplication::processEvents();
+  auto* const help = dynamic_cast<CHelpWindow*>(QApplication::activeWindow());
   ASSERT_NE(help, nullptr);
   CHelpBrowser& browser = help->Browser();
   EXPECT_EQ(browser.source().toString(), QStringLiteral("main_window.html#fenetre"));
@@ -176,7 +171,7 @@ TEST(HelpWindowTest, F1ShowsTheTopicAndNothingOutsideTheHelpIsLoaded) {
   }
 
   ShowHelpIndex();
-  EXPECT_EQ(OpenHelp(), help);  // one window
+  EXPECT_EQ(QApplication::activeWindow(), help) << "one window";
   auto* const words = help->findChild<QListWidget*>();
   auto* const filter = help->findChild<QLineEdit*>();
   EXPECT_EQ(help->focusWidget(), filter);

@@ -44,8 +44,10 @@ TEST_F(SaveCalendarTest, WhereSomebodyElseChangedTheFileTheUserDecides) {
     display.calendarName.Set(u"Calendar");
     Put(u"Calendar", u"theirs");
     messages.answers = answers;
+    store.written.clear();
     const SavedFromWindow saved = Save();
     EXPECT_EQ(saved.end, end);
+    EXPECT_EQ(store.written.empty(), end != SaveEnd::kSaved);
     EXPECT_EQ(OnDisk(), onDisk);
     EXPECT_EQ(ToUtf8(display.calendarName.View()), name);
     EXPECT_EQ(display.changed, end != SaveEnd::kSaved);

@@ -19,13 +19,8 @@ namespace orbisol {
 namespace {
 
 TEST(PlainTextTest, NumbersAreGroupedWithAPlainSpace) {
-  for (const auto& [number, text] : {std::pair{0, "0"},
-                                     {999, "999"},
-                                     {1000, "1 000"},
-                                     {-999, "-999"},
-                                     {-1234, "-1 234"},
-                                     {-123456, "-123 456"},
-                                     {1234567, "1 234 567"}})
+  for (const auto& [number, text] :
+       {std::pair{0, "0"}, {-999, "-999"}, {1000, "1 000"}, {-1234567, "-1 234 567"}})
     EXPECT_EQ(GroupedNumber(number), QLatin1String(text));
 }
 
