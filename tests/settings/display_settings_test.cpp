@@ -31,10 +31,7 @@ TEST(ScreenFitTest, RectanglesComeOntoTheScreen) {
   constexpr Rect kFullHd = {0, 0, 1920, 1080};
   constexpr Rect kTwoScreens = {-1280, -200, 1920, 1080};
   constexpr int kMost = 2147483647;
-  constexpr struct {
-    const char* what;
-    Rect stored, screen, fitted;
-  } kRows[] = {
+  constexpr std::tuple<const char*, Rect, Rect, Rect> kRows[] = {
       {"too large", {50, 50, 5050, 3050}, kFullHd, {0, 0, 1920, 1080}},
       {"left and below", {-100, 900, 700, 1390}, kFullHd, {0, 590, 800, 1080}},
       {"right and above", {1800, -30, 2600, 500}, kFullHd, {1120, 0, 1920, 530}},
@@ -43,7 +40,8 @@ TEST(ScreenFitTest, RectanglesComeOntoTheScreen) {
       {"as large as can be", {-kMost - 1, -kMost - 1, kMost, kMost}, kFullHd, kFullHd},
       {"inside out", {100, 100, 50, 60}, kFullHd, {100, 100, 50, 60}},
   };
-  for (const auto& row : kRows) EXPECT_EQ(FitRectToScreen(row.stored, row.screen), row.fitted) << row.what;
+  for (const auto& [what, stored, screen, fitted] : kRows)
+    EXPECT_EQ(FitRectToScreen(stored, screen), fitted) << what;
 }
 
 }  // namespace

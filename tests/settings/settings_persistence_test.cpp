@@ -36,7 +36,6 @@ class SettingsTest : public testing::Test, protected MemoryCalendars {
   static CalendarFile Session(const StoredSettings& stored) {
     return {stored.display.Look(), stored.rules, stored.content, u""};
   }
-  std::optional<std::u16string> StoredName() { return TextOf(*store.Read(), "CalendarName", 260); }
 };
 
 TEST_F(SettingsTest, WhatIsMissingOrMalformedTakesItsDefault) {
@@ -99,56 +98,6 @@ TEST_F(SettingsTest, AFirstStartShowsTheBestCalendarThatShipsAndWritesNothing) {
     EXPECT_EQ(first({u"fr", u"FR"}), "") << "whoever has calendars meets none they did not make";
     files.files.erase(name);
   }
-}
-
-TEST_F(SettingsTest, TheCalendarIsWrittenFirstThenTheKeyUnderTheNewName) {
-  DisplaySettings display = Read().display;
-  display.changed = true;
-  display.backgroundAlpha = -1;
-  SaveOutcome outcome;
-  const auto save = [&](std::u16string_view name) {
-    outcome = SaveSettings(store, calendars, display, {}, CalendarWith(u"Old").content, {}, name);
-  };
-  files.failingWrites.insert(kOwnPath);
-  save(u"Famille");
-  EXPECT_EQ(outcome.calendar, WriteResult::kFailed);
-  EXPECT_TRUE(outcome.key && display.changed);
-  EXPECT_EQ(StoredName(), u"Calendar");
-  EXPECT_EQ(Read().display.backgroundAlpha, -1) << "the switches are stored all the same";
-  files.failingWrites.clear();
-  store.readOnly = true;  // the session goes on under the new name
-  save(u"Famille");
-  EXPECT_EQ(outcome.calendar, WriteResult::kWritten);
-  EXPECT_FALSE(outcome.key || display.changed);
-  EXPECT_EQ(display.calendarPath, u"/user/Famille.xml");
-  EXPECT_EQ(OnDisk(), "Calendar=Old ");
-  store.readOnly = false;
-  save(u"Travail");
-  EXPECT_EQ(Read().display, display);
-}
-
-TEST_F(SettingsTest, AClosingWindowStoresItsRectangleWithThePane) {
-  const WindowLayout before{{50, 50, 900, 450}, false, true, 9, true, 0};
-  const std::pair<ClosingFrame, WindowLayout> kRows[] = {
-      {{{100, 80, 1000, 580}, true, false, true, 250}, {{100, 80, 1000, 580}, true, true, 9, true, 250}},
-      {{{}, true, false, true, 250}, {{50, 50, 900, 450}, true, true, 9, true, 250}},  // since the start
-      // maximized with the pane hidden: still with its width
-      {{{100, 80, 750, 580}, true, false, false, 250}, {{100, 80, 1000, 580}, true, true, 9, false, 250}},
-      {{{100, 80, 750, 580}, false, false, false, 250}, {{100, 80, 1000, 580}, false, true, 9, false, 250}},
-      {{{0, 0, 2147483647, 400}, false, false, false, 250}, {{0, 0, 1920, 400}, false, true, 9, false, 250}},
-  };
-  for (const auto& [frame, stored] : kRows) {
-    WindowLayout layout = before;
-    EXPECT_TRUE(SaveMainWindowLayout(store, layout, frame, kScreen));
-    EXPECT_EQ(layout, stored);
-    EXPECT_EQ(store.written.back().value, BinaryValue(LayoutToBytes(stored)));
-  }
-  WindowLayout layout = before;
-  store.written.clear();
-  EXPECT_FALSE(SaveMainWindowLayout(store, layout, {{0, 0, 160, 30}, false, true, true, 250}, kScreen));
-  EXPECT_EQ(layout, before) << "a minimized window stores nothing";
-  EXPECT_TRUE(SavePrintWindowLayout(store, layout, {{10, 10, 500, 400}, false, false, true, 0}, kScreen));
-  EXPECT_EQ(store.written.at(0).name, "PrintWindowLayout");
 }
 
 TEST_F(SettingsTest, OldValuesMoveIntoTheFileOfANewCalendar) {

@@ -73,14 +73,6 @@ TEST_F(CalendarsTest, ANewCalendarBeginsEmptyOrKeepsTheEvents) {
   }
 }
 
-TEST_F(CalendarsTest, WhereANewCalendarCannotBeWrittenTheOldOneGoesOn) {
-  files.failingWrites = {u"/user/Neuf.xml"};
-  EXPECT_FALSE(actions.Create(u"Neuf", false));
-  ExpectSaid("/user/Neuf.xml n'existe pas");
-  EXPECT_EQ(InUse(), kMaison);
-  EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
-}
-
 TEST_F(CalendarsTest, RenamingTakesFileVersionsAndKeyAlong) {
   Edit(u"next");
   EXPECT_TRUE(actions.Open(u"Travail"));  // a version of "Maison"
@@ -154,27 +146,6 @@ TEST_F(CalendarsTest, ACopyIsWrittenElsewhere) {
   EXPECT_FALSE(actions.Export(u"Maison", u"/home/x.xml"));
   ExpectSaid("/home/x.xml");
   EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
-}
-
-TEST_F(CalendarsTest, AVersionIsRestoredAfterABadSaveAndTakenBack) {
-  Edit(u"bad");
-  EXPECT_TRUE(actions.Open(u"Travail") && actions.Open(u"Maison"));
-  Edit(u"unsaved");
-  const auto restore = [&](std::u16string_view name, std::size_t row) {
-    actions.StateOf(name);
-    return actions.Restore(name, calendars.Versions().List(name).at(row));
-  };
-  EXPECT_TRUE(restore(u"Maison", 0));
-  EXPECT_EQ(InUse(), kMaison);
-  EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
-  EXPECT_EQ(Versions(u"Maison"), "bad unsaved mine ") << "nothing of the user's is lost";
-  EXPECT_TRUE(restore(u"Maison", 0));
-  EXPECT_EQ(InUse(), "Maison /user/Maison.xml Maison bad");
-
-  calendars.KeepVersion(u"Travail", CalendarWith(u"older"));
-  EXPECT_TRUE(restore(u"Travail", 0));
-  EXPECT_EQ(OnDisk(), "Maison=bad Travail=older ");
-  EXPECT_EQ(InUse(), "Maison /user/Maison.xml Maison bad") << "another one stays in use";
 }
 
 TEST_F(CalendarsTest, AVersionReplacesNothingThatWasNotSeen) {

@@ -112,6 +112,7 @@ TEST_F(CalendarDialogsTest, ANewNameIsJudgedAtItsField) {
   files.isClosed = true;
   Key(Qt::Key_Return);
   EXPECT_TRUE(dialog->isVisible()) << "the folder takes no file any more";
+  EXPECT_EQ(InUse(), "Maison /user/Maison.xml Maison mine") << "the old one goes on";
   files.isClosed = false;
   Key(Qt::Key_Return);
   EXPECT_FALSE(dialog->isVisible());

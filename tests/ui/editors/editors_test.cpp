@@ -6,11 +6,8 @@ namespace orbisol {
 namespace {
 
 TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {
-  const struct {
-    const char* typed;  // field=text
-    DayEvent rule;
-    PackedDate day;  // the only one of its month
-  } kRows[] = {
+  // The typed texts as field=text, the rule, and its day, the only one of its month.
+  const std::tuple<const char*, DayEvent, PackedDate> kRows[] = {
       {"day=14 month=juil", Rule(kFixedDate, {.month = 7, .day = 14}), 20240714},
       {"distance=39", Rule(kRomanEaster, {.day = 39}), 20240509},
       {"distance=-2", Rule(kOrthodoxEaster, {.day = -2}), 20240503},
@@ -24,14 +21,14 @@ TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {
       {"day=1 month=jan", Rule(kExceptSunday, {.month = 1, .day = 1}), 20230102},
   };
   for (const bool isPublic : {false, true}) {
-    for (const auto& row : kRows) {
-      SCOPED_TRACE(row.typed);
+    for (const auto& [typed, plain, ymd] : kRows) {
+      SCOPED_TRACE(typed);
       Content() = {};
       OpenEvents();
       Type("name", QStringLiteral("x"));
       Type("type", {});
-      for (int kind = 0; kind < static_cast<int>(row.rule.type); ++kind) Press(Qt::Key_Down);
-      for (const QString& entry : QString::fromUtf8(row.typed).split(u' '))
+      for (int kind = 0; kind < static_cast<int>(plain.type); ++kind) Press(Qt::Key_Down);
+      for (const QString& entry : QString::fromUtf8(typed).split(u' '))
         Type(qPrintable(entry.section(u'=', 0, 0)), entry.section(u'=', 1));
       if (isPublic) {
         Type("isPublic", QStringLiteral(" "));
@@ -42,11 +39,11 @@ TEST_F(EditorTest, EveryKindOfEventIsTypedSavedReadBackAndSeen) {
                            << qPrintable(Note("nameNote") + Note("dayNote") + Note("untilNote"));
       Press(Qt::Key_Return);
       EXPECT_EQ(dialog->result(), QDialog::Accepted) << "Enter again saves";
-      DayEvent rule = row.rule;
+      DayEvent rule = plain;
       rule.isPublic = isPublic;
       EXPECT_EQ(Saved().dayEvents, std::vector{rule});
       EXPECT_EQ(Content(), Saved());
-      const auto [year, month, day] = Unpack(row.day);
+      const auto [year, month, day] = Unpack(ymd);
       EXPECT_EQ(Marked(year, month, isPublic ? kHolidayMark : kEventMark), std::vector{day});
     }
   }

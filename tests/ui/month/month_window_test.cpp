@@ -218,11 +218,7 @@ TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
     quint64 time = 0;  // time of the turn in milliseconds
     int aside = 0;
   };
-  const struct {
-    const char* what;
-    std::vector<Turn> turns;
-    PackedDate to;
-  } kTurns[] = {
+  const std::tuple<const char*, std::vector<Turn>, PackedDate> kTurns[] = {
       {"a notch away", {{120}}, 20231231},
       {"two towards us are two steps", {{-240}}, 20240329},
       {"Ctrl", {{-120, kCtrl}}, 20250131},
@@ -233,13 +229,13 @@ TEST_F(MonthWindowTest, WheelStepsByNotchesHoweverSmallItsTurns) {
       {"a second later", {{-100, {}, {}, 1000}, {-60, {}, {}, 2001}}, 20240131},
       {"aside", {{-120, {}, {}, 0, 121}}, 20240131},
   };
-  for (const auto& row : kTurns) {
+  for (const auto& [what, turns, to] : kTurns) {
     Select(20240131);
-    for (const Turn& turn : row.turns) {
-      const Qt::ScrollPhase phase = &turn == &row.turns.front() ? Qt::ScrollBegin : turn.phase;
+    for (const Turn& turn : turns) {
+      const Qt::ScrollPhase phase = &turn == &turns.front() ? Qt::ScrollBegin : turn.phase;
       Wheel({turn.aside, turn.eighths}, turn.modifiers, phase, turn.time);
     }
-    EXPECT_EQ(Now(), row.to) << row.what;
+    EXPECT_EQ(Now(), to) << what;
   }
 }
 

@@ -28,6 +28,9 @@ TEST_F(SaveCalendarTest, AFileThatNobodyTouchedIsReplacedWithoutAWord) {
   EXPECT_EQ(saved.end, SaveEnd::kSaved);
   EXPECT_TRUE(saved.keyStored && !display.changed && messages.shown.isEmpty());
   EXPECT_EQ(OnDisk(), "Calendar=mine ");
+  store.readOnly = true;
+  EXPECT_FALSE(Save(u"Famille").keyStored);
+  EXPECT_EQ(display.calendarPath, u"/user/Famille.xml") << "the session goes on under the new name";
 }
 
 TEST_F(SaveCalendarTest, WhereSomebodyElseChangedTheFileTheUserDecides) {
@@ -75,7 +78,9 @@ TEST_F(SaveCalendarTest, WhatAReloadGivesUpIsKeptAsAVersion) {
 
 TEST_F(SaveCalendarTest, WhereTheFileCannotBeWrittenTheUserSavesUnderAnotherName) {
   files.failingWrites = {u"/user/Calendar.xml"};
-  EXPECT_EQ(Save().end, SaveEnd::kUnsaved);
+  const SavedFromWindow failed = Save();
+  EXPECT_EQ(failed.end, SaveEnd::kUnsaved);
+  EXPECT_TRUE(failed.keyStored) << "the switches are stored all the same";
   EXPECT_EQ(OnDisk(), "Calendar=before ");
   EXPECT_TRUE(display.changed);
   ExpectSaid("n'a pas été enregistré");
