@@ -123,6 +123,49 @@ WriteResult CCalendarStore::Create(std::u16string_view name, std::string_view by
   return result;
 }
 
+bool CCalendarStore::PutAside(std::u16string_view name, const CalendarFile& calendar) {
+  if (!IsCalendarName(name)) return false;
+  const std::string bytes = BytesWithInfo(calendar, BytesOf(name).value_or(""));
+  for (const std::u16string& folder : m_asides) {
+    std::u16string path = CalendarPath(folder, name);
+    for (int number = 2; m_files.SizeOf(path); ++number) {
+      const std::optional<FileBytes> older = m_files.Read(path);
+      if (older && older->bytes == bytes) return true;
+      path = CalendarPath(folder, NumberedName(name, number));
+    }
+    if (m_files.MakePrivate(path, bytes)) return true;
+  }
+  return false;
+}
+
+bool CCalendarStore::HasBytes(std::string_view bytes) const {
+  const std::vector<std::u16string> names = Names();
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::u16string& name) { return BytesOf(name) == bytes; });
+}
+
+// A calendar leaves its place aside only when the disk has confirmed the new one.
+std::vector<TakenBack> CCalendarStore::TakeBack() {
+  std::vector<TakenBack> all;
+  for (const std::u16string& folder : m_asides) {
+    for (const std::u16string& name : CalendarNamesIn(m_files, folder)) {
+      const std::u16string path = CalendarPath(folder, name);
+      const std::optional<FileBytes> aside = m_files.Read(path);
+      if (!aside) continue;
+      if (HasBytes(aside->bytes)) {
+        m_files.Remove(path);
+        continue;
+      }
+      const auto lock = m_files.LockFolderOf(PathOf(name));
+      const std::u16string newName = Exists(name) ? FreeName(name) : name;
+      const WriteResult result = Create(newName, aside->bytes, {});
+      if (result == WriteResult::kWritten) m_files.Remove(path);
+      all.push_back({name, IsInPlace(result) ? newName : std::u16string(), path});
+    }
+  }
+  return all;
+}
+
 bool CCalendarStore::AddName(std::u16string_view name, std::u16string_view newName) {
   const std::u16string path = PathOf(name);
   const std::u16string newPath = PathOf(newName);

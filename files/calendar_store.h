@@ -44,11 +44,21 @@ struct SavedCalendar {
   std::u16string name;  // name under which it was saved, or was to be saved
 };
 
+// A calendar that was put aside.
+struct TakenBack {
+  std::u16string name;     // name under which it was to be saved
+  std::u16string newName;  // name under which it is saved now; empty where that fails and it stays aside
+  std::u16string path;     // file that it was put into
+};
+
 class CCalendarStore {
  public:
   // `files` outlives the store.
   CCalendarStore(FileSystem& files, const CalendarFolders& folders)
-      : m_files(files), m_folder(folders.calendars), m_versions(files, folders.versions) {}
+      : m_files(files),
+        m_folder(folders.calendars),
+        m_asides(folders.asides),
+        m_versions(files, folders.versions) {}
 
   // Returns the user's calendars, by the alphabet.
   std::vector<std::u16string> Names() const;
@@ -89,6 +99,14 @@ class CCalendarStore {
   // Keeps a calendar that is not saved as an earlier version of itself. Returns true when that is safe.
   bool KeepVersion(std::u16string_view name, const CalendarFile& calendar);
 
+  // Puts a calendar that cannot be saved into the first of the folders for that which has room, beside what
+  // lies there already. Returns true when it is safe.
+  bool PutAside(std::u16string_view name, const CalendarFile& calendar);
+
+  // Saves all calendars that were put aside, under their names where these are free, else under free names,
+  // and removes them there. A calendar that the user has already, byte for byte, is removed and not named.
+  std::vector<TakenBack> TakeBack();
+
   const CVersions& Versions() const { return m_versions; }
 
   // Rename a calendar in two steps; whoever remembers its name takes the new one between them. Wherever that
@@ -122,9 +140,11 @@ class CCalendarStore {
   SavedCalendar Write(std::u16string_view name, const BytesMaker& make, IfChanged ifChanged);
   WriteResult Replace(std::u16string_view name, const BytesMaker& make, bool overwrites);
   WriteResult Create(std::u16string_view name, std::string_view bytes, std::u16string_view model);
+  bool HasBytes(std::string_view bytes) const;
 
   FileSystem& m_files;
   std::u16string m_folder;
+  std::vector<std::u16string> m_asides;
   CVersions m_versions;
   std::map<std::u16string, FileStamp> m_stamps;  // by path: the files as they were last loaded or saved
 };

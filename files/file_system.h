@@ -22,6 +22,8 @@ struct CalendarFolders {
   std::u16string userLegals;     // folder of public calendars that the user added
   std::u16string shippedLegals;  // folder of public calendars that came with the program
   std::u16string versions;       // folder of earlier versions, with one folder a calendar
+  // Folders for calendars that the folder of calendars has no room for, in the order in which they are tried.
+  std::vector<std::u16string> asides = {};
 };
 
 // Tells whether a file still holds the bytes that were read. A file rewritten with the same bytes has the

@@ -3,9 +3,14 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <sstream>
+#include <utility>
 
+#include "files/byte_hash.h"
 #include "platform/path_text.h"
+#include "platform/posix_file.h"
+#include "platform/runtime_folder.h"
 
 namespace orbisol {
 namespace {
@@ -43,7 +48,13 @@ Folders FindFolders(const VariableReader& variable, const std::string& home, con
   folders.calendars = data + "/Corvalen/orbisol";
   folders.userLegals = folders.calendars + "/Legals";
   folders.shippedLegals = shipped + "/Legals";
-  folders.versions = base("XDG_STATE_HOME", "/.local/state") + "/Corvalen/orbisol/versions";
+  const std::string state = base("XDG_STATE_HOME", "/.local/state") + "/Corvalen/orbisol";
+  folders.versions = state + "/versions";
+  folders.asides.push_back(state + "/aside");
+  const std::string shared = "/orbisol-" + std::to_string(ByteHash(folders.calendars));
+  for (const char* const place : {"/var/tmp", "/tmp", "/dev/shm"}) folders.asides.push_back(place + shared);
+  if (const std::string runtime = variable("XDG_RUNTIME_DIR"); IsAbsolute(runtime))
+    folders.asides.push_back(runtime + shared);
   folders.trash = data + "/Trash";
 
   folders.stores.push_back(base("XDG_CONFIG_HOME", "/.config") + "/Corvalen/Calendar.reg");
@@ -56,11 +67,21 @@ Folders FindFolders(const VariableReader& variable, const std::string& home, con
   return folders;
 }
 
-Folders DesktopFolders() { return FindFolders(Variable, HomeOfAccount(), Executable()); }
+Folders DesktopFolders() {
+  Folders folders = FindFolders(Variable, HomeOfAccount(), Executable());
+  const auto isOthers = [](const std::string& folder) {
+    return FileExists(folder) && !IsOwnFolder(folder, getuid());
+  };
+  folders.asides.erase(std::remove_if(folders.asides.begin() + 1, folders.asides.end(), isOthers),
+                       folders.asides.end());
+  return folders;
+}
 
 CalendarFolders CalendarFoldersOf(const Folders& folders) {
+  std::vector<std::u16string> asides;
+  for (const std::string& folder : folders.asides) asides.push_back(PathText(folder));
   return {PathText(folders.calendars), PathText(folders.userLegals), PathText(folders.shippedLegals),
-          PathText(folders.versions)};
+          PathText(folders.versions), std::move(asides)};
 }
 
 }  // namespace orbisol

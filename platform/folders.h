@@ -20,6 +20,10 @@ struct Folders {
   std::string versions;             // folder of earlier versions of the user's calendars
   std::vector<std::string> stores;  // files that may hold the settings: the user's, then those only read
   std::string trash;                // user's trash, by the rules of freedesktop.org
+  // Folders for calendars that `calendars` has no room for: one below the same home, then some on file
+  // systems of their own as often as not, those that outlive the session first. Each belongs to this home
+  // alone.
+  std::vector<std::string> asides;
 };
 
 // Returns the folders that these variables name. `home` is the folder of the user where HOME names none.
@@ -27,7 +31,7 @@ struct Folders {
 // the base-directory rules of freedesktop.org ask.
 Folders FindFolders(const VariableReader& variable, const std::string& home, const std::string& executable);
 
-// Returns the folders of this process.
+// Returns the folders of this process, without those that somebody else could reach into.
 Folders DesktopFolders();
 
 // Returns those of them that hold calendars, as texts.

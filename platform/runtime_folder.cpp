@@ -6,15 +6,12 @@
 #include <cctype>
 
 namespace orbisol {
-namespace {
 
 bool IsOwnFolder(const std::string& path, unsigned user) {
   struct stat status;
   return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == user &&
          (status.st_mode & 077) == 0;
 }
-
-}  // namespace
 
 std::string RuntimeFolder() { return FindRuntimeFolder(Variable, getuid()); }
 

@@ -13,6 +13,9 @@ std::string RuntimeFolder();
 // Returns the same for other variables and another user's number.
 std::string FindRuntimeFolder(const VariableReader& variable, unsigned user);
 
+// Returns whether `path` is a folder of that user, and no link, into which nobody else can look.
+bool IsOwnFolder(const std::string& path, unsigned user);
+
 // Returns the display of this process in a form for a file's name; empty without a display.
 std::string DisplayName();
 std::string FindDisplayName(const VariableReader& variable);

@@ -83,6 +83,9 @@ enum TextId : int {
   kTextErasInWords = 5129,    // of a year before the first: since the foundation of Rome, before the era
   kTextToolkitSource = 5130,  // texts that the toolkit leaves in English, and the same in French
   kTextToolkitFrench = 5131,
+  kTextTakenBack = 5132,         // of a calendar that was put aside: its name then and now
+  kTextStillAside = 5133,        // of one that could not be taken back: its name and its file
+  kTextSessionHeld = 5134,       // where nothing can be kept and the session can be told to go on
   kTextDayOfMonth = 5140,        // by day and month, by month for its first day
   kTextMissingDate = 5141,       // a date that does not exist, and the one it counts as
   kTextRange = 5142,             // of days: a single one; first, last and length

@@ -66,6 +66,17 @@ inline constexpr TextEntry kWindowTexts[] = {
      u"Des options avancées se contredisent. Voulez-vous les corriger ?|"
      u"Les réglages de recto verso se contredisent. Voulez-vous les corriger ?|"
      u"Les options « Pages par feuille » et « Jeu de pages » ne vont pas ensemble.|Disque|Dossier"},
+    {kTextTakenBack,
+     u"À la fin de la dernière session, le calendrier «\u00A0%s\u00A0» n'a pas pu être enregistré\u00A0; il "
+     u"a été mis de "
+     u"côté.\nIl se trouve maintenant parmi vos calendriers, sous le nom «\u00A0%s\u00A0»."},
+    {kTextStillAside,
+     u"À la fin de la dernière session, le calendrier «\u00A0%s\u00A0» n'a pas pu être enregistré\u00A0; il "
+     u"a été mis de "
+     u"côté.\nIl n'a pas encore pu être replacé parmi vos calendriers et reste dans le fichier %s."},
+    {kTextSessionHeld,
+     u"Vos modifications n'ont pu être enregistrées nulle part\u00A0; le disque est sans doute plein.\n"
+     u"La session reste ouverte\u00A0: libérez de la place, puis quittez-la de nouveau."},
     {kTextDayOfMonth, u"%d %s|1er %s"},
     {kTextMissingDate, u"Le %s n'existe pas ; il compte comme le %s"},
     {kTextRange, u"le %s, 1 jour|du %s au %s, %d jours"},

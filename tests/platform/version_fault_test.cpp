@@ -81,5 +81,40 @@ TEST(VersionFaultTest, ARenamedCalendarHasAFileUnderTheNameThatIsRemembered) {
   ForEachFault({EIO, EPERM, kKillFault}, 1, step, prepare, check);
 }
 
+// The second folder aside is tried where the first fails, and nothing leaves it before it has another place.
+TEST(VersionFaultTest, WhatIsPutAsideIsWholeAndStaysUntilItIsTakenBack) {
+  const CTestFolder folder;
+  const Folders folders = folder.ProgramFolders();
+  CalendarFolders places = CalendarFoldersOf(folders);
+  places.asides = {PathText(folder / "aside"), PathText(folder / "elsewhere")};
+  const std::string before = BytesWith(u"before");
+  const std::string mine = BytesWith(u"mine");
+  CDesktopFiles files(folders.trash);
+  bool isPut = false;
+  const Step step = [&] {
+    CCalendarStore calendars(files, places);
+    isPut = calendars.PutAside(u"A", CalendarWith(u"mine"));
+    const std::vector<TakenBack> taken = calendars.TakeBack();
+    return taken.size() == 1 && taken[0].newName == u"A (2)";
+  };
+  const auto prepare = [&] {
+    for (const std::string& place : {folders.calendars, folder / "aside", folder / "elsewhere"})
+      fs::remove_all(place);
+    PutFile(folders.calendars + "/A.xml", before);
+  };
+  const auto check = [&](const Outcome& outcome) {
+    std::multiset<std::string> found;
+    for (const std::string& place : {folders.calendars, folder / "aside", folder / "elsewhere"})
+      for (const std::u16string& name : files.List(PathText(place), u".xml"))
+        found.insert(BytesOf(place + "/" + ToUtf8(name)));
+    EXPECT_EQ(found.count(before), 1U);
+    EXPECT_EQ(found.count(before) + found.count(mine), found.size()) << "half a calendar";
+    EXPECT_TRUE(outcome.isKilled || (isPut && found.count(mine) > 0));
+    const bool isConfirmed = !outcome.MayLeave() && std::string_view(outcome.failed) != "fsync";
+    EXPECT_TRUE(!outcome.isDone || !isConfirmed || found.size() == 2) << "still aside";
+  };
+  ForEachFault({EIO, ENOSPC, EACCES, kShortFault, kKillFault}, 4, step, prepare, check);
+}
+
 }  // namespace
 }  // namespace orbisol

@@ -17,6 +17,7 @@
 
 #include "resources/strings.h"
 #include "settings/display_settings.h"
+#include "ui/editors/event_fields.h"
 #include "ui/editors/row_list.h"
 #include "ui/toolkit/messages.h"
 #include "ui/toolkit/plain_text.h"
@@ -275,13 +276,23 @@ bool CEditorDialog::TakeAll() {
   return !IsEntryWanted() || TakeForm();
 }
 
-void CEditorDialog::KeepUnsaved() {
-  if (!HasChanges()) return;
-  TakeAll();
-  const CalendarContent content = EditedContent();
-  if (m_undo.isClean() || !SaveUnasked(m_services.places, Display(), Rules(), content)) return;
-  Content() = content;
-  m_undo.setClean();
+bool CEditorDialog::KeepUnsaved() {
+  if (!HasChanges()) return true;
+  const std::u16string refused = TakeAll() ? std::u16string() : TypedText();
+  CalendarContent content = EditedContent();
+  if (!IsBlank(refused)) {
+    DayEvent note;  // marks no day: it is valid in no year
+    note.month = note.day = 1;
+    note.name.Set(Tidied(refused));
+    content.dayEvents.push_back(note);
+  }
+  if (m_undo.isClean() && IsBlank(refused)) return true;
+  const KeptEnd end = SaveUnasked(m_services.places, Display(), Rules(), content);
+  if (end == KeptEnd::kSaved) {
+    Content() = content;
+    m_undo.setClean();
+  }
+  return end != KeptEnd::kNowhere;
 }
 
 bool CEditorDialog::Save() {

@@ -47,8 +47,8 @@ class CEditorDialog : public QDialog, public SessionWindow {
   // Asks about changes that are not saved. Escape and the button of the frame end here too.
   void reject() override;
 
-  // Saves without a question. A form that is refused is left alone.
-  void KeepUnsaved() override;
+  // Saves without a question. Of a form that is refused the text is kept, as an event without a day.
+  bool KeepUnsaved() override;
 
   // The row of the list that the form shows; -1 for a new entry.
   int ShownRow() const { return m_shownRow; }
@@ -101,6 +101,7 @@ class CEditorDialog : public QDialog, public SessionWindow {
   virtual bool IsFormGood() = 0;         // says refusals at their fields and goes to the first
   virtual void TakeFields(int row) = 0;  // as a step; -1 adds a row and begins another entry
   virtual void FocusFirstField() = 0;
+  virtual std::u16string TypedText() const = 0;  // the name or the title in the form
 
   // The kind of rows that the filter lets through.
   virtual RowKind ShownKind() const { return RowKind::kAny; }

@@ -40,6 +40,7 @@ class CEventsDialog : public CEditorDialog {
   bool IsFormGood() override;
   void TakeFields(int row) override;
   void FocusFirstField() override;
+  std::u16string TypedText() const override { return Fields().name; }
   RowKind ShownKind() const override;
   void ReadContent(const CalendarContent& content) override;
   CalendarContent EditedContent() const override;

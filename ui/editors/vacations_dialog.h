@@ -39,6 +39,7 @@ class CVacationsDialog : public CEditorDialog {
   bool IsFormGood() override;
   void TakeFields(int row) override;
   void FocusFirstField() override;
+  std::u16string TypedText() const override { return Fields().title; }
   void ReadContent(const CalendarContent& content) override;
   CalendarContent EditedContent() const override;
 

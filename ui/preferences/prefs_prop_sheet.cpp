@@ -134,10 +134,12 @@ void CPrefsPropSheet::done(int result) {
   QDialog::done(result);
 }
 
-void CPrefsPropSheet::KeepUnsaved() {
-  if (!m_applied) return;
+bool CPrefsPropSheet::KeepUnsaved() {
+  if (!m_applied) return true;
   DisplaySettings settings = WithLive(m_applied->display, Display());
-  if (SaveUnasked(m_places, settings, m_applied->rules, Content())) PutAppliedInForce(settings);
+  const KeptEnd end = SaveUnasked(m_places, settings, m_applied->rules, Content());
+  if (end == KeptEnd::kSaved) PutAppliedInForce(settings);
+  return end != KeptEnd::kNowhere;
 }
 
 // Writes what was applied, with the lists in force, and puts it in force. Returns false, with nothing

@@ -49,7 +49,7 @@ class CPrefsPropSheet : public QDialog, public SessionWindow {
   // Saves what was applied, then closes. Stays open where it could not be saved.
   void done(int result) override;
   // Saves what was applied when the session ends.
-  void KeepUnsaved() override;
+  bool KeepUnsaved() override;
 
  signals:
   void settingsSaved();  // look, switches or rules in force are now others

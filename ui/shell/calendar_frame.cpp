@@ -158,14 +158,17 @@ void CCalendarFrame::StoreLayout() {
   SaveMainWindowLayout(m_services.store, Display().mainLayout, closing, VirtualScreen());
 }
 
-void CCalendarFrame::KeepUnsaved() {
-  KeepAllUnsaved();
-  if (Display().changed) SaveUnasked({m_services.store, m_services.calendars}, Display(), Rules(), Content());
+bool CCalendarFrame::KeepUnsaved() {
+  const bool areOthersSafe = KeepAllUnsaved();
+  if (!Display().changed) return areOthersSafe;
+  const KeptEnd end = SaveUnasked({m_services.store, m_services.calendars}, Display(), Rules(), Content());
+  return areOthersSafe && end != KeptEnd::kNowhere;
 }
 
-void CCalendarFrame::KeepForNextSession() {
-  KeepUnsaved();
+bool CCalendarFrame::KeepForNextSession() {
+  const bool isSafe = KeepUnsaved();
   StoreLayout();
+  return isSafe;
 }
 
 void CCalendarFrame::closeEvent(QCloseEvent* event) {

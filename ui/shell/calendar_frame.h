@@ -51,10 +51,10 @@ class CCalendarFrame : public QMainWindow {
   // gave to that start, so that the window may take the focus; empty where it gave none.
   void Raise(const std::string& token = {});
 
-  // Keeps what is not saved in any window, without a question.
-  void KeepUnsaved();
-  // Likewise, and stores where this window and its print frame stand.
-  void KeepForNextSession();
+  // Keeps what is not saved in any window, without a question. Returns false where something is safe nowhere.
+  bool KeepUnsaved();
+  // Does the same, and stores where this window and its print frame stand.
+  bool KeepForNextSession();
 
   void RunCommand(CommandId command);
 

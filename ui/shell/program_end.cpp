@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QSemaphore>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <QThread>
 
@@ -10,7 +11,10 @@
 #include <cstdlib>
 #include <memory>
 
+#include "resources/strings.h"
 #include "ui/shell/calendar_frame.h"
+#include "ui/toolkit/messages.h"
+#include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
 namespace {
@@ -24,7 +28,7 @@ void KeepNow() {
   constexpr int kMostMilliseconds = 5000;
   CCalendarFrame* const frame = g_openFrame;
   if (frame == nullptr) return;
-  if (frame->thread() == QThread::currentThread()) return frame->KeepUnsaved();
+  if (frame->thread() == QThread::currentThread()) return static_cast<void>(frame->KeepUnsaved());
   const auto kept = std::make_shared<QSemaphore>();
   QMetaObject::invokeMethod(
       frame,
@@ -58,7 +62,10 @@ CProgramEnd::CProgramEnd(CCalendarFrame& frame) : m_frame(frame) {
   }
   // A session that ends waits for this slot only and then closes the display.
   connect(
-      qApp, &QGuiApplication::commitDataRequest, this, [this] { m_frame.KeepForNextSession(); },
+      qApp, &QGuiApplication::commitDataRequest, this,
+      [this](QSessionManager& session) {
+        if (!m_frame.KeepForNextSession()) Hold(session);
+      },
       Qt::DirectConnection);
   qApp->installEventFilter(this);
 }
@@ -66,6 +73,13 @@ CProgramEnd::CProgramEnd(CCalendarFrame& frame) : m_frame(frame) {
 CProgramEnd::~CProgramEnd() {
   qInstallMessageHandler(g_print);
   g_openFrame = nullptr;
+}
+
+void CProgramEnd::Hold(QSessionManager& session) {
+  if (!session.allowsErrorInteraction()) return;
+  Messages().ShowError(&m_frame, TableText(kTextSessionHeld));
+  session.release();
+  session.cancel();
 }
 
 bool CProgramEnd::eventFilter(QObject* watched, QEvent* event) {

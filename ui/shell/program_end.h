@@ -1,5 +1,6 @@
 // The end of the program that nobody at its window asked for: by a signal, by the session or because the
-// display went away. Nothing is lost then, and nobody is asked.
+// display went away. Nothing is lost then, and nobody is asked. Only where nothing can be kept anywhere, as
+// on a full disk, a session that can go on is told to.
 //
 //   CCalendarFrame frame(services);
 //   const CProgramEnd end(frame);  // from here on
@@ -10,6 +11,8 @@
 #include <QObject>
 
 #include "platform/end_signals.h"
+
+class QSessionManager;
 
 namespace orbisol {
 
@@ -27,6 +30,8 @@ class CProgramEnd : public QObject {
 
  private:
   void End();
+  // Says that the session cannot end yet, and keeps it from ending where its manager allows that.
+  void Hold(QSessionManager& session);
 
   CCalendarFrame& m_frame;
   const CEndSignals m_signals;

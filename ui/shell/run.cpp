@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <memory>
+#include <vector>
 
 #include "core/platform.h"
 #include "platform/activation_token.h"
@@ -20,6 +22,7 @@
 #include "ui/toolkit/plain_text.h"
 #include "ui/toolkit/program_style.h"
 #include "ui/toolkit/space_key.h"
+#include "ui/window/save_calendar.h"
 #include "ui/window/tool_icons.h"
 
 namespace orbisol {
@@ -38,6 +41,7 @@ int Run(const StartUp& startUp) {
   QCoreApplication::instance()->installEventFilter(&spaceKey);
 
   CCalendarStore calendars(startUp.files, startUp.folders);
+  const std::vector<TakenBack> takenBack = calendars.TakeBack();  // before the calendar in use is read
   const CPublicCalendars publicCalendars(startUp.files, startUp.folders);
   CCalendarFrame frame({startUp.store, calendars, publicCalendars, startUp.locale});
   std::unique_ptr<QSocketNotifier> calls;
@@ -49,6 +53,7 @@ int Run(const StartUp& startUp) {
   }
   const CProgramEnd end(frame);
   frame.Open();
+  QTimer::singleShot(0, &frame, [&] { SayTakenBack(&frame, takenBack); });
   return QApplication::exec();
 }
 

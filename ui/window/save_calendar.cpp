@@ -111,14 +111,21 @@ SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& pla
   });
 }
 
-bool SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
-                 const CalendarContent& content) {
+KeptEnd SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
+                    const CalendarContent& content) {
   const SaveOutcome outcome =
       SaveSettings(places.store, places.calendars, display, rules, content, IfChanged::kKeepBoth);
-  if (IsInPlace(outcome.calendar)) return true;
-  places.calendars.KeepVersion(CalendarNameOrDefault(display.calendarName.View()),
-                               {display.Look(), rules, content, {}});
-  return false;
+  if (IsInPlace(outcome.calendar)) return KeptEnd::kSaved;
+  const std::u16string name = CalendarNameOrDefault(display.calendarName.View());
+  const bool isAside = places.calendars.PutAside(name, {display.Look(), rules, content, {}});
+  return isAside ? KeptEnd::kAside : KeptEnd::kNowhere;
+}
+
+void SayTakenBack(QWidget* parent, const std::vector<TakenBack>& calendars) {
+  for (const TakenBack& taken : calendars)
+    Messages().ShowError(parent, taken.newName.empty()
+                                     ? TableText(kTextStillAside, {taken.name, taken.path})
+                                     : TableText(kTextTakenBack, {taken.name, taken.newName}));
 }
 
 void PutInForce(CalendarFile calendar) {

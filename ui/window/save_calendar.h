@@ -19,6 +19,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "settings/settings_persistence.h"
 
@@ -58,11 +59,19 @@ SavedFromWindow SaveCalendarFromWindow(QWidget* parent, const SavePlaces& places
 SavedFromWindow RestoreCalendarFromWindow(QWidget* parent, const SavePlaces& places, DisplaySettings& display,
                                           const CalendarFile& inForce, std::string_view version);
 
+enum class KeptEnd {
+  kSaved,    // the calendar is in a file of the user's calendars, as after SaveEnd::kSaved
+  kAside,    // it is put aside, and the next start takes it back
+  kNowhere,  // it is lost when the program ends
+};
+
 // Saves at the end of a session, when nobody can be asked: where the file cannot simply be replaced, the
-// calendar goes to a free name beside it, and where that fails too, to its earlier versions. Returns whether
-// it is in a file.
-bool SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
-                 const CalendarContent& content);
+// calendar goes to a free name beside it, and where that fails too, as on a full disk, it is put aside.
+KeptEnd SaveUnasked(const SavePlaces& places, DisplaySettings& display, const CalendarRules& rules,
+                    const CalendarContent& content);
+
+// Says of each calendar that such an end had put aside where it is now.
+void SayTakenBack(QWidget* parent, const std::vector<TakenBack>& calendars);
 
 // Puts look, rules and content of a calendar in force, as after kReloaded, and clears `changed`. What shows
 // them must be told.

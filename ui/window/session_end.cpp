@@ -5,10 +5,12 @@
 
 namespace orbisol {
 
-void KeepAllUnsaved() {
+bool KeepAllUnsaved() {
+  bool isSafe = true;
   for (QWidget* const widget : QApplication::topLevelWidgets())
     if (auto* const window = dynamic_cast<SessionWindow*>(widget); window != nullptr && widget->isVisible())
-      window->KeepUnsaved();
+      isSafe = window->KeepUnsaved() && isSafe;
+  return isSafe;
 }
 
 }  // namespace orbisol

@@ -2,7 +2,7 @@
 // lost.
 //
 //   class CEditor : public QDialog, public SessionWindow {
-//     void KeepUnsaved() override;  // SaveUnasked(places, Display(), Rules(), edited)
+//     bool KeepUnsaved() override;  // SaveUnasked(places, Display(), Rules(), edited)
 //   };
 //   KeepAllUnsaved();               // when the session ends
 #pragma once
@@ -11,14 +11,15 @@ namespace orbisol {
 
 // A window that holds what is not saved yet. It is found while it is open, by its class.
 struct SessionWindow {
-  // Saves what can be saved, and asks nothing. The session may yet go on, and the window with it.
-  virtual void KeepUnsaved() = 0;
+  // Saves what can be saved, and asks nothing. Returns false where something is safe nowhere. The session may
+  // yet go on, and the window with it.
+  virtual bool KeepUnsaved() = 0;
 
  protected:
   ~SessionWindow() = default;
 };
 
-// Has each open window of the program keep what it holds.
-void KeepAllUnsaved();
+// Has each open window of the program keep what it holds. Returns false where something is safe nowhere.
+bool KeepAllUnsaved();
 
 }  // namespace orbisol

@@ -129,6 +129,33 @@ TEST_F(RunTest, AnEndFromOutsideLosesNothingAndAsksNothing) {
   }
 }
 
+// Nothing but the folder aside takes a file any more. A title that was typed without its dates is kept too.
+TEST_F(RunTest, WhatAFullDiskTakesNowhereIsTakenBackAtTheNextStart) {
+  CalendarFolders folders = kMemoryFolders;
+  folders.asides = {u"/full", u"/aside"};
+  const auto run = [&] { return orbisol::Run({store, files, folders, {u"fr", u"FR"}, place}); };
+  files.failingWrites = {u"/user/Calendar.xml", u"/user/Calendar (2).xml", u"/full"};
+  QTimer::singleShot(0, qApp, [] {
+    QTimer::singleShot(0, qApp, [] {
+      QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("title"))->setText("typed");
+      std::raise(SIGTERM);
+    });
+    static_cast<CCalendarFrame*>(Window())->RunCommand(kCmdEditVacations);
+  });
+  run();
+  EXPECT_EQ(files.files.count(u"/aside/Calendar.xml"), 1U);
+  for (const bool isFull : {true, false}) {
+    if (!isFull) files.failingWrites.clear();
+    QTimer::singleShot(0, qApp, [] { QTimer::singleShot(0, qApp, [] { Window()->close(); }); });
+    run();
+    EXPECT_TRUE(messages.errors.back().contains(isFull ? "/aside/Calendar.xml"
+                                                       : "parmi vos calendriers, sous le nom"));
+    EXPECT_EQ(files.files.count(u"/aside/Calendar.xml"), isFull ? 1U : 0U);
+  }
+  EXPECT_EQ(Content().dayEvents.back().name.View(), u"typed") << "it is the calendar in use";
+  EXPECT_EQ(messages.errors.size(), 2);
+}
+
 TEST(CommandLineTest, ItAsksForATextOrIsRefusedInOneLine) {
   const struct {
     std::vector<std::string_view> words;  // words after the program's name
