@@ -23,7 +23,7 @@ struct CalendarFile {
   CalendarLook look;
   CalendarRules rules;
   CalendarContent content;
-  std::u16string info;  // description of a public calendar; empty in most files
+  std::u16string info;  // description of a public calendar, U+2029 between its lines; empty in most files
 
   bool operator==(const CalendarFile&) const = default;
 };

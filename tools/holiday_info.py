@@ -8,6 +8,7 @@ import re
 ALWAYS_FROM, ALWAYS_TO = -39991231, 39991231
 LONGEST_LIST = 20  # names that a description lists; of more it tells the number
 MOST_DAYS = 4  # of a rule that lists its days; likewise
+LINE, SECTION = "\u2029", "\u2029\u2029"  # a text with these is still one line of the calendar file
 UNBREAKABLE = re.compile(r" (?=[;:?!»])|(?<=[«°]) ")
 
 
@@ -55,12 +56,19 @@ class Describer:
         return sentences
 
     def text(self, calendar):
-        """Returns the description of a calendar, in one line and with the blanks of French typography."""
+        """Returns the description of a calendar, with the blanks of French typography.
+
+        Its sections are what the calendar is, the sources of the holidays and of the other events, the remarks and the
+        day of the last check.
+        """
         public = [rule for rule in calendar.rules if rule[0][0]["public"]]
         others = [rule for rule in calendar.rules if not rule[0][0]["public"]]
-        parts = [calendar.info, *self.rules(public)]
+        sections = [[calendar.info], self.rules(public)]
         if others:
-            parts += [self.words["events"], *self.rules(others)]
+            sections.append([self.words["events"], *self.rules(others)])
+        if calendar.remarks:
+            sections.append([calendar.remarks])
         if calendar.checked:
-            parts.append(self.words["checked"].format(self.date(packed(calendar.checked))))
-        return UNBREAKABLE.sub("\u00a0", " ".join(parts))
+            sections.append([self.words["checked"].format(self.date(packed(calendar.checked)))])
+        text = SECTION.join(LINE.join(lines) for lines in sections if lines)
+        return UNBREAKABLE.sub("\u00a0", text)

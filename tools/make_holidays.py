@@ -37,9 +37,9 @@ KINDS = {
     "except Sunday": (7, ["date"]),
     "listed days": (0, ["dates"]),
 }
-CALENDAR_KEYS = {"name": str, "countries": list, "first_start": list, "info": str, "checked": datetime.date,
-                 "extends": str, "without": list, "since": datetime.date, "from": datetime.date,
-                 "source": str, "days": dict, "rule": list}
+CALENDAR_KEYS = {"name": str, "countries": list, "first_start": list, "info": str, "remarks": str,
+                 "checked": datetime.date, "extends": str, "without": list, "since": datetime.date,
+                 "from": datetime.date, "source": str, "days": dict, "rule": list}
 RULE_KEYS = {"name", "kind", "public", "date", "dates", "days", "which", "weekday", "month", "from", "to", "moved",
              "source"}
 LOCALE = re.compile(r"(?:[a-z]{2,3}_)?[A-Z]{2}")
@@ -205,9 +205,12 @@ class Calendar:
             base = calendars.get(data["extends"])
             if base is None:
                 source.fault("extends", f"there is no source '{data['extends']}.toml', or it extends another one")
-        self.info = data.get("info", base.info if base else "")
+        described = data if "info" in data or not base else {**base.source.data, **data}
+        self.info, self.remarks = described.get("info", ""), described.get("remarks")
         if not is_text(self.info):
             source.fault("info", "the calendar needs an 'info', a text of one line with single blanks and none at its ends")
+        if self.remarks is not None and not is_text(self.remarks):
+            source.fault("remarks", "'remarks' is a text of one line with single blanks and none at its ends")
         self.checked = data.get("checked", base.checked if base else None)
         self.locales = data.get("first_start", [])
         for locale in self.locales:

@@ -4,6 +4,7 @@
 import contextlib
 import io
 import os
+import re
 import sys
 import tempfile
 import unittest
@@ -38,6 +39,8 @@ FAULTS = [
     (HEAD + "colour = 1\n" + RULE, ":5: a calendar has no key"),
     (HEAD + RULE.replace("]]", "]]  # the first") + 'days = 1\nkind = "weekly"\n', ":9: 'kind' is one of"),
     (HEAD + '[rule]\nname = "Day"\n', ":5: each rule begins with a line"),
+    (HEAD + 'rule = [{name = "Day"}]\n', ":5: each rule begins with a line"),
+    (HEAD + 'remarks = "a  b"\n' + RULE, ":5: 'remarks' is a text"),
     (HEAD.replace("Here", ".."), ":1: the calendar needs a 'name'"),
     (HEAD.replace("from", "since") + RULE, ":5: a holiday needs a 'from'"),
     (HEAD.replace("1900", "4000") + RULE, ":4: 'from' is no date"),
@@ -53,6 +56,7 @@ FAULTS = [
     (HEAD + (RULE + 'kind = "Roman Easter"\ndays = 1\n') * 2, ":11: 'Day' is marked twice"),
     (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nfrom = 2000-01-01\nto = 1999-12-31\n', ":11: 'to' lies before"),
     (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nto = 2000-01-01\nmoved = [2001-05-05]\n', ":11: 'moved' has a"),
+    (HEAD + RULE + 'kind = "Roman Easter"\ndays = 1\nmoved = [2001-05-05, 2001-05-06]\n', ":10: 'moved' has one"),
     (HEAD + RULE.replace("Day", "x" * 255) + 'kind = "Roman Easter"\ndays = 1\n', ":6: 'name' is longer"),
     ('extends = "YY"\n' + HEAD, ":1: there is no source 'YY.toml'"),
     (HEAD + RULE.replace("Day", "D  ay") + 'kind = "Roman Easter"\ndays = 1\n', ":6: 'name' is a text of one line with single"),
@@ -92,7 +96,7 @@ class MakeHolidaysTest(unittest.TestCase):
             for tag, value in [("type", number), ("public", 1), ("month", month), ("day", day), ("weekday", weekday),
                                ("weeknum", weeknum), ("ymdFrom", 19000101), ("ymdTo", 39991231)]:
                 self.assertIn(f"<{tag}>{value}</{tag}>\r\n", made["Here.xml"])
-            self.assertIn("<info>Laws &amp; &lt;days&gt; Day (depuis le 1er janvier 1900)\u00a0: law.</info>", made["Here.xml"])
+            self.assertIn("<info>Laws &amp; &lt;days&gt;\u2029\u2029Day (depuis le 1er janvier 1900)\u00a0: law.</info>", made["Here.xml"])
             self.assertIn('if (locale == u"XX") return u"Here";', made["table"])
 
     def test_faults_are_told_with_their_line_and_nothing_is_made(self):
@@ -105,14 +109,16 @@ class MakeHolidaysTest(unittest.TestCase):
         day = '[[rule]]\nname = "Day"\nkind = "fixed date"\ndate = "1 May"\n'
         listed = '[[rule]]\nname = "Once"\nkind = "listed days"\ndates = [1950-06-02, 1951-06-03]\n'
         event = day.replace("Day", "Eve") + 'public = false\nto = 1999-12-31\nsource = "use ; n° 3"\n'
-        head = HEAD.replace("1900-01-01", "1949-05-23") + 'checked = 2026-11-22\nsource = "law"\n'
-        made = made_of({"XX": head + day + listed + event})[2]["Here.xml"]
-        self.assertIn("<ymdFrom>19490523</ymdFrom>\r\n\t\t<ymdTo>39991231</ymdTo>", made)
-        self.assertIn("<ymdFrom>19510603</ymdFrom>\r\n\t\t<ymdTo>19510603</ymdTo>", made)
-        info = ("Day (depuis le 23 mai 1949)\u00a0: law. Once (les 2 juin 1950 et 3 juin 1951)\u00a0: law. "
-                "Événements non fériés\u00a0: Eve (du 23 mai 1949 au 31 décembre 1999)\u00a0: use\u00a0; n°\u00a03. "
-                "Dernière vérification\u00a0: 22 novembre 2026.")
-        self.assertIn(info + "</info>", made)
+        head = HEAD.replace("1900-01-01", "1949-05-23") + 'checked = 2026-11-22\nsource = "law"\nremarks = "Not all."\n'
+        made = made_of({"XX": head + event + day + "moved = [1960-05-02]\n" + listed})[2]["Here.xml"]
+        validity = re.findall(r"<ymdFrom>(\d+)</ymdFrom>\r\n\t\t<ymdTo>(\d+)</ymdTo>\r\n\t\t<name>(\w+)</name>", made)
+        self.assertEqual([" ".join(one) for one in validity], [
+            "19490523 19591231 Day", "19600101 19601231 Day", "19610101 39991231 Day",
+            "19500602 19500602 Once", "19510603 19510603 Once", "19490523 19991231 Eve"])
+        info = ["", "Day (depuis le 23 mai 1949)\u00a0: law.", "Once (les 2 juin 1950 et 3 juin 1951)\u00a0: law.", "",
+                "Événements non fériés\u00a0:", "Eve (du 23 mai 1949 au 31 décembre 1999)\u00a0: use\u00a0; n°\u00a03.", "",
+                "Not all.", "", "Dernière vérification\u00a0: 22 novembre 2026.</info>"]
+        self.assertIn("\u2029".join(info), made)
 
     def test_a_calendar_takes_the_rules_of_another_but_some_and_from_a_day_on(self):
         rules = "".join(f'[[rule]]\nname = "{name}"\nkind = "fixed date"\ndate = "1 May"\nto = {to}-12-31\n'

@@ -97,7 +97,7 @@ TEST(PublicCalendarsTest, TheFeastOfMothersMovesToJuneBeforeWhitSunday) {
   EXPECT_EQ(days.size(), 150U);
   for (const PackedDate known : {20120603, 20190526, 20200607, 20210530, 20230604, 20240526, 20500605})
     EXPECT_EQ(days.count(known), 1U) << known;
-  for (const char* const name : {"France", "France (Alsace-Moselle)", "fr_public"}) {
+  for (const char* const name : {"France", "France (Alsace-Moselle)"}) {
     const CalendarContent content = ContentOfCalendar(name);
     const RulesByDay early = MarkedDays(content, false, 1581, 1581);
     ASSERT_EQ(early.size(), 2U) << name;
