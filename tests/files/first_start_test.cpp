@@ -59,11 +59,9 @@ TEST(FirstStartTest, TheLanguageDecidesWhereACountryHasSeveralAndWhereNoneIsKnow
       {"de", "IT", "Italie"},
       {"es", "US", "États-Unis (jours fériés fédéraux)"},
       {"fr", "FR", "France"},
-      {"fr", "GP", "France (Guadeloupe)"},
       {"fr", "", "fr_public"},
       {"fr", "SN", "fr_public"},
       {"en", "IN", "en_public"},
-      {"pt", "", "pt_public"},
       {"hi", "IN", ""},
       {"", "", ""},
   };

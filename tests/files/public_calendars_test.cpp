@@ -28,8 +28,7 @@ TEST(PublicCalendarsTest, EveryShippedCalendarIsWhatTheWriterWrites) {
     EXPECT_FALSE(calendar.info.empty());
     for (const DayEvent& rule : calendar.content.dayEvents) {
       const std::string name = ToUtf8(rule.name.View());
-      EXPECT_EQ(name.find("  "), std::string::npos) << name;
-      EXPECT_TRUE(name.front() != ' ' && name.back() != ' ') << name;
+      EXPECT_TRUE(name.find("  ") > name.size() && name.front() != ' ' && name.back() != ' ') << name;
       EXPECT_TRUE(!rule.isPublic || rule.ymdFrom > 0) << name << " is older than any law";
     }
   }

@@ -96,16 +96,14 @@ struct ToldDifference {
   // matches a day from Monday to Saturday, so that a law is told to the year. Weekdays are not held to it.
   bool EndsWith(const DayPattern& pattern, const Days& differences, int lastOfList) const {
     if (!hasYears || pattern.HasWeekday()) return true;
-    const auto matches = [&](int year) {
-      const int last = Date(year, 12, 31).DayNumber();
-      for (int n = Date(year, 1, 1).DayNumber(); n <= last; ++n)
-        if (WeekdayOfDayNumber(n) != 0 && pattern.Matches(DateOfDayNumber(n).Packed())) return true;
-      return false;
-    };
-    int first = firstYear, last = std::min(lastYear, lastOfList);
-    while (!matches(first)) ++first;
-    while (!matches(last)) --last;
-    return *differences.begin() / 10000 == first && *differences.rbegin() / 10000 == last;
+    Days all;
+    const int last = Date(std::min(lastYear, lastOfList), 12, 31).DayNumber();
+    for (int n = Date(firstYear, 1, 1).DayNumber(); n <= last; ++n)
+      if (const PackedDate ymd = DateOfDayNumber(n).Packed();
+          WeekdayOfDayNumber(n) != 0 && pattern.Matches(ymd))
+        all.insert(ymd);
+    return *differences.begin() / 10000 == *all.begin() / 10000 &&
+           *differences.rbegin() / 10000 == *all.rbegin() / 10000;
   }
 
   // Tells whether a difference is one of this row, and remembers that it is.

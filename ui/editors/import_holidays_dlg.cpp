@@ -1,6 +1,7 @@
 #include "ui/editors/import_holidays_dlg.h"
 
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -21,8 +22,8 @@ namespace orbisol {
 namespace {
 
 constexpr int kListRows = 10;
-constexpr int kListChars = 38;  // width of the list of calendars
-constexpr int kDaysChars = 56;  // and of the days
+constexpr int kListChars = 38, kMostListChars = 60;  // width of the list of calendars
+constexpr int kDaysChars = 56;                       // and of the days
 
 // Pieces of kTextImportHolidays.
 enum ImportText { kNothingChosen, kUnreadable, kNoDescription, kDaysOfYear, kNoCalendars, kNoneFound };
@@ -56,6 +57,14 @@ void GiveRoom(QWidget& widget, int chars, int rows) {
   widget.setMinimumSize(metrics.averageCharWidth() * chars, metrics.lineSpacing() * (rows + 1));
 }
 
+// Makes a list as wide as its longest name, within bounds.
+void GiveNamesRoom(QListWidget& list) {
+  const int charWidth = list.fontMetrics().averageCharWidth();
+  const int names =
+      list.sizeHintForColumn(0) + list.verticalScrollBar()->sizeHint().width() + 2 * list.frameWidth();
+  list.setMinimumWidth(std::clamp(names, kListChars * charWidth, kMostListChars * charWidth));
+}
+
 }  // namespace
 
 CEvtImportDlg::CEvtImportDlg(const CPublicCalendars& publicCalendars, QWidget* parent)
@@ -70,6 +79,7 @@ CEvtImportDlg::CEvtImportDlg(const CPublicCalendars& publicCalendars, QWidget* p
   connect(m_form->calendars, &QListWidget::itemSelectionChanged, this, &CEvtImportDlg::ShowChosen);
   connect(m_form->calendars, &QListWidget::itemDoubleClicked, this, &CEvtImportDlg::accept);
   Fill();
+  GiveNamesRoom(*m_form->calendars);
   ShowChosen();
   m_form->search->setFocus();
 }

@@ -14,7 +14,7 @@ class ImportHolidaysTest : public DialogTest {
     Put(u"/share/Legals/France.xml", {EveryYear(7, 14, u"Fête nationale"), EveryYear(1, 1, u"Jour de l'an")},
         u"expédié");
     Put(u"/user/Legals/France.xml", {EveryYear(7, 14, u"<b>Fête</b>"), EveryYear(1, 1, u"Jour de l'an")},
-        u"<i>le mien</i>");
+        u"<i>le mien</i>\u2029\u2029Lois.");
     Put(u"/share/Legals/États-Unis.xml", {EveryYear(7, 4, u"Independence Day")}, u"");
     Put(u"/share/Legals/Zambie.xml", {EveryYear(10, 24, u"Independence Day")}, u"");
     mine = {{EveryYear(7, 14, u"Ancienne fête"), EveryYear(3, 3, u"Anniversaire", false),
@@ -61,8 +61,9 @@ TEST_F(ImportHolidaysTest, AFewLettersFindACalendarAndShowItsDaysOfThisYear) {
     EXPECT_EQ(dialog.focusWidget(), search);
     QTest::keyClicks(search, u"fRÀ"_s);
     EXPECT_TRUE(list->item(0)->isHidden() && !list->item(1)->isHidden());
-    EXPECT_EQ(Shown(dialog),
-              u"<i>le mien</i>\njeudi 1er janvier : Jour de l'an\nmardi 14 juillet : <b>Fête</b>\n"_s);
+    EXPECT_EQ(
+        Shown(dialog),
+        u"<i>le mien</i>\n\nLois.\njeudi 1er janvier : Jour de l'an\nmardi 14 juillet : <b>Fête</b>\n"_s);
     search->setText(u"xyz"_s);
     EXPECT_EQ(Shown(dialog), u"Aucun calendrier ne porte ce nom.\n"_s);
     QTest::keyClick(search, Qt::Key_Return);
