@@ -8,6 +8,8 @@ namespace {
 TEST_F(EditorTest, AnImpossibleDateIsSaidBelowItsFieldAndIsNotForgotten) {
   Content().dayEvents = {EveryYear(5, 1, u"mine")};
   CEventsDialog& events = OpenEvents();
+  Part<QPushButton>("add").click();
+  EXPECT_FALSE(Note("nameNote").isEmpty()) << "an event has a name";
   Type("name", QStringLiteral("Saint-Glinglin"));
   Type("until", QStringLiteral("3"));
   EXPECT_EQ(Note("untilNote"), QString()) << "somebody is still typing";

@@ -29,17 +29,12 @@ class RunTest : public FrameTest {
   InstancePlace place;
 };
 
-TEST_F(RunTest, WithoutASettingsKeyTheInstallationIsBroken) {
-  store.text.reset();
-  EXPECT_EQ(orbisol::Run({store, files, kMemoryFolders, {u"fr", u"FR"}, place}), 0);
-  EXPECT_EQ(messages.errors.at(0), QString::fromUtf8("Installation incorrecte - réinstallez le programme."));
-  EXPECT_EQ(Window(), nullptr);
-}
-
 // The whole of it, in an empty home: the program speaks French, dates are those of the desktop.
 TEST_F(RunTest, TheProgramSpeaksFrenchAndItsDatesAreThoseOfTheDesktop) {
   setenv("LC_ALL", "de_DE.UTF-8", 1);
-  EXPECT_EQ(orbisol::Run(*qApp), 0) << "there is no installation";
+  EXPECT_EQ(orbisol::Run(*qApp), 0) << "there is no settings key";
+  EXPECT_EQ(messages.errors.at(0), QString::fromUtf8("Installation incorrecte - réinstallez le programme."));
+  EXPECT_EQ(Window(), nullptr);
   EXPECT_EQ(CurrentPlatform().locale->MonthName(1), u"Januar");
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
   EXPECT_FALSE(QApplication::windowIcon().isNull());
@@ -167,7 +162,6 @@ TEST(CommandLineTest, ItAsksForATextOrIsRefusedInOneLine) {
       {{"--version", "--blue"}, 0, "Orbisol " ORBISOL_VERSION, ""},
       {{"--blue", "--version"}, 2, "", "orbisol : « --blue » n'est pas"},
       {{"calendar.xml"}, 2, "", "orbisol : « calendar.xml » n'est pas"},
-      {{"-"}, 2, "", "orbisol : « - » n'est pas"},
       {{""}, 2, "", "orbisol : «  » n'est pas"},
       {{"-platform", "--help", "--style=x", "-reverse"}, {}, "", ""},  // the toolkit's, with their values
       {{"-platform=x", "--help"}, 0, "Utilisation", ""},

