@@ -204,6 +204,7 @@ enum TextId : int {
   kTextColorColumns = 5511,  // text, background; accessible name of the slider
   kTextCalendarFont = 5512,  // title of the dialog, the font that no name stands for, accessible name
   kTextSwitchesNotStored = 5513,
+  kTextPathTooLong = 5514,  // most letters of the path of a picture
 
   kTextRuleDays = 5700,           // date; date moved from a weekend; date moved from a Sunday
   kTextNthWeekday = 5701,         // ordinal, weekday, month; the same before a vowel

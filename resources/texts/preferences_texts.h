@@ -34,6 +34,9 @@ inline constexpr TextEntry kPreferencesTexts[] = {
     {kTextSwitchesNotStored,
      u"Les options d'affichage n'ont pas pu être enregistrées dans les réglages.\n\n"
      u"Elles valent jusqu'à la fermeture du programme."},
+    {kTextPathTooLong,
+     u"Ce chemin est trop long\u00A0: celui d'une image compte au plus %d caractères. Le précédent est "
+     u"gardé."},
 };
 
 }  // namespace orbisol

@@ -59,6 +59,7 @@ CVersionsDlg::CVersionsDlg(CCalendarActions& actions, std::u16string_view name, 
   connect(m_form->versions, &QTreeWidget::itemSelectionChanged, this, &CVersionsDlg::ShowDifference);
   connect(m_form->restore, &QPushButton::clicked, this, &CVersionsDlg::OnRestore);
   Fill();
+  m_form->buttons->button(QDialogButtonBox::Close)->setDefault(true);
   m_form->versions->setFocus();
 }
 

@@ -45,6 +45,9 @@ CPrefsColorsPage::CPrefsColorsPage(Preferences& edited)
   MakeButtons();
   MakePresets();
   QSlider& alpha = *m_form->alpha;
+  // The keyboard goes through the page as it is read: the colors, the slider, the sets of colors.
+  setTabOrder(m_form->elements->itemAt(m_form->elements->count() - 1)->widget(), &alpha);
+  setTabOrder(&alpha, m_form->presets);
   alpha.setRange(kLeastAlpha, kMostAlpha);
   alpha.setTickInterval(kAlphaStep);
   alpha.setPageStep(kAlphaStep);

@@ -3,10 +3,14 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <utility>
 
 #include "content/calendar_content.h"
@@ -55,12 +59,40 @@ CPrefsPropSheet::CPrefsPropSheet(const SavePlaces& places, QWidget* parent)
   connect(m_preview, &CPrefCalWin::elementClicked, m_colors, &CPrefsColorsPage::EditElement);
   auto* const grid = new QGridLayout(this);
   grid->addWidget(m_tree, 0, 0);
-  grid->addWidget(m_pages, 0, 1);
+  auto* const area = new QScrollArea;
+  area->setWidget(m_pages);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  grid->addWidget(area, 0, 1);
   grid->addWidget(m_preview, 0, 2);
   grid->setColumnStretch(2, 1);
   MakeTree();
   MakeButtons();
   ShowPage(kConfigurationPage);
+  FitScreen(*area);
+}
+
+// Gives the sheet its first size, in which the pages are seen whole. Where the screen is too small for that
+// the preview gives way first, then the pages are scrolled.
+void CPrefsPropSheet::FitScreen(QScrollArea& area) {
+  constexpr int kLeastPreview = 3;  // it may become so many times smaller than it reads well
+  ensurePolished();
+  const int bar = area.verticalScrollBar()->sizeHint().width();
+  const QSize least = m_pages->minimumSizeHint();
+  area.setMinimumSize(least.width() + bar, std::max(least.height(), m_pages->heightForWidth(least.width())));
+  const QSize whole = minimumSizeHint();
+  const QSize free = screen()->availableSize();
+  const QSize room(free.width() * 19 / 20, free.height() * 9 / 10);  // a frame stands around it
+  const QSize preview = m_preview->minimumSize();
+  const QSize given = preview - preview / kLeastPreview;
+  if (whole.width() > room.width() || whole.height() > room.height()) {
+    m_preview->setMinimumSize(preview / kLeastPreview);
+    const QSize others(whole.width() - area.minimumWidth() - given.width(),
+                       whole.height() - area.minimumHeight());
+    area.setMinimumSize(area.minimumSize().boundedTo(room - others).expandedTo({bar, bar}));
+  }
+  resize(sizeHint().boundedTo(room).expandedTo(minimumSizeHint()));
 }
 
 CPrefsPage& CPrefsPropSheet::Page(int index) { return *static_cast<CPrefsPage*>(m_pages->widget(index)); }

@@ -22,6 +22,7 @@
 
 class QPushButton;
 class QStackedWidget;
+class QScrollArea;
 class QTreeWidget;
 
 namespace orbisol {
@@ -58,6 +59,7 @@ class CPrefsPropSheet : public QDialog, public SessionWindow {
   void MakeTree();
   void Show(PageIndex page);
   void MakeButtons();
+  void FitScreen(QScrollArea& area);
   CPrefsPage& Page(int index);
   void OnChanged();
   bool Save();

@@ -80,7 +80,7 @@ void CPrefsScreenPage::ShowFont() { m_form->font->setText(ToQString(m_edited.dis
 void CPrefsScreenPage::TakePath(const QString& path) {
   FixedText<kMaxPathUnits + 1>& stored = m_edited.display.backgroundImagePath;
   if (path.size() > static_cast<qsizetype>(kMaxPathUnits)) {
-    Messages().Beep();
+    Messages().ShowError(this, TableText(kTextPathTooLong, {static_cast<long long>(kMaxPathUnits)}));
     m_form->picturePath->SetPath(ToQString(stored.View()));
     return;
   }

@@ -68,7 +68,6 @@ CPictureChooser::CPictureChooser(QWidget* parent)
   m_edit->setAccessibleName(TablePiece(kTextPictureChooser, kPathName));
   m_edit->setPlaceholderText(TablePiece(kTextPictureChooser, kNoPicture));
   m_edit->setMinimumWidth(kPathLetters * fontMetrics().averageCharWidth());
-  m_browse->setAutoDefault(false);  // Enter in the path must not press it
   m_picture->setTextFormat(Qt::PlainText);
   m_picture->setWordWrap(true);
   m_picture->setAlignment(Qt::AlignLeft | Qt::AlignTop);

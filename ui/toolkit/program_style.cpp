@@ -158,7 +158,15 @@ class CProgramStyle : public QProxyStyle {
 
 void SetProgramStyle() {
   const QString fusion = QStringLiteral("fusion");
-  if (QApplication::style()->name() == fusion) QApplication::setStyle(new CProgramStyle(fusion));
+  const QString name = QApplication::style()->name();
+  // These draw all widgets in colors of their own. On the calendar, whose colors are the user's, nobody could
+  // read them.
+  const bool ignoresPalettes =
+      name.startsWith(QLatin1String("adwaita")) || name.startsWith(QLatin1String("highcontrast"));
+  if (!ignoresPalettes && name != fusion) return;
+  const QPalette palette = QApplication::style()->standardPalette();
+  QApplication::setStyle(new CProgramStyle(fusion));
+  if (ignoresPalettes) QApplication::setPalette(palette);
 }
 
 }  // namespace orbisol

@@ -8,7 +8,8 @@
 
 namespace orbisol {
 
-// Does nothing where the user's desktop has a style of its own.
+// Does nothing where the user's desktop has a style of its own, unless that draws in colors of its own
+// whatever palette a window has: the month and its pane have one. Then the colors are those of that style.
 void SetProgramStyle();
 
 }  // namespace orbisol

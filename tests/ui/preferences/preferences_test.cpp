@@ -29,6 +29,17 @@ TEST_F(PreferencesTest, CancelAfterApplyKeepsWhatWasAppliedAndNothingLater) {
   EXPECT_FALSE(Display().changed);
 }
 
+TEST_F(PreferencesTest, TheSheetFitsTheScreenInAFontTwiceAsLarge) {
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(2 * usual.pointSizeF());
+  QApplication::setFont(large);
+  OpenSheet();
+  QApplication::setFont(usual);
+  const QSize screen = sheet->screen()->availableSize();
+  EXPECT_EQ(sheet->size().boundedTo(screen), sheet->size());
+}
+
 // What is applied is in no hands but the sheet's when the session ends over it.
 TEST_F(PreferencesTest, TheEndOfTheSessionKeepsWhatWasAppliedAndNothingLater) {
   Click("proleptic");
