@@ -75,7 +75,7 @@ count:
 install:
 	@$(need) build run
 	@$(call build,release)
-	@umask 022; cmake --install build/release --prefix $(PREFIX)
+	@umask 022; cmake --install build/release --prefix "$(PREFIX)"
 
 package:
 	@$(need) build package
