@@ -163,6 +163,17 @@ WriteResult Create(CTemporary& temporary, const std::string& target, bool isExpe
   return temporary.MoveTo(target, 0) ? WriteResult::kWritten : WriteResult::kFailed;
 }
 
+// Returns whether somebody else may have put the folder there: it lies where all users make theirs, as in
+// "/tmp", and is a link or belongs to another.
+bool IsPerhapsOthers(const std::string& folder) {
+  struct stat parent;
+  struct stat status;
+  if (Repeat([&] { return stat(FolderOf(folder).c_str(), &parent); }) != 0) return true;
+  if ((parent.st_mode & S_ISVTX) == 0) return false;
+  return Repeat([&] { return lstat(folder.c_str(), &status); }) != 0 || !S_ISDIR(status.st_mode) ||
+         status.st_uid != geteuid();
+}
+
 }  // namespace
 
 std::optional<FileBytes> ReadWholeFile(const std::string& path) {
@@ -266,7 +277,7 @@ bool MayReplaceFile(const std::string& path) {
 
 bool MakePrivateFile(const std::string& path, std::string_view bytes) {
   const std::string folder = FolderOf(path);
-  if (!MakeFolders(folder)) return false;
+  if (!MakeFolders(folder) || IsPerhapsOthers(folder)) return false;
   // Some file systems have rights of their own for all files and refuse every change.
   struct stat status;
   if (Repeat([&] { return stat(folder.c_str(), &status); }) != 0) return false;

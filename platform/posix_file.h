@@ -52,7 +52,8 @@ bool MayReplaceFile(const std::string& path);
 
 // Makes a file with its folder, in one step as ReplaceFile() does. The file is for the user alone (0600), its
 // folder too (0700), whatever the mask for new files is; a folder that stands there already is closed to all
-// others. Returns true when the bytes and the name are on the disk.
+// others. A folder that another user may have put among those of all users, as in "/tmp", is not written
+// into. Returns true when the bytes and the name are on the disk.
 bool MakePrivateFile(const std::string& path, std::string_view bytes);
 
 // Locks a folder, which is made if it is missing, against all who lock it. When another process holds the

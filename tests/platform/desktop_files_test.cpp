@@ -207,6 +207,16 @@ TEST_F(DesktopFilesTest, VersionsAreForTheUserAloneWhateverTheMask) {
   fs::permissions(folder, fs::perms::all);
   EXPECT_TRUE(CVersions(files, PathText(folders.versions)).Keep(name, "new", LocalNow()));
   EXPECT_EQ(mode(folder), 0700u) << "an open folder is closed";
+
+  // Where all users make their folders, somebody else may have laid a link of this name.
+  const std::string trap = root / "trap";
+  fs::create_directory(trap);
+  fs::remove_all(folder);
+  fs::create_directory_symlink(trap, folder);
+  EXPECT_TRUE(CVersions(files, PathText(folders.versions)).Keep(name, "mine", LocalNow()));
+  fs::permissions(folders.versions, fs::perms::all | fs::perms::sticky_bit);
+  EXPECT_FALSE(CVersions(files, PathText(folders.versions)).Keep(name, "yours", LocalNow()));
+  EXPECT_EQ(FileCount(trap), 1U);
 }
 
 TEST_F(DesktopFilesTest, AFileHasTwoNamesWhileItIsRenamed) {
