@@ -70,7 +70,6 @@ TEST(DateTest, AddMonthsPullsTheDayIntoAShorterMonth) {
     PackedDate expected;
     int length;
   } kRows[] = {
-      {"back over the era", 15821015, 0, 10131, -11, 228, 28},
       {"from a day that does not exist", 15821015, 0, 20250229, 12, 20260228, 28},
       {"a dropped day is kept", 15821015, 0, 15820910, 1, 15821010, 31},
       {"the 10th still in civil 1599", 17520914, 15000215, 16000110, 1, 16000210, 28},

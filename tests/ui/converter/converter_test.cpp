@@ -249,14 +249,5 @@ TEST_F(ConverterTest, TheButtonsGoToNotableDays) {
   }
 }
 
-TEST_F(ConverterTest, FieldsSuitTheColorsOfTheCalendar) {
-  Display().colors[kColorBgCal] = Rgb(20, 30, 40);
-  Display().colors[kColorCalHeader] = Rgb(240, 230, 220);
-  Dialog().SettingsChanged();
-  EXPECT_EQ(Dialog().Pane().palette().color(QPalette::WindowText), QColor(240, 230, 220));
-  EXPECT_EQ(Dialog().grab().toImage().pixelColor(1, 1), QColor(20, 30, 40));
-  EXPECT_LT(Dialog().Pane().palette().color(QPalette::Button).lightness(), 128);
-}
-
 }  // namespace
 }  // namespace orbisol

@@ -131,9 +131,6 @@ class Reader:
                 return found
         return None
 
-    def find_named(self, name):
-        return self.wait_for(f"'{name}' in the window", lambda: self.find(lambda item: item.name == name))
-
     def key(self, keys):
         subprocess.run(["xdotool", "key", "--clearmodifiers", keys], check=True, timeout=WAIT)
 
@@ -199,10 +196,9 @@ def check_month(reader):
 
 
 def check_header(reader, month):
-    atspi = reader.atspi
-    part = reader.find_named("Mois précédent : août 1792")
-    same("its role", part.getRole(), atspi.ROLE_PUSH_BUTTON)
-    same("it is reached with the keyboard", part.getState().contains(atspi.STATE_FOCUSABLE), True)
+    part = reader.wait_for("the arrow", lambda: reader.find(lambda item: item.name == "Mois précédent : août 1792"))
+    same("its role", part.getRole(), reader.atspi.ROLE_PUSH_BUTTON)
+    same("it is reached with the keyboard", part.getState().contains(reader.atspi.STATE_FOCUSABLE), True)
     part.queryAction().doAction(0)
     reader.wait_for("August", lambda: reader.name_of(month) == "Août 1792")
 

