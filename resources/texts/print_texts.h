@@ -17,7 +17,8 @@ inline constexpr TextEntry kPrintTexts[] = {
     {kTextSpokenPage, u"Aperçu, page %d sur %d"},
     {kTextPrintZoom, u"%d\u00A0%%"},
     {kTextPrintYears,
-     u" (%d av. JC)|Années : %s, pages : %s|La première année vient après la dernière.|&Continuer..."},
+     u" (%d av. JC)|Années\u00A0: %s, pages\u00A0: %s|La première année vient après la "
+     u"dernière.|&Continuer..."},
     {kTextPrintName, u"Calendrier|%d av. JC|%s à %s"},
     {kTextExportPdf, u"Exporter en PDF|Documents PDF (*.pdf)"},
     {kTextPrintProgress, u"Page %d sur %d"},
@@ -32,7 +33,12 @@ inline constexpr TextEntry kPrintTexts[] = {
      u"Vérifiez qu'elle est allumée et prête, puis recommencez, ou exportez les pages en PDF.|"
      u"Le fichier %s n'a pas pu être écrit.\n\n"
      u"Vérifiez que vous pouvez écrire dans ce dossier et qu'il reste de la place sur le disque. "
-     u"Si un fichier de ce nom existait, il n'a pas changé."},
+     u"Si un fichier de ce nom existait, il n'a pas changé.|"
+     u"La file d'attente de l'imprimante «\u00A0%s\u00A0» est fermée\u00A0: rien n'a été imprimé.\n\n"
+     u"Rouvrez-la dans les réglages des imprimantes, choisissez une autre imprimante, ou exportez les pages "
+     u"en PDF.|"
+     u"L'imprimante «\u00A0%s\u00A0» est arrêtée. Les pages attendent dans sa file et seront imprimées quand "
+     u"elle sera remise en marche."},
     {kTextPageList,
      u"Cette liste de pages ne peut pas être lue.\n\n"
      u"Séparez les pages par des virgules et écrivez une plage avec un trait d'union\u00A0: 1-3,5"},

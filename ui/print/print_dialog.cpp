@@ -6,6 +6,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QRadioButton>
+#include <QScreen>
+#include <QTabWidget>
 
 #include <algorithm>
 
@@ -20,24 +22,33 @@ CPrintDialog::CPrintDialog(QPrinter& printer, int pageCount, const QString& file
     : QPrintDialog(&printer, parent),
       m_all(findChild<QRadioButton*>(QStringLiteral("printAll"))),
       m_list(findChild<QRadioButton*>(QStringLiteral("pagesRadioButton"))),
-      m_pages(findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"))) {
+      m_pages(findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"))),
+      m_tabs(findChild<QTabWidget*>(QStringLiteral("tabs"))) {
   setOption(QAbstractPrintDialog::PrintPageRange);
   setMinMax(1, pageCount);
   if (auto* const path = findChild<QLineEdit*>(QStringLiteral("filename"))) path->setText(file);
   if (auto* const printers = findChild<QComboBox*>(QStringLiteral("printers")))
-    connect(printers, &QComboBox::currentIndexChanged, this, &CPrintDialog::EnableList);
+    connect(printers, &QComboBox::currentIndexChanged, this, &CPrintDialog::EnableParts);
   NameControls(*this);
+  PressWithEnter(*this);
   FitScreen(*this);
 }
 
 void CPrintDialog::showEvent(QShowEvent* event) {
   QPrintDialog::showEvent(event);
-  EnableList();
+  EnableParts();
+  // The toolkit cuts the name of a printer, though the screen has room.
+  if (auto* const printers = findChild<QComboBox*>(QStringLiteral("printers")))
+    printers->setMinimumWidth(std::min(printers->sizeHint().width(), screen()->availableSize().width() / 2));
 }
 
-// Allows lists of pages, which the toolkit leaves to real printers.
-void CPrintDialog::EnableList() {
+// Allows lists of pages, which the toolkit leaves to real printers, and keeps colors and sides of the sheet
+// for these, because a PDF file has all colors and no sheets.
+void CPrintDialog::EnableParts() {
   if (m_list != nullptr) m_list->setEnabled(true);
+  if (m_tabs == nullptr) return;
+  const int options = m_tabs->indexOf(findChild<QWidget*>(QStringLiteral("optionsTab")));
+  m_tabs->setTabEnabled(options, printer()->outputFormat() != QPrinter::PdfFormat);
 }
 
 // On purpose: a list is read here and hidden from the toolkit, which refuses each in version 6.4, and would

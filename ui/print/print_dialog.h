@@ -14,6 +14,7 @@
 
 class QLineEdit;
 class QRadioButton;
+class QTabWidget;
 
 namespace orbisol {
 
@@ -36,12 +37,13 @@ class CPrintDialog : public QPrintDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void EnableList();
+  void EnableParts();
 
   // Controls of the toolkit; null where it has none of that name.
   QRadioButton* m_all;
   QRadioButton* m_list;
   QLineEdit* m_pages;
+  QTabWidget* m_tabs;
   std::vector<PageSpan> m_ranges;  // pages of the list; empty where no list was asked for
 };
 

@@ -31,8 +31,15 @@ enum EndText {
   kManyWritten,
   kAbortedPrint,
   kAbortedFile
-};                                                                                 // likewise
-enum FaultText { kNotTheOnePage, kNotTheseManyPages, kPrinterFault, kFileFault };  // likewise
+};  // likewise
+enum FaultText {
+  kNotTheOnePage,
+  kNotTheseManyPages,
+  kPrinterFault,
+  kFileFault,
+  kClosedQueue,
+  kStoppedPrinter
+};  // likewise
 
 QString PdfPath(const QString& folder, const QString& name) {
   return QDir(folder).filePath(name + QStringLiteral(".pdf"));
@@ -122,6 +129,7 @@ void CPrintOutput::Export(const CPagePainter& pages, const QPageLayout& layout, 
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.selectFile(name + QStringLiteral(".pdf"));
+  PressWithEnter(dialog);
   FitScreen(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   WriteTo(dialog.selectedFiles().front(), pages, layout, AllPages(pages.Job()));
@@ -138,9 +146,10 @@ void CPrintOutput::Run(const CPagePainter& pages, const PageList& list, const Ta
 }
 
 void CPrintOutput::PrintOn(QPrinter& printer, const CPagePainter& pages, const QPageLayout& layout,
-                           const PageList& list) {
-  Run(pages, list, {printer.printerName(), false},
-      [&](const PageProgress& progress) { return PrintPages(pages, layout, printer, list, progress); });
+                           const PageList& list, const PrintServer& server) {
+  Run(pages, list, {printer.printerName(), false}, [&](const PageProgress& progress) {
+    return PrintPages(pages, layout, printer, list, progress, server);
+  });
 }
 
 void CPrintOutput::WriteTo(const QString& path, const CPagePainter& pages, const QPageLayout& layout,
@@ -175,6 +184,12 @@ void CPrintOutput::Report(RunResult result, const CPagePainter& pages, const Pag
       break;
     case RunResult::kFailed:
       fault(target.isFile ? kFileFault : kPrinterFault, Utf16View(target.name));
+      break;
+    case RunResult::kNotAccepting:
+      fault(kClosedQueue, Utf16View(target.name));
+      break;
+    case RunResult::kHeld:
+      fault(kStoppedPrinter, Utf16View(target.name));
       break;
   }
 }

@@ -43,7 +43,8 @@ class CPrintOutput : public QObject {
   void Export(const CPagePainter& pages, const QPageLayout& layout, const QString& name);
 
   // Run a job without asking. `layout` is one that SetPaper() has returned for the printer.
-  void PrintOn(QPrinter& printer, const CPagePainter& pages, const QPageLayout& layout, const PageList& list);
+  void PrintOn(QPrinter& printer, const CPagePainter& pages, const QPageLayout& layout, const PageList& list,
+               const PrintServer& server = AskPrintServer);
   void WriteTo(const QString& path, const CPagePainter& pages, const QPageLayout& layout,
                const PageList& list);
 

@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QSaveFile>
 
 #include <unistd.h>
@@ -45,6 +44,20 @@ RunResult PaintPdf(const CPagePainter& pages, const QPageLayout& layout, QIODevi
   const RunResult result =
       PaintPages(pages, writer, painter, SpaceOf(layout, kPrintResolution), list, progress);
   return painter.end() ? result : RunResult::kFailed;
+}
+
+RunResult ResultOf(ServerAnswer answer) {
+  switch (answer) {
+    case ServerAnswer::kTaken:
+      return RunResult::kDone;
+    case ServerAnswer::kHeld:
+      return RunResult::kHeld;
+    case ServerAnswer::kNotAccepting:
+      return RunResult::kNotAccepting;
+    case ServerAnswer::kFailed:
+      break;
+  }
+  return RunResult::kFailed;
 }
 
 }  // namespace
@@ -110,9 +123,7 @@ QPageLayout SetPaper(QPrinter& printer, const QPageLayout& layout) {
 }
 
 RunResult PrintPages(const CPagePainter& pages, const QPageLayout& layout, QPrinter& printer,
-                     const PageList& list, const PageProgress& progress) {
-  if (printer.outputFormat() == QPrinter::PdfFormat)
-    return WritePdf(pages, layout, printer.outputFileName(), list, progress);
+                     const PageList& list, const PageProgress& progress, const PrintServer& server) {
   if (list.empty()) return RunResult::kNoPages;
   QPainter painter;
   if (!painter.begin(&printer)) return RunResult::kFailed;
@@ -122,8 +133,7 @@ RunResult PrintPages(const CPagePainter& pages, const QPageLayout& layout, QPrin
   const bool isEnded = painter.end();
   if (result != RunResult::kDone) return result;
   if (!isEnded || printer.printerState() == QPrinter::Error) return RunResult::kFailed;
-  // The toolkit takes no notice of a print server that is gone.
-  return QPrinterInfo::printerInfo(printer.printerName()).isNull() ? RunResult::kFailed : RunResult::kDone;
+  return ResultOf(server(printer.printerName()));
 }
 
 }  // namespace orbisol

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "ui/print/page_painter.h"
+#include "ui/print/print_server.h"
 
 class QPrinter;
 
@@ -45,9 +46,11 @@ PageList PagesOf(const PrintJob& job, const PageChoice& choice);
 
 enum class RunResult {
   kDone,
-  kAborted,  // progress said so
-  kNoPages,  // the list is empty
-  kFailed,   // the printer refused, or the file could not be written
+  kAborted,       // progress said so
+  kNoPages,       // the list is empty
+  kFailed,        // the printer refused, or the file could not be written
+  kNotAccepting,  // the queue of the printer takes no jobs
+  kHeld,          // the pages wait for a printer that is stopped
 };
 
 // Called before each page, and once behind the last, with the pages that are done and their number. Returns
@@ -61,10 +64,11 @@ QPageLayout LayoutOn(const QPageLayout& own, const QPageLayout& layout);
 // Sets the paper of a printer, and returns what LayoutOn() makes of it. A PDF file takes any.
 QPageLayout SetPaper(QPrinter& printer, const QPageLayout& layout);
 
-// Prints pages on a paper that SetPaper() has returned, at the printer's resolution. A printer that writes a
-// PDF file (QPrinter::PdfFormat) does so by WritePdf().
+// Prints pages on a paper that SetPaper() has returned, at the printer's resolution, and waits for the answer
+// of its server. What a printer would write into a PDF file, WritePdf() writes.
 RunResult PrintPages(const CPagePainter& pages, const QPageLayout& layout, QPrinter& printer,
-                     const PageList& list, const PageProgress& progress);
+                     const PageList& list, const PageProgress& progress,
+                     const PrintServer& server = AskPrintServer);
 
 // Writes pages into a PDF file, whose fonts are embedded and whose texts can be searched. `path` is replaced
 // if it exists; links are followed, its rights kept.

@@ -2,15 +2,18 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <memory>
 
 #include "resources/strings.h"
+#include "ui/toolkit/keys.h"
 #include "ui/toolkit/plain_text.h"
 
 namespace orbisol {
@@ -30,6 +33,39 @@ constexpr const char* kControls[] = {"unitCombo",
                                      "paperSource"};
 
 constexpr QSize kWindowFrame(8, 40);  // room for the frame around a dialog
+
+// Scrolls downwards only: it is as wide as what it holds, also after that has grown.
+class CDownScroller : public QScrollArea {
+ public:
+  explicit CDownScroller(QWidget* inside) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(inside);
+  }
+
+  void KeepWidth(int width) {
+    setMinimumWidth(std::max(width, widget()->minimumSizeHint().width()) +
+                    verticalScrollBar()->sizeHint().width());
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) KeepWidth(0);
+    return QScrollArea::eventFilter(watched, event);
+  }
+};
+
+class CEnterKey : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* button, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !IsEnter(static_cast<QKeyEvent*>(event)->key())) return false;
+    static_cast<QToolButton*>(button)->click();
+    return true;
+  }
+};
 
 // Returns the size of a column with all of its parts shown.
 QSize SizeUnfolded(const QLayout& column) {
@@ -58,6 +94,11 @@ void NameControls(const QDialog& dialog) {
   }
 }
 
+void PressWithEnter(const QDialog& dialog) {
+  for (QToolButton* const button : dialog.findChildren<QToolButton*>())
+    button->installEventFilter(new CEnterKey(button));
+}
+
 void FitScreen(QDialog& dialog) {
   const QSize room = dialog.screen()->availableSize() - kWindowFrame;
   auto* const column = qobject_cast<QVBoxLayout*>(dialog.layout());
@@ -77,11 +118,8 @@ void FitScreen(QDialog& dialog) {
     if (item->widget() != nullptr) above->addWidget(item->widget());
   }
   above->addStretch();
-  auto* const area = new QScrollArea;
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setWidget(inside);
-  area->setMinimumWidth(width + area->verticalScrollBar()->sizeHint().width());
+  auto* const area = new CDownScroller(inside);
+  area->KeepWidth(width);
   column->insertWidget(0, area);
   dialog.setMaximumSize(room.expandedTo(dialog.minimumSizeHint()));
   dialog.resize(dialog.sizeHint().width(), room.height());

@@ -2,6 +2,7 @@
 //
 //   QPageSetupDialog dialog(&printer, this);
 //   NameControls(dialog);
+//   PressWithEnter(dialog);
 //   FitScreen(dialog);
 #pragma once
 
@@ -11,6 +12,10 @@ namespace orbisol {
 
 // Gives accessible names to controls that have none.
 void NameControls(const QDialog& dialog);
+
+// Makes Enter press the small button that has the focus. The toolkit gives it to the default button, and a
+// reader who wants to choose a file prints.
+void PressWithEnter(const QDialog& dialog);
 
 // Keeps a dialog on its screen, with all that can unfold in it: where the screen is too low, what stands
 // above the buttons scrolls.
