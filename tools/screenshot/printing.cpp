@@ -25,6 +25,8 @@ struct PagePicture {
   int format;
   QPageLayout::Orientation orientation;
   std::vector<int> options = {};  // options that are turned
+  QPageSize::PageSizeId paper = QPageSize::A4;
+  bool isCrowded = false;  // whether something with a long name falls on each day
 };
 
 const PagePicture kPages[] = {
@@ -92,6 +94,42 @@ const PagePicture kPages[] = {
      kCmdFormatYear,
      QPageLayout::Landscape,
      {kCmdPrintImage}},
+    {"page_table_a3",
+     2024,
+     5,
+     kCmdPeriodMonth,
+     kCmdFormatTable,
+     QPageLayout::Landscape,
+     {kCmdPrintJulian},
+     QPageSize::A3},
+    {"page_year_a3", 2024, 5, kCmdPeriodYear, kCmdFormatYear, QPageLayout::Landscape, {}, QPageSize::A3},
+    {"page_table_crowded",
+     2024,
+     9,
+     kCmdPeriodMonth,
+     kCmdFormatTable,
+     QPageLayout::Landscape,
+     {kCmdPrintImage, kCmdPrintJulian, kCmdPrintRepublican},
+     QPageSize::A4,
+     true},
+    {"page_month_crowded",
+     2024,
+     9,
+     kCmdPeriodMonth,
+     kCmdFormatMonth,
+     QPageLayout::Portrait,
+     {kCmdPrintImage, kCmdPrintJulian, kCmdPrintRepublican},
+     QPageSize::A4,
+     true},
+    {"page_half_crowded",
+     2024,
+     9,
+     kCmdPeriodHalf2,
+     kCmdFormatHalf,
+     QPageLayout::Landscape,
+     {kCmdPrintImage},
+     QPageSize::A4,
+     true},
 };
 
 // Returns a family's calendar: the days of France, birthdays, and holidays of the schools.
@@ -109,6 +147,24 @@ CalendarContent FamilyContent() {
                        Period(20240706, 20240901, u"Vacances d'été"),
                        Period(20241019, 20241103, u"Vacances de la Toussaint"),
                        Period(20241221, 20250105, u"Vacances de Noël")};
+  return content;
+}
+
+// Returns a calendar with a holiday, an event or both on each day, and vacations that follow one another.
+CalendarContent CrowdedContent() {
+  CalendarContent content;
+  for (int day = 1; day <= 31; ++day) {
+    for (int month = 1; month <= 12; ++month) {
+      if (day % 3 != 0)
+        content.dayEvents.push_back(
+            EveryYear(month, day, u"Anniversaire de Marie-Joséphine de La Rochefoucauld", false));
+      if (day % 4 < 2)
+        content.dayEvents.push_back(EveryYear(month, day, u"Commémoration de l'armistice", true));
+      if (day % 7 == 1 && day < 28)
+        content.vacations.push_back(Period(20240000 + 100 * month + day, 20240000 + 100 * month + day + 6,
+                                           u"Vacances d'automne à l'étranger"));
+    }
+  }
   return content;
 }
 
@@ -133,19 +189,21 @@ void TakePrinting(CPictureFolder& folder) {
   ResetCalendarConfig();
   const PrintSource source = {FamilyContent(),     DisplaySettings(), Rules(),
                               BuiltInBackground(), Sunset(),          QFont()};
+  PrintSource crowded = source;
+  crowded.content = CrowdedContent();
   for (const PagePicture& page : kPages) {
     PrintJob job(page.year, page.month);
     job.ChooseFormat(page.format);
     job.ChoosePeriod(page.period);
     for (const int option : page.options) job.ToggleOption(option);
-    const QPageLayout layout(QPageSize(QPageSize::A4), page.orientation, QMarginsF(10, 10, 10, 10),
+    const QPageLayout layout(QPageSize(page.paper), page.orientation, QMarginsF(10, 10, 10, 10),
                              QPageLayout::Millimeter);
     QImage picture(layout.fullRectPixels(kPictureResolution).size(), QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     const double zoom = static_cast<double>(kPictureResolution) / kPrintResolution;
     painter.scale(zoom, zoom);
-    CPagePainter(job, source).Paint(painter, 0, SpaceOf(layout, kPrintResolution));
+    CPagePainter(job, page.isCrowded ? crowded : source).Paint(painter, 0, SpaceOf(layout, kPrintResolution));
     painter.end();
     folder.Save(picture, QString::fromLatin1(page.name));
   }

@@ -35,7 +35,7 @@ OtherDate RepublicanDateText(const Date& date, bool withMonth) {
   if (!withMonth && day != 1) {
     other.text = DecimalText(day);
   } else if (republican.monthIndex == kComplementaryMonth) {
-    other.text = DayAndMonth(day, StringText(kTextComplementaryDay));
+    other.text = ComplementaryDay(day);
   } else {
     other.text = DayAndMonth(day, RepublicanMonthName(republican.monthIndex));
   }
@@ -63,6 +63,21 @@ std::vector<OtherDate> OtherDates(std::span<const DayCell> days, OtherCalendar c
     dates.push_back(calendar == OtherCalendar::kJulian ? JulianDate(date, withMonth)
                                                        : RepublicanDateText(date, withMonth));
     withMonth = false;
+  }
+  return dates;
+}
+
+std::u16string ComplementaryDay(int day) { return DayAndMonth(day, StringText(kTextComplementaryDay)); }
+
+std::vector<std::u16string> LongestDates(OtherCalendar calendar) {
+  constexpr int kMonths = 12;
+  constexpr int kLongestDay = 30;
+  std::vector<std::u16string> dates;
+  for (int month = 0; month < kMonths; ++month) {
+    const std::u16string name =
+        calendar == OtherCalendar::kJulian ? MonthName(month + 1) : RepublicanMonthName(month);
+    dates.push_back(DayAndMonth(1, name));
+    dates.push_back(DayAndMonth(kLongestDay, name));
   }
   return dates;
 }

@@ -26,4 +26,10 @@ std::span<const DayCell> DaysOfMonth(const MonthModel& model);
 // first one shown and on each first of a month.
 std::vector<OtherDate> OtherDates(std::span<const DayCell> days, OtherCalendar calendar);
 
+// Returns dates with the names of all months, one of which is as long as any but a complementary day.
+std::vector<std::u16string> LongestDates(OtherCalendar calendar);
+
+// Returns "1er complémentaire" and so on, 1..6.
+std::u16string ComplementaryDay(int day);
+
 }  // namespace orbisol

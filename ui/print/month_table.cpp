@@ -31,16 +31,10 @@ class CTablePainter {
   void Paint(std::span<const DayCell> days) {
     m_painter.setPen(Qt::black);
     const std::vector<PrintedDay> printed = PrintedDays(m_style.job, days);
-    if (m_style.job.Has(kJulianOption)) m_dates.push_back(OtherDates(days, OtherCalendar::kJulian));
-    if (m_style.job.Has(kRepublicanOption)) {
-      m_dates.push_back(OtherDates(days, OtherCalendar::kRepublican));
-      m_marksDecades = true;
-    }
-    m_dateFont = DateFont(printed);
-    if (!FitsDates(m_dateFont, printed)) {
-      m_table.hasDatesBelow = true;
-      m_dateFont = DateFont(printed);
-    }
+    if (m_style.job.Has(kJulianOption)) AddCalendar(OtherCalendar::kJulian, days);
+    m_marksDecades = m_style.job.Has(kRepublicanOption);
+    if (m_marksDecades) AddCalendar(OtherCalendar::kRepublican, days);
+    PlaceDates();
     const DayCell* const cells = m_model.cells.data();
     for (int cell = m_model.FirstCell(); !days.empty() && cell <= m_model.LastCell(); ++cell) {
       const DayCell& day = cells[cell];
@@ -57,6 +51,12 @@ class CTablePainter {
   }
 
  private:
+  void AddCalendar(OtherCalendar calendar, std::span<const DayCell> days) {
+    m_dates.push_back(OtherDates(days, calendar));
+    const std::vector<std::u16string> longest = LongestDates(calendar);
+    m_longestDates.insert(m_longestDates.end(), longest.begin(), longest.end());
+  }
+
   Rect RectOf(int cell) const {
     const int place = cell - m_model.FirstCell();
     return m_table.Cell(place / kColumns, place % kColumns);
@@ -77,7 +77,7 @@ class CTablePainter {
   }
 
   void PaintDay(const DayCell& day, const PrintedDay& printed, std::size_t index, const Rect& cell) const {
-    const TableCell parts = PartsOf(cell, m_table);
+    const TableCell parts = PartsOf(cell, TableOf(printed, index));
     if (printed.isEvent) FillArea(m_painter, cell, kEventFill);
     if (printed.isHoliday) FillArea(m_painter, cell, kHolidayFill);
     // On purpose: a holiday on a Sunday has the ground of the Sunday, and is told by its bold number and
@@ -89,8 +89,20 @@ class CTablePainter {
     DrawLine(m_painter, parts.number, Qt::AlignLeft | Qt::AlignVCenter, QString::number(day.day));
     if (printed.hasMoon) DrawMoon(m_painter, parts.moon, day.moonPhase, m_table.units);
     PaintOtherDates(parts, printed.hasMoon, index);
-    m_painter.setFont(m_small);
+    m_painter.setFont(TextFont(printed, parts.text.Width()));
     DrawWrapped(m_painter, parts.text, printed.runs, {});
+  }
+
+  // Returns the small font, or a smaller one that need not break the longest word of a narrow cell.
+  QFont TextFont(const PrintedDay& printed, int width) const {
+    QFont least = m_small;
+    for (const TextRun& run : printed.runs) {
+      for (const QString& word : QString(run.text).replace(u'-', QStringLiteral("- ")).split(u' ')) {
+        const QFont font = FittingFont(m_style.fonts, m_table.SmallFontHeight(), run.lettering, word, width);
+        if (font.pixelSize() < least.pixelSize()) least.setPixelSize(font.pixelSize());
+      }
+    }
+    return least;
   }
 
   // Returns the right end of a date of another calendar, left of the moon. Where there is none, a name of a
@@ -112,25 +124,43 @@ class CTablePainter {
     }
   }
 
-  bool FitsDates(const QFont& font, const std::vector<PrintedDay>& printed) const {
+  // Returns whether the longest dates have room, beside a moon but for a complementary day.
+  bool FitsDates(const QFont& font) const {
     const TableCell parts = PartsOf(m_table.Cell(0, 0), m_table);
-    for (const std::vector<OtherDate>& dates : m_dates) {
-      for (std::size_t i = 0; i < dates.size(); ++i) {
-        const int width = WidthOf(font, ToQString(dates[i].text));
-        // Some columns are narrower than this one by a unit.
-        if (width >= RightOfDate(parts, printed[i].hasMoon, width) - parts.dates.left) return false;
-      }
-    }
-    return true;
+    const auto fits = [&](const std::u16string& date, bool hasMoon) {
+      const int width = WidthOf(font, ToQString(date));
+      // Some columns are narrower than this one by a unit.
+      return width < RightOfDate(parts, hasMoon, width) - parts.dates.left;
+    };
+    return std::ranges::all_of(m_longestDates, [&](const auto& date) { return fits(date, true); }) &&
+           (!m_marksDecades || fits(ComplementaryDay(1), false));
   }
 
-  // Returns the font of the other dates: the small one, or a smaller one in which the longest of them fits.
-  QFont DateFont(const std::vector<PrintedDay>& printed) const {
-    int height = m_table.SmallFontHeight();
-    const int least = std::min(height, kLeastPoints * m_table.units.point);
-    while (height > least && !FitsDates(m_style.fonts.OfHeight(height), printed))
-      height = std::max(least, height - std::max(1, m_table.units.point / 2));
-    return m_style.fonts.OfHeight(height);
+  // Chooses the font of the other dates, the small one or one a little smaller, and their place beside the
+  // number or below. Both follow from the paper and the longest names, never from the dates of this month, so
+  // that all pages of a year are alike.
+  void PlaceDates() {
+    const int largest = m_table.SmallFontHeight();
+    const int least = std::min(largest, kLeastPoints * m_table.units.point);
+    for (const bool isBelow : {false, true}) {
+      m_table.hasDatesBelow = isBelow;
+      for (int height = largest; height >= least; height -= std::max(1, m_table.units.point / 2)) {
+        m_dateFont = m_style.fonts.OfHeight(height);
+        if (FitsDates(m_dateFont)) return;
+      }
+    }
+  }
+
+  // Returns the layout of the cell of a day. A complementary day may be too long for its place beside a moon,
+  // and stands below its number.
+  TableLayout TableOf(const PrintedDay& printed, std::size_t index) const {
+    TableLayout table = m_table;
+    const TableCell parts = PartsOf(m_table.Cell(0, 0), m_table);
+    for (const std::vector<OtherDate>& dates : m_dates) {
+      const int width = WidthOf(m_dateFont, ToQString(dates[index].text));
+      if (width >= RightOfDate(parts, printed.hasMoon, width) - parts.dates.left) table.hasDatesBelow = true;
+    }
+    return table;
   }
 
   void PaintNames() const {
@@ -174,7 +204,7 @@ class CTablePainter {
     if (day < days.data() || day > &days.back()) return;
     if (!m_dates.back()[static_cast<std::size_t>(day - days.data())].beginsDecade) return;
     const Rect place = RectOf(cell);
-    DrawVertical(m_painter, m_table.frame, place.left, place.top, place.bottom, 3 * m_table.units.thickLine);
+    DrawVertical(m_painter, m_table.frame, place.left, place.top, place.bottom, 2 * m_table.units.thickLine);
   }
 
   QPainter& m_painter;
@@ -185,6 +215,7 @@ class CTablePainter {
   QFont m_small;
   QFont m_dateFont;
   std::vector<std::vector<OtherDate>> m_dates;  // a list a calendar, with one for each day
+  std::vector<std::u16string> m_longestDates;   // of these calendars, in any month
   bool m_marksDecades = false;                  // whether the last of these lists is the Republican one
 };
 

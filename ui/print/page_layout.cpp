@@ -13,11 +13,12 @@ constexpr int kRows = 32;  // a title row and 31 days
 constexpr int kTableColumns = 7;
 
 // Returns the part of an edge that a picture may take, in percent: the more months stand on a page, the less.
-// Above a column it leaves rows in which the small font can be read.
+// Above columns it leaves rows in which the small font can be read; beside them it takes width, of which they
+// have more than they need.
 int PicturePercent(int monthsPerPage, bool isTable, bool isUpright) {
-  if (monthsPerPage >= 12) return 15;
-  if (monthsPerPage >= 6) return 20;
-  if (monthsPerPage >= 3) return 25;
+  if (monthsPerPage >= 12) return isUpright ? 15 : 22;
+  if (monthsPerPage >= 6) return isUpright ? 20 : 25;
+  if (monthsPerPage >= 3) return isUpright ? 25 : 35;
   return isTable || !isUpright ? 42 : 28;
 }
 

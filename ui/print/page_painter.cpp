@@ -111,8 +111,10 @@ void CPagePainter::PaintTitle(QPainter& painter, int page, const Rect& title, co
   const bool isScreen = m_job.formatCommand == kCmdFormatScreen;
   const QColor ink = isScreen ? ToQColor(m_source.settings.ColorAt(kColorCalHeader)) : QColor(Qt::black);
   painter.setPen(LegibleOn(GroundColor(), ink));
-  painter.setFont(m_fonts.OfHeight(title.Height() - 2 * units.point, Lettering::kBold));
-  DrawLine(painter, title, Qt::AlignCenter, ToQString(m_job.Title(page)));
+  const QString text = ToQString(m_job.Title(page));
+  painter.setFont(
+      FittingFont(m_fonts, title.Height() - 2 * units.point, Lettering::kBold, text, title.Width()));
+  DrawLine(painter, title, Qt::AlignCenter, text);
 }
 
 void CPagePainter::PaintMonths(QPainter& painter, int page, const PageSpace& space, const Rect& body) const {

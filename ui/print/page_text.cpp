@@ -208,6 +208,13 @@ int WidthOf(const QFont& font, const QString& text) {
   return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(text)));
 }
 
+QFont FittingFont(const CPageFonts& fonts, int height, Lettering lettering, const QString& text, int width) {
+  const int least = std::max(1, height * 2 / 3);
+  const int wanted = WidthOf(fonts.OfHeight(height, lettering), text);
+  const int fitting = wanted > width ? height * std::max(width, 0) / wanted : height;
+  return fonts.OfHeight(std::max(fitting, least), lettering);
+}
+
 void DrawLine(QPainter& painter, const Rect& rect, Qt::Alignment alignment, const QString& text) {
   if (rect.Width() <= 0 || rect.Height() <= 0) return;
   const QFontMetricsF metrics(painter.font());

@@ -46,6 +46,10 @@ class CPageFonts {
 // Returns the width of a text, rounded up.
 int WidthOf(const QFont& font, const QString& text);
 
+// Returns a font in which a text is at most `width` wide: one of that height, or a smaller one, down to two
+// thirds of it.
+QFont FittingFont(const CPageFonts& fonts, int height, Lettering lettering, const QString& text, int width);
+
 // Draws a text on one line in the painter's font and pen.
 void DrawLine(QPainter& painter, const Rect& rect, Qt::Alignment alignment, const QString& text);
 

@@ -24,8 +24,9 @@ struct PaintedPage {
   QImage image;
   PageBands bands;
 
-  explicit PaintedPage(const PrintJob& job, const PrintSource& source = SourceOfTests()) {
-    const QPageLayout layout = Paper(QPageLayout::Landscape);
+  explicit PaintedPage(const PrintJob& job, const PrintSource& source = SourceOfTests(),
+                       QPageLayout::Orientation orientation = QPageLayout::Landscape) {
+    const QPageLayout layout = Paper(orientation);
     image = QImage(layout.fullRectPixels(kResolution).size(), QImage::Format_RGB32);
     image.fill(Qt::white);
     const PageSpace space = SpaceOf(layout, kResolution);
@@ -52,24 +53,32 @@ struct PaintedPage {
     return counts.empty() ? 0 : std::max_element(counts.begin(), counts.end(), more)->first;
   }
 
-  bool IsBlank(const Rect& rect) const {
-    for (int y = rect.top; y < rect.bottom; ++y)
-      for (int x = rect.left; x < rect.right; ++x)
-        if (image.pixel(x, y) != qRgb(255, 255, 255)) return false;
-    return true;
-  }
-
-  int Darkness(const Rect& rect) const {
+  // Returns the sum of a value of grey over the pixels of a rectangle.
+  template <class Value>
+  int Sum(const Rect& rect, Value value) const {
     int sum = 0;
     for (int y = rect.top; y < rect.bottom; ++y)
-      for (int x = rect.left; x < rect.right; ++x) sum += 255 - qGray(image.pixel(x, y));
+      for (int x = rect.left; x < rect.right; ++x) sum += value(qGray(image.pixel(x, y)));
     return sum;
+  }
+  int Darkness(const Rect& rect) const {
+    return Sum(rect, [](int grey) { return 255 - grey; });
+  }
+  bool IsBlank(const Rect& rect) const { return Darkness(rect) == 0; }
+  int BlackPixels(const Rect& rect) const {
+    return Sum(rect, [](int grey) { return grey < 80 ? 1 : 0; });
   }
 };
 
 PrintJob WithOptions(PrintJob job, unsigned options) {
   job.options = options;
   return job;
+}
+
+PrintSource Nameless(PrintSource source) {
+  for (DayEvent& event : source.content.dayEvents) event.name.Set(u" ");
+  for (HolidayPeriod& period : source.content.vacations) period.title.Set(u"");
+  return source;
 }
 
 Rect Inner(const Rect& rect) { return rect.Shrunk(3); }
@@ -117,12 +126,7 @@ TEST(PagePainterTest, LetteringTellsMarksApart) {
                               Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 3, .name = u"Maxime"})};
   source.content.vacations = {Period(20240507, 20240508, u"Maxime"), Period(20240509, 20240509, u"Zoé")};
   const PaintedPage page(JobOf(kCmdFormatMonth), source);
-  const PaintedPage bare(JobOf(kCmdFormatMonth), [&] {
-    PrintSource nameless = source;
-    for (DayEvent& event : nameless.content.dayEvents) event.name.Set(u" ");
-    for (HolidayPeriod& period : nameless.content.vacations) period.title.Set(u"");
-    return nameless;
-  }());
+  const PaintedPage bare(JobOf(kCmdFormatMonth), Nameless(source));
   const ColumnLayout column = page.Column(1, 0);
   const auto ink = [&](int day) {
     return (page.Darkness(column.Text(day)) - bare.Darkness(column.Text(day))) * 100 /
@@ -133,6 +137,15 @@ TEST(PagePainterTest, LetteringTellsMarksApart) {
   EXPECT_GT(ink(7), 0);
   EXPECT_EQ(ink(8), 0) << "it is named on its first day alone";
   EXPECT_GT(ink(9), 0) << "another one begins";
+
+  // In a table, numbers tell holidays and the days of other months apart.
+  const PaintedPage inTable(JobOf(kCmdFormatTable));
+  const PaintedPage plain(WithOptions(JobOf(kCmdFormatTable), 0));
+  const TableLayout table = TableOnPage(plain.bands.body, PageUnits(kResolution), 5, 0);
+  const auto number = [&](int place) { return PartsOf(table.Cell(place / 7, place % 7), table).number; };
+  EXPECT_EQ(inTable.BlackPixels(number(0)), 0) << "29 April is grey";
+  EXPECT_GT(inTable.BlackPixels(number(2)), plain.BlackPixels(number(2)) * 12 / 10) << "1 May is bold";
+  EXPECT_EQ(inTable.BlackPixels(number(3)), plain.BlackPixels(number(3)));
 }
 
 // Ink that names add lies in the place of the text of their own day, also where they are much too long.
@@ -151,13 +164,12 @@ TEST(PagePainterTest, NoTextLeavesItsPlace) {
         source.content.dayEvents.push_back(Rule(kFixedDate, {.month = 5, .day = day, .name = name}));
         source.content.vacations.push_back(Period(20240500 + day, 20240500 + day, name));
       }
-      PrintSource bare = source;
-      for (DayEvent& event : bare.content.dayEvents) event.name.Set(u" ");
-      for (HolidayPeriod& period : bare.content.vacations) period.title.Set(u"");
       PrintJob job = JobOf(format);
       job.options |= kJulianOption | kRepublicanOption;
-      const PaintedPage full(job, source);
-      const PaintedPage empty(job, bare);
+      // The narrowest columns have their moon above the text.
+      const auto orientation = format == kCmdFormatYear ? QPageLayout::Portrait : QPageLayout::Landscape;
+      const PaintedPage full(job, source, orientation);
+      const PaintedPage empty(job, Nameless(source), orientation);
 
       QRegion allowed;
       QRegion moons;  // white ones, on which names would be seen
@@ -252,29 +264,34 @@ TEST(PagePainterTest, LinesAreHeavierUnderAWeekAMonthAndADecade) {
   const int right = column.left + column.width;
   EXPECT_GT(line(1, right - column.width / 4, right), line(4, right - column.width / 4, right) * 12 / 10)
       << "the end of a decade";
+
+  const PaintedPage tablePage(
+      WithOptions(JobOf(kCmdFormatTable, kCmdPeriodMonth, 1799, 11), kRepublicanOption));
+  const TableLayout table = TableOnPage(tablePage.bands.body, PageUnits(kResolution), 5, 1);
+  const auto leftOf = [&](int week) {
+    const Rect cell = table.Cell(week, 5);
+    return tablePage.Darkness({cell.left - 4, cell.top + 4, cell.left + 4, cell.bottom - 4});
+  };
+  EXPECT_GT(leftOf(0), leftOf(1) * 17 / 10) << "the second of November";
 }
 
-TEST(PagePainterTest, AMonthAsOnTheScreenHasItsColorsAndItsGround) {
+TEST(PagePainterTest, AMonthAsOnTheScreenHasItsColorsItsGroundAndItsTexts) {
   PrintSource source = SourceOfTests();
+  PrintSource other = source;
+  other.content.dayEvents[0].name.Set(u"Muguet");
+  const PrintJob job = JobOf(kCmdFormatScreen);
+  EXPECT_EQ(PaintedPage(job, source).image, PaintedPage(job, other).image) << "texts are off";
+  source.settings.cellTexts = other.settings.cellTexts = true;
+  EXPECT_NE(PaintedPage(job, source).image, PaintedPage(job, other).image);
   source.settings.colors[kHeaderBgColor] = Rgb(10, 60, 20);
   for (const Color ground : {kWindowColor, kButtonFaceColor, Rgb(250, 240, 200)}) {
     source.settings.colors[kColorBgCal] = ground;
-    const PaintedPage page(JobOf(kCmdFormatScreen), source);
+    const PaintedPage page(job, source);
     EXPECT_EQ(page.Ground(page.bands.title),
               ground == Rgb(250, 240, 200) ? qRgb(250, 240, 200) : qRgb(255, 255, 255));
     const Rect body = page.bands.body;
     EXPECT_EQ(page.Ground({body.left, body.top, body.right, body.top + body.Height() / 8}), qRgb(10, 60, 20));
   }
-}
-
-TEST(PagePainterTest, AMonthAsOnTheScreenHasTheTextsOfItsCells) {
-  PrintSource source = SourceOfTests();
-  PrintSource other = source;
-  other.content.dayEvents[0].name.Set(u"Muguet");
-  const PrintJob job = JobOf(kCmdFormatScreen);
-  EXPECT_EQ(PaintedPage(job, source).image, PaintedPage(job, other).image) << "they are off";
-  source.settings.cellTexts = other.settings.cellTexts = true;
-  EXPECT_NE(PaintedPage(job, source).image, PaintedPage(job, other).image);
 }
 
 // A page keeps the state it began with, and does not touch the rules in force.
