@@ -29,6 +29,7 @@
 #include "ui/toolkit/picture_chooser.h"
 #include "ui/toolkit/picture_reader.h"
 #include "ui/toolkit/plain_text.h"
+#include "ui/toolkit/spoken_notice.h"
 #include "ui/window/help.h"
 
 namespace orbisol {
@@ -116,8 +117,7 @@ CPrintFrame::CPrintFrame(SettingsStore& store, int year, int month)
   setCentralWidget(m_view);
   connect(m_view, &CPrtView::zoomChanged, this, &CPrintFrame::ShowZoom);
   connect(m_view, &CPrtView::pageTurned, this, &CPrintFrame::TurnPage);
-  connect(m_output, &CPrintOutput::ended, this,
-          [this](const QString& text) { statusBar()->showMessage(text, kEndShown); });
+  connect(m_output, &CPrintOutput::ended, this, &CPrintFrame::TellEnd);
   connect(&m_background, &CBackgroundPicture::arrived, this, &CPrintFrame::ShowJob);
   m_background.Load(Display());
   ShowJob();
@@ -148,6 +148,16 @@ void CPrintFrame::MakeStatusBar() {
   statusBar()->addWidget(m_caption, 1);
   statusBar()->addPermanentWidget(m_zoom);
   statusBar()->setVisible(Display().printLayout.statusBarShown);
+  connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString& text) {
+    if (text.isEmpty()) statusBar()->setVisible(Display().printLayout.statusBarShown);
+  });
+}
+
+// Tells how a job ended: in the status bar, which appears for that where it is hidden, and aloud.
+void CPrintFrame::TellEnd(const QString& text) {
+  statusBar()->show();
+  statusBar()->showMessage(text, kEndShown);
+  SayAloud(*this, text);
 }
 
 void CPrintFrame::Open() {
@@ -189,7 +199,6 @@ void CPrintFrame::RunJobCommand(CommandId command) {
     m_job.ChoosePeriod(command);
   } else if (IsFormat(command)) {
     m_job.ChooseFormat(command);
-    if (!m_job.Has(kImageOption)) m_image = QImage();
     ProposeOrientation();
   } else {
     m_job.ToggleOption(command);
@@ -342,6 +351,7 @@ void CPrintFrame::TurnPage(int step) {
     m_view->ShowBottom();
   else
     m_view->ShowTop();
+  SayAloud(*this, m_view->accessibleName() + QStringLiteral(". ") + m_view->accessibleDescription());
 }
 
 void CPrintFrame::OnFirstPage() { TurnPage(-m_job.currentPage); }

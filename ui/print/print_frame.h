@@ -98,6 +98,7 @@ class CPrintFrame : public QMainWindow {
   void MakeToolBar();
   CMenuButton* AddMenuButton(CommandId command, const QString& name);
   void MakeStatusBar();
+  void TellEnd(const QString& text);
   void TurnPage(int step);
   void ShowJob();
   void ShowPage();

@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
 
 #include <utility>
@@ -45,6 +46,13 @@ void CCommandTable::FillMenuBar(QMenuBar& bar, std::span<const Menu> menus) {
       }
     }
   }
+  // The toolkit leaves this key of desktops out.
+  auto* const key = new QShortcut(QKeySequence(Qt::Key_F10), &bar);
+  connect(key, &QShortcut::activated, &bar, [&bar] {
+    QAction* const first = bar.actions().front();
+    bar.setActiveAction(first);
+    first->menu()->setActiveAction(first->menu()->actions().front());
+  });
 }
 
 void CCommandTable::FillToolBar(QToolBar& bar, std::span<const ToolItem> items) {

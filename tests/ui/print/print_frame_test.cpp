@@ -80,6 +80,9 @@ TEST_F(PrintFrameTest, KeysTurnPagesAndFirstMoveThroughALargeOne) {
     EXPECT_EQ(page(), shown) << key;
   }
   EXPECT_FALSE(IsEnabled(kCmdPreviousPage) || IsEnabled(kCmdFirstPage));
+  Press(Qt::Key_F10);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
   frame->View().SetZoom(200);
   frame->View().ShowTop();
   QScrollBar& bar = *frame->View().verticalScrollBar();
@@ -158,7 +161,7 @@ TEST_F(PrintFrameTest, ThePreviewIsThePageAndFollowsTheCalendar) {
     QImage page(frame->View().PaperRect().size(), QImage::Format_RGB32);
     page.fill(Qt::white);
     QPainter painter(&page);
-    const double scale = 1.0 * frame->View().logicalDpiX() / kPrintResolution;
+    const double scale = frame->View().Percent() / 100.0 * frame->View().logicalDpiX() / kPrintResolution;
     painter.scale(scale, scale);
     pages.Paint(painter, frame->Job().currentPage, SpaceOf(frame->Paper(), kPrintResolution));
     return page;
@@ -171,6 +174,8 @@ TEST_F(PrintFrameTest, ThePreviewIsThePageAndFollowsTheCalendar) {
   EXPECT_NE(Shown(), before);
   Choose(kCmdPrintHolidays);
   EXPECT_EQ(Shown(), painted());
+  frame->View().SetZoom(50);
+  EXPECT_EQ(Shown(), painted()) << "drawn anew, though the larger page held it";
   EXPECT_EQ(frame->StatusText(), QStringLiteral("Page 1 / 1 (mai 2024)"));
 }
 

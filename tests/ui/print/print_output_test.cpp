@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPageSetupDialog>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinter>
@@ -81,6 +82,7 @@ TEST_F(PrintFrameTest, ThePrintDialogWritesTheChosenPagesIntoAFile) {
     ChooseAndAnswer<QPrintDialog>(kCmdPrintPages, [&](QPrintDialog& dialog) {
       EXPECT_EQ(dialog.minPage(), 1);
       EXPECT_EQ(dialog.maxPage(), 12);
+      EXPECT_FALSE(dialog.findChild<QTabWidget*>(QStringLiteral("tabs"))->isTabEnabled(1)) << "colors, sides";
       auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
       EXPECT_TRUE(file->text().endsWith(QLatin1String("/Calendrier 2024.pdf"))) << qPrintable(file->text());
       file->setText(path);
@@ -163,34 +165,84 @@ TEST_F(PrintFrameTest, WhatCannotBeWrittenIsSaidAndLeavesNoFile) {
   EXPECT_FALSE(QFile::exists(path));
 }
 
-// A printer that takes no page. The toolkit knows none on a machine without printers but those that write a
-// file.
-class CBrokenPrinter : public QPrinter {
+// A printer that takes its pages, or none. The toolkit knows none on a machine without printers but those
+// that write a file.
+class CFakePrinter : public QPrinter {
  public:
-  CBrokenPrinter() { setEngines(&m_engine, nullptr); }
+  explicit CFakePrinter(bool isBroken) {
+    m_engine.isBroken = isBroken;
+    setEngines(&m_engine, isBroken ? nullptr : &m_pages);
+  }
 
  private:
   struct Engine : QPrintEngine {
     void setProperty(PrintEnginePropertyKey, const QVariant&) override {}
     QVariant property(PrintEnginePropertyKey key) const override {
       if (key == PPK_QPageLayout) return QVariant::fromValue(QPageLayout());
-      if (key == PPK_OutputFileName) return QStringLiteral("/no/such/folder/of/a/spooler");
       return key == PPK_PrinterName ? QVariant(QStringLiteral("Laser")) : QVariant(kPrintResolution);
     }
-    bool newPage() override { return false; }
+    bool newPage() override { return !isBroken; }
     bool abort() override { return true; }
     int metric(QPaintDevice::PaintDeviceMetric) const override { return 1000; }
-    QPrinter::PrinterState printerState() const override { return QPrinter::Error; }
+    QPrinter::PrinterState printerState() const override {
+      return isBroken ? QPrinter::Error : QPrinter::Idle;
+    }
+    bool isBroken = false;
+  };
+  struct Pages : QPaintEngine {
+    Pages() : QPaintEngine(AllFeatures) {}
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    void drawPath(const QPainterPath&) override {}
+    void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+    Type type() const override { return User; }
   };
   Engine m_engine;
+  Pages m_pages;
 };
 
-TEST_F(PrintFrameTest, APrinterThatTakesNoPagesIsNamed) {
-  CBrokenPrinter printer;
-  const CPagePainter pages(frame->Job(), {Content(), Display(), Rules(), {}, {}, frame->font()});
-  frame->Output().PrintOn(printer, pages, frame->Paper(), AllPages(frame->Job()));
-  ASSERT_EQ(messages.errors.size(), 1U);
-  EXPECT_TRUE(messages.errors[0].contains(QLatin1String("Laser"))) << qPrintable(messages.errors[0]);
+TEST_F(PrintFrameTest, WhatBecameOfTheJobOfAPrinterIsSaid) {
+  const struct {
+    bool isBroken;
+    ServerAnswer answer;
+    const char* said;
+    bool isFault;
+  } kJobs[] = {
+      {true, ServerAnswer::kTaken, "«\u00A0Laser\u00A0» n'a pas accepté", true},
+      {false, ServerAnswer::kFailed, "«\u00A0Laser\u00A0» n'a pas accepté", true},
+      {false, ServerAnswer::kNotAccepting, "«\u00A0Laser\u00A0» est fermée", true},
+      {false, ServerAnswer::kHeld, "«\u00A0Laser\u00A0» est arrêtée", true},
+      {false, ServerAnswer::kTaken, "Une page envoyée à Laser", false},
+  };
+  const auto spoken = [&] {
+    auto* const notice = frame->findChild<QObject*>(QStringLiteral("notice"));
+    return notice == nullptr ? QString()
+                             : QAccessible::queryAccessibleInterface(notice)->text(QAccessible::Name);
+  };
+  Choose(kCmdToggleStatusBar);
+  for (const auto& job : kJobs) {
+    SCOPED_TRACE(job.said);
+    messages.errors.clear();
+    CFakePrinter printer(job.isBroken);
+    const CPagePainter pages(frame->Job(), {Content(), Display(), Rules(), {}, {}, frame->font()});
+    frame->Output().PrintOn(printer, pages, frame->Paper(), AllPages(frame->Job()),
+                            [&](const QString& asked) {
+                              EXPECT_EQ(asked, QStringLiteral("Laser"));
+                              return job.answer;
+                            });
+    EXPECT_EQ(messages.errors.size(), job.isFault ? 1U : 0U);
+    const QString said = job.isFault ? messages.errors.front() : frame->statusBar()->currentMessage();
+    EXPECT_TRUE(said.contains(QString::fromUtf8(job.said))) << qPrintable(said);
+    EXPECT_EQ(spoken(), job.isFault ? QString() : said);
+    EXPECT_EQ(frame->statusBar()->isVisible(), !job.isFault) << "it appears for what is told there";
+  }
+  frame->statusBar()->clearMessage();
+  EXPECT_FALSE(frame->statusBar()->isVisible());
+  Choose(kCmdPeriodYear);
+  Choose(kCmdNextPage);
+  EXPECT_TRUE(spoken().startsWith(QString::fromUtf8("Aperçu, page 2 sur 12. Février 2024")));
 }
 
 class LongJobTest : public PrintFrameTest {
@@ -252,7 +304,7 @@ TEST_F(LongJobTest, ACancelledJobLeavesTheFileThatWasThere) {
 TEST_F(LongJobTest, ClosingTheFrameEndsItsJobInSilence) {
   ExportCentury([&](QProgressDialog&) { frame->close(); });
   EXPECT_EQ(Bytes(), "before");
-  EXPECT_TRUE(messages.shown.isEmpty());
+  EXPECT_TRUE(messages.shown.isEmpty() && frame->statusBar()->currentMessage().isEmpty());
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(frame.isNull());
 }
@@ -272,9 +324,9 @@ TEST_F(PrintFrameTest, YearsAreCountedAndMustBeInOrder) {
   const auto* const pages = dialog.findChild<QLabel*>(QStringLiteral("pages"));
   const auto* const go = dialog.findChild<QPushButton*>(QString(), Qt::FindChildrenRecursively);
   EXPECT_EQ(years.at(0)->text(), QStringLiteral("-44 (45 av. JC)"));
-  EXPECT_EQ(pages->text(), QString::fromUtf8("Années : 10, pages : 60"));
+  EXPECT_EQ(pages->text(), QString::fromUtf8("Années\u00A0: 10, pages\u00A0: 60"));
   years.at(1)->setValue(3955);
-  EXPECT_EQ(pages->text(), QString::fromUtf8("Années : 4 000, pages : 24 000"));
+  EXPECT_EQ(pages->text(), QString::fromUtf8("Années\u00A0: 4 000, pages\u00A0: 24 000"));
   EXPECT_TRUE(go->isEnabled());
   years.at(1)->setValue(-45);
   EXPECT_FALSE(go->isEnabled());
