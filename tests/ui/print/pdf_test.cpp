@@ -145,6 +145,9 @@ TEST(PdfTest, NamesAreWholeWhereThereIsRoom) {
     const char16_t* text;
   } kRows[] = {
       {kCmdFormatTable, 1793, 9, {}, kJulianOption | kRepublicanOption, u"1er complémentaire"},
+      {kCmdFormatTable, 2024, 9, {}, kRepublicanOption, u"ans CCXXXII – CCXXXIII"},
+      {kCmdFormatTable, 2024, 5, Rule(kFixedDate, {.month = 5, .day = 14, .name = u"Commémorations"}),
+       kHolidayOption, u"Commémorations"},
       // beside the moon, and before a vacation that begins on the same day
       {kCmdFormatYear, 2024, 5,
        Rule(kFixedDate, {.isPublic = false, .month = 5, .day = 15, .name = u"Anniversaire de Zoé"}),

@@ -2,6 +2,7 @@
 // there.
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -24,6 +25,7 @@
 #include <QVBoxLayout>
 
 #include "tests/ui/print/frame_fixture.h"
+#include "ui/print/print_dialog.h"
 #include "ui/print/print_years_dlg.h"
 #include "ui/print/toolkit_dialogs.h"
 
@@ -72,8 +74,8 @@ TEST_F(PrintFrameTest, ThePrintDialogWritesTheChosenPagesIntoAFile) {
     qsizetype pages;
     const char* said;
   } kJobs[] = {{"", 1, 2, "2 pages écrites dans %1"},
-               {"5", 1, 1, "Une page écrite dans %1"},
-               {"1-3, 5,80", 2, 8, "8 pages écrites dans %1"}};
+               {"1-3, 5,80", 2, 8, "8 pages écrites dans %1"},
+               {"5", 1, 1, "Une page écrite dans %1"}};
   Choose(kCmdPeriodYear);
   int number = 0;
   for (const auto& job : kJobs) {
@@ -85,6 +87,11 @@ TEST_F(PrintFrameTest, ThePrintDialogWritesTheChosenPagesIntoAFile) {
       EXPECT_FALSE(dialog.findChild<QTabWidget*>(QStringLiteral("tabs"))->isTabEnabled(1)) << "colors, sides";
       auto* const file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
       EXPECT_TRUE(file->text().endsWith(QLatin1String("/Calendrier 2024.pdf"))) << qPrintable(file->text());
+      EXPECT_EQ(file->text() == PathOf("Calendrier 2024.pdf"), number > 1)
+          << "in the folder of the last file";
+      auto* const reverse = dialog.findChild<QCheckBox*>(QStringLiteral("reverse"));
+      EXPECT_FALSE(reverse->isChecked());
+      reverse->click();
       file->setText(path);
       const bool isList = *job.list != '\0';
       dialog
@@ -103,6 +110,7 @@ TEST_F(PrintFrameTest, ThePrintDialogWritesTheChosenPagesIntoAFile) {
       }
       list->setText(QString::fromUtf8(job.list));
       dialog.accept();
+      EXPECT_TRUE(static_cast<CPrintDialog&>(dialog).Choice().isReversed);
     });
     EXPECT_EQ(PagesIn(path), job.pages);
     EXPECT_EQ(frame->statusBar()->currentMessage(), QString::fromUtf8(job.said).arg(path));
