@@ -168,14 +168,15 @@ TEST_F(CalendarStoreTest, PublicCalendarsOfBothFoldersStandInOneList) {
   for (const char16_t* name : {u"Zambie", u"États-Unis", u"France", u"Espagne", u"fr_public"})
     files.Put(std::u16string(u"/share/Legals/") + name + u".xml", "<info>shipped</info>");
   files.Put(u"/user/Legals/France.xml", "<info>mine</info>");
-  files.Put(u"/user/Legals/de_public.xml", "");
+  for (const char16_t* name : {u"de_public", u"../Mien"})
+    files.Put(std::u16string(u"/user/Legals/") + name + u".xml", "");
   std::vector<std::u16string> paths;
   for (const PublicCalendar& listed : publicCalendars.List()) paths.push_back(listed.path);
   EXPECT_EQ(paths, (std::vector<std::u16string>{u"/user/Legals/de_public.xml", u"/share/Legals/Espagne.xml",
                                                 u"/share/Legals/États-Unis.xml", u"/user/Legals/France.xml",
                                                 u"/share/Legals/Zambie.xml"}));
   EXPECT_EQ(publicCalendars.PathOf(u"France"), u"/user/Legals/France.xml");
-  EXPECT_EQ(publicCalendars.PathOf(u"Suisse"), u"");
+  for (const char16_t* none : {u"Suisse", u"../Mien"}) EXPECT_EQ(publicCalendars.PathOf(none), u"");
   EXPECT_EQ(publicCalendars.Load(u"/user/Legals/France.xml")->info, u"mine");
   EXPECT_FALSE(publicCalendars.Load(u"/nowhere.xml").has_value());
 }

@@ -67,6 +67,7 @@ TEST(FirstStartTest, TheLanguageDecidesWhereACountryHasSeveralAndWhereNoneIsKnow
   };
   for (const auto& row : kFirst)
     EXPECT_EQ(FirstShipped(row.language, row.country), row.calendar) << row.language << "_" << row.country;
+  EXPECT_TRUE(FirstStartCalendars({u"../x", u""}).empty()) << "a language has two letters";
 }
 
 // Returns the public days from Monday to Friday: on weekends a country may keep another day instead.
