@@ -13,7 +13,6 @@ TEST(RepublicanTest, DatesOfTheRepublicConvertBothWaysAndAreWritten) {
       {17920922, 1, 1, 1, u"Primidi 1 vendémiaire an 1\n (an I)"},
       {17950922, 3, 13, 6, u"Jour de la Révolution an 3\n (an III)"},
       {17991109, 8, 2, 18, u"Octidi 18 brumaire an 8\n (an VIII)"},
-      {18051231, 14, 4, 10, u"Décadi 10 nivose an 14\n (an XIV)"},
       {20240101, 232, 4, 11, u"Primidi 11 nivose an 232\n (an CCXXXII)"},
   };
   for (const auto& [date, year, month, day, text] : kRows) {

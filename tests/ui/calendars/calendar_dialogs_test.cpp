@@ -108,12 +108,12 @@ TEST_F(CalendarDialogsTest, ANewNameIsJudgedAtItsField) {
   EXPECT_EQ(OnDisk(), "Maison=mine Travail=work ");
   Type(u"שלום 🎂 <b>"_s);
   EXPECT_EQ(Fault(), QString());
-  Part<QCheckBox>("keepsEvents")->setChecked(true);
-  files.isClosed = true;
+  files.failingWrites = {u"/user/שלום 🎂 <b>.xml"};
   Key(Qt::Key_Return);
   EXPECT_TRUE(dialog->isVisible()) << "the folder takes no file any more";
   EXPECT_EQ(InUse(), "Maison /user/Maison.xml Maison mine") << "the old one goes on";
-  files.isClosed = false;
+  files.failingWrites.clear();
+  Part<QCheckBox>("keepsEvents")->setChecked(true);
   Key(Qt::Key_Return);
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_EQ(InUse(), "שלום 🎂 <b> /user/שלום 🎂 <b>.xml שלום 🎂 <b> mine");

@@ -162,7 +162,6 @@ TEST(CommandLineTest, ItAsksForATextOrIsRefusedInOneLine) {
       {{"--version", "--blue"}, 0, "Orbisol " ORBISOL_VERSION, ""},
       {{"--blue", "--version"}, 2, "", "orbisol : « --blue » n'est pas"},
       {{"calendar.xml"}, 2, "", "orbisol : « calendar.xml » n'est pas"},
-      {{""}, 2, "", "orbisol : «  » n'est pas"},
       {{"-platform", "--help", "--style=x", "-reverse"}, {}, "", ""},  // the toolkit's, with their values
       {{"-platform=x", "--help"}, 0, "Utilisation", ""},
   };
