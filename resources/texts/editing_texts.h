@@ -27,85 +27,97 @@ inline constexpr TextEntry kEditingTexts[] = {
     {kCmdToggleCellTexts,
      u"Écrire les jours fériés et les événements dans les cases\nÉvénements dans les cases"},
     {kTextCalendarChanged,
-     u"Le calendrier « %s » a été modifié par un autre programme depuis son ouverture.\n\n"
-     u"Le fichier %s contient ces autres modifications ; les vôtres ne sont pas encore enregistrées.\n\n"
-     u"Garder les deux : le vôtre est enregistré sous le nom « %s ».\n"
-     u"Recharger : celles du fichier sont affichées ; les vôtres restent dans les versions précédentes.\n"
-     u"Remplacer : le vôtre remplace l'autre, dont une copie reste à côté (.bak)."},
+     u"Le calendrier «\u00A0%s\u00A0» a été modifié par un autre programme depuis son ouverture.\n\n"
+     u"Le fichier %s contient ces autres modifications\u00A0; les vôtres ne sont pas encore enregistrées.\n\n"
+     u"Garder les deux\u00A0: le vôtre est enregistré sous le nom «\u00A0%s\u00A0».\n"
+     u"Recharger\u00A0: celles du fichier sont affichées\u00A0; les vôtres restent dans les versions "
+     u"précédentes.\n"
+     u"Remplacer\u00A0: le vôtre remplace l'autre, dont une copie reste à côté (.bak)."},
     {kTextCalendarChangedButtons, u"Garder les deux|Recharger|Remplacer"},
     {kTextCalendarNotWritten,
-     u"Le calendrier « %s » n'a pas été enregistré.\n\n"
-     u"Le fichier %s est resté tel qu'il était ; vos modifications ne sont encore que dans le programme."},
+     u"Le calendrier «\u00A0%s\u00A0» n'a pas été enregistré.\n\n"
+     u"Le fichier %s est resté tel qu'il était\u00A0; vos modifications ne sont encore que dans le "
+     u"programme."},
     {kTextCalendarNotMade,
-     u"Le calendrier « %s » n'a pas été enregistré.\n\n"
-     u"Le fichier %s n'existe pas ; vos modifications ne sont encore que dans le programme."},
-    {kTextCalendarNotWrittenButtons, u"Enregistrer sous « %s »|Réessayer"},
+     u"Le calendrier «\u00A0%s\u00A0» n'a pas été enregistré.\n\n"
+     u"Le fichier %s n'existe pas\u00A0; vos modifications ne sont encore que dans le programme."},
+    {kTextCalendarNotWrittenButtons, u"Enregistrer sous «\u00A0%s\u00A0»|Réessayer"},
     {kTextCalendarNotSynced,
-     u"Le calendrier « %s » est enregistré, mais le disque ne l'a pas confirmé.\n\n"
-     u"Le fichier %s contient vos modifications ; une coupure de courant pourrait encore les faire perdre."},
+     u"Le calendrier «\u00A0%s\u00A0» est enregistré, mais le disque ne l'a pas confirmé.\n\n"
+     u"Le fichier %s contient vos modifications\u00A0; une coupure de courant pourrait encore les faire "
+     u"perdre."},
     {kTextChangesNotKept,
      u"Vos modifications n'ont pas pu être conservées parmi les versions précédentes.\n\n"
-     u"Si vous rechargez le calendrier « %s », elles sont perdues."},
+     u"Si vous rechargez le calendrier «\u00A0%s\u00A0», elles sont perdues."},
     {kTextChangesNotKeptButtons, u"Garder les deux|Recharger quand même"},
     {kTextImportHolidays,
      u"Choisissez un calendrier pour voir sa description et ses jours.|"
-     u"Ce calendrier ne peut pas être lu.|Ce calendrier n'a pas de description.|Jours de %1 :|"
+     u"Ce calendrier ne peut pas être lu.|Ce calendrier n'a pas de description.|Jours de %1\u00A0:|"
      u"Aucun calendrier public n'est installé.|Aucun calendrier ne porte ce nom."},
     {kTextManyPersonalEvents,
-     u"Le calendrier « %s » contient %d événements personnels.\n\n"
-     u"Ils seront ajoutés aux vôtres ; « Annuler » dans la fenêtre des événements les retire d'un seul "
+     u"Le calendrier «\u00A0%s\u00A0» contient %d événements personnels.\n\n"
+     u"Ils seront ajoutés aux vôtres\u00A0; «\u00A0Annuler\u00A0» dans la fenêtre des événements les retire "
+     u"d'un seul "
      u"coup."},
     {kTextManyPersonalEventsButton, u"Importer"},
     {kTextDifference,
-     u"Revient : %s|Disparaît : %s|jour férié « %s », %s|événement « %s », %s|vacances « %s », %s|"
+     u"Revient\u00A0: %s|Disparaît\u00A0: %s|jour férié «\u00A0%s\u00A0», %s|événement «\u00A0%s\u00A0», "
+     u"%s|vacances «\u00A0%s\u00A0», %s|"
      u"vacances %s|L'ordre des événements et des vacances change.|"
-     u"L'apparence change : couleurs, police ou image.|"
-     u"Les règles du calendrier changent : réforme, années civiles ou semaines.|"
+     u"L'apparence change\u00A0: couleurs, police ou image.|"
+     u"Les règles du calendrier changent\u00A0: réforme, années civiles ou semaines.|"
      u"La description du calendrier change.|Aucune différence avec le calendrier actuel."},
     {kTextNameFaults,
      u"Donnez un nom au calendrier.|Ce nom contient un caractère invisible.|"
-     u"Ce nom ne convient pas : il est trop long, ou contient « / », « \\ » ou un caractère de commande.|"
-     u"Les noms qui finissent par « _public » sont réservés aux calendriers fournis.|"
+     u"Ce nom ne convient pas\u00A0: il est trop long, ou contient «\u00A0/\u00A0», «\u00A0\\\u00A0» ou un "
+     u"caractère de commande.|"
+     u"Les noms qui finissent par «\u00A0_public\u00A0» sont réservés aux calendriers fournis.|"
      u"Un calendrier porte déjà ce nom."},
     {kTextCalendarGone,
-     u"Le calendrier « %s » n'existe plus.\n\nLe fichier %s a été supprimé ou renommé par un autre "
+     u"Le calendrier «\u00A0%s\u00A0» n'existe plus.\n\nLe fichier %s a été supprimé ou renommé par un autre "
      u"programme."},
     {kTextCalendarUnreadable,
-     u"Le calendrier « %s » ne peut pas être lu.\n\nVérifiez les droits du fichier %s."},
+     u"Le calendrier «\u00A0%s\u00A0» ne peut pas être lu.\n\nVérifiez les droits du fichier %s."},
     {kTextCalendarExists,
-     u"Un calendrier « %s » existe déjà ; il est resté tel qu'il était.\n\nSon fichier : %s"},
+     u"Un calendrier «\u00A0%s\u00A0» existe déjà\u00A0; il est resté tel qu'il était.\n\nSon fichier\u00A0: "
+     u"%s"},
     {kTextChoiceNotStored,
-     u"Le calendrier « %s » est ouvert, mais ce choix n'a pas pu être enregistré dans les réglages.\n\n"
+     u"Le calendrier «\u00A0%s\u00A0» est ouvert, mais ce choix n'a pas pu être enregistré dans les "
+     u"réglages.\n\n"
      u"Au prochain démarrage, Orbisol ouvrira encore le calendrier précédent."},
     {kTextCalendarNotRenamed,
-     u"Le calendrier « %s » n'a pas été renommé.\n\nLe fichier %s est resté tel qu'il était."},
+     u"Le calendrier «\u00A0%s\u00A0» n'a pas été renommé.\n\nLe fichier %s est resté tel qu'il était."},
     {kTextOldNameStays,
-     u"Le calendrier a son nouveau nom, mais « %s » existe encore.\n\n"
+     u"Le calendrier a son nouveau nom, mais «\u00A0%s\u00A0» existe encore.\n\n"
      u"Un autre programme a modifié le fichier %s, ou il ne peut pas être supprimé."},
     {kTextCalendarNotDeleted,
-     u"Le calendrier « %s » n'a pas été supprimé.\n\nLe fichier %s n'a pas pu être mis à la corbeille."},
-    {kTextDeleteCalendar, u"Mettre le calendrier « %s » à la corbeille ?"},
+     u"Le calendrier «\u00A0%s\u00A0» n'a pas été supprimé.\n\nLe fichier %s n'a pas pu être mis à la "
+     u"corbeille."},
+    {kTextDeleteCalendar, u"Mettre le calendrier «\u00A0%s\u00A0» à la corbeille\u00A0?"},
     {kTextDeleteCalendarAndVersions,
-     u"Mettre le calendrier « %s » à la corbeille ?\n\nSes versions précédentes y vont avec lui."},
+     u"Mettre le calendrier «\u00A0%s\u00A0» à la corbeille\u00A0?\n\nSes versions précédentes y vont avec "
+     u"lui."},
     {kTextDeleteCalendarButton, u"Mettre à la corbeille"},
     {kTextCopyAmongCalendars,
-     u"Ce dossier est celui des calendriers : une copie y deviendrait un calendrier de plus.\n\n"
+     u"Ce dossier est celui des calendriers\u00A0: une copie y deviendrait un calendrier de plus.\n\n"
      u"Choisissez un autre dossier. Rien n'a été écrit dans %s."},
-    {kTextCopyNotWritten, u"La copie n'a pas pu être écrite.\n\nFichier : %s"},
-    {kTextVersionGone, u"Cette version du calendrier « %s » n'existe plus."},
+    {kTextCopyNotWritten, u"La copie n'a pas pu être écrite.\n\nFichier\u00A0: %s"},
+    {kTextVersionGone, u"Cette version du calendrier «\u00A0%s\u00A0» n'existe plus."},
     {kTextVersionNotRestored,
-     u"La version n'a pas été restaurée.\n\nLe calendrier « %s » est resté tel qu'il était ; son fichier, "
+     u"La version n'a pas été restaurée.\n\nLe calendrier «\u00A0%s\u00A0» est resté tel qu'il était\u00A0; "
+     u"son fichier, "
      u"%s, "
      u"ne peut pas être remplacé."},
     {kTextChangedMeanwhile,
-     u"Le calendrier « %s » a été modifié entre-temps par un autre programme ; rien n'a été remplacé.\n\n"
+     u"Le calendrier «\u00A0%s\u00A0» a été modifié entre-temps par un autre programme\u00A0; rien n'a été "
+     u"remplacé.\n\n"
      u"Les différences sont maintenant celles avec le nouvel état du fichier %s."},
     {kTextNotKeptBeforeRestore,
      u"Vos modifications non enregistrées n'ont pas pu être conservées parmi les versions précédentes.\n\n"
-     u"Si vous restaurez cette version du calendrier « %s », elles sont perdues."},
+     u"Si vous restaurez cette version du calendrier «\u00A0%s\u00A0», elles sont perdues."},
     {kTextRestoreAllTheSame, u"Restaurer quand même"},
     {kTextVersions,
-     u"&Versions précédentes de « %s » :|%s, %d h %s|"
+     u"&Versions précédentes de «\u00A0%s\u00A0»\u00A0:|%s, %d h %s|"
      u"Aucune version précédente.\n\nUne version est conservée chaque fois que le calendrier est "
      u"enregistré."},
     {kTextVersionHolds,
@@ -116,10 +128,10 @@ inline constexpr TextEntry kEditingTexts[] = {
     {kTextEventRefusals,
      u"Donnez un intitulé à cet événement.|%s n'a que %d jours.|La date doit être au plus tôt le 2 du mois.|"
      u"La fin précède le début."},
-    {kTextNameTooLong, u"L'intitulé peut compter %d caractères ; celui-ci en compte %d."},
+    {kTextNameTooLong, u"L'intitulé peut compter %d caractères\u00A0; celui-ci en compte %d."},
     {kTextPeriodRefusals,
      u"Entrez une date.|La fin précède le début.|Une période dure au moins deux jours.|"
-     u"Avant notre ère, une période est enregistrée année par année : celle-ci n'aurait qu'un seul jour "
+     u"Avant notre ère, une période est enregistrée année par année\u00A0: celle-ci n'aurait qu'un seul jour "
      u"en %d, or il en faut au moins deux.|"
      u"Une de ces dates ne peut pas borner une période dans ce calendrier."},
     {kTextEventColumns, u"Intitulé|Jour|En %d|Nature"},
@@ -138,36 +150,41 @@ inline constexpr TextEntry kEditingTexts[] = {
      u"Aucun événement.\nDouble-cliquez sur un jour du calendrier pour en ajouter un,\n"
      u"ou remplissez les champs ci-contre.|Aucun événement ne correspond au filtre."},
     {kTextListSteps,
-     u"Ajouter « %s »|Modifier « %s »|Supprimer « %s »|Supprimer %d lignes|Monter « %s »|"
-     u"Descendre « %s »|Importer des jours fériés"},
-    {kTextUndoTips, u"Annuler (Ctrl+Z)|Rétablir (Ctrl+Y)|Annuler : %s (Ctrl+Z)|Rétablir : %s (Ctrl+Y)"},
+     u"Ajouter «\u00A0%s\u00A0»|Modifier «\u00A0%s\u00A0»|Supprimer «\u00A0%s\u00A0»|Supprimer %d "
+     u"lignes|Monter «\u00A0%s\u00A0»|"
+     u"Descendre «\u00A0%s\u00A0»|Importer des jours fériés"},
+    {kTextUndoTips,
+     u"Annuler (Ctrl+Z)|Rétablir (Ctrl+Y)|Annuler\u00A0: %s (Ctrl+Z)|Rétablir\u00A0: %s (Ctrl+Y)"},
     {kTextUnsavedChanges,
-     u"Des modifications ne sont pas enregistrées.\nVoulez-vous les enregistrer ?|Enregistrer|"
+     u"Des modifications ne sont pas enregistrées.\nVoulez-vous les enregistrer\u00A0?|Enregistrer|"
      u"Ne pas enregistrer"},
     {kTextPeriodColumns, u"Intitulé|Du|Au|Jours|Remarque"},
     {kTextPeriodForm, u"Nouvelle période|Modifier la période"},
     {kTextEmptyPeriods,
      u"Aucune période de vacances.\nFaites glisser la souris sur des jours du calendrier pour en ajouter "
      u"une,\nou remplissez les champs ci-contre.|Aucune période ne correspond au filtre."},
-    {kTextPeriodLength, u"Du %s au %s : %d jours."},
-    {kTextOverlap, u"chevauche « %s »|chevauche une autre période"},
-    {kTextEventAdded, u"« %s » est ajouté : %s."},
+    {kTextPeriodLength, u"Du %s au %s\u00A0: %d jours."},
+    {kTextOverlap, u"chevauche «\u00A0%s\u00A0»|chevauche une autre période"},
+    {kTextEventAdded, u"«\u00A0%s\u00A0» est ajouté\u00A0: %s."},
     {kTextMoveTips,
-     u"L'ordre se change sans tri ni filtre : cliquez sur l'en-tête jusqu'à ce que sa flèche disparaisse.|"
+     u"L'ordre se change sans tri ni filtre\u00A0: cliquez sur l'en-tête jusqu'à ce que sa flèche "
+     u"disparaisse.|"
      u"L'ordre décide des noms réunis sur un même jour et du titre des périodes qui se chevauchent."},
     {kTextNoDayInYear, u"aucun jour"},
     {kTextEventFilters, u"Tous les événements|Jours fériés|Événements personnels"},
     {kTextAlways, u"toujours"},
-    {kTextDateLabels, u"&Date :|Mois :"},
+    {kTextDateLabels, u"&Date\u00A0:|Mois\u00A0:"},
     {kTextLongestFallsOn,
      u"Tombe le 28 novembre en 2024, le 27 novembre en 2025, le 26 novembre en 2026 et en d'autres années."},
     {kTextLongestLength,
-     u"Du mercredi 30 septembre 2026 au mercredi 30 décembre 2026 : 100 jours.\nChevauche « Vacances ».\n"},
-    {kTextGoToDate, u"Cette date est comprise ainsi :|Cette date peut être :|Vouliez-vous dire :"},
+     u"Du mercredi 30 septembre 2026 au mercredi 30 décembre 2026\u00A0: 100 jours.\nChevauche "
+     u"«\u00A0Vacances\u00A0».\n"},
+    {kTextGoToDate,
+     u"Cette date est comprise ainsi\u00A0:|Cette date peut être\u00A0:|Vouliez-vous dire\u00A0:"},
     {kTextReadingLine, u"%s — %s"},
     {kTextFindDay,
-     u"Aucun jour ne contient ce texte.|1 résultat.|%s résultats.|Recherche arrêtée : %s résultats.|"
-     u"%s premiers résultats ; « Suivant » et « Précédent » trouvent les autres.|"
+     u"Aucun jour ne contient ce texte.|1 résultat.|%s résultats.|Recherche arrêtée\u00A0: %s résultats.|"
+     u"%s premiers résultats\u00A0; «\u00A0Suivant\u00A0» et «\u00A0Précédent\u00A0» trouvent les autres.|"
      u"Aucun autre jour ensuite.|Aucun autre jour auparavant."},
 };
 

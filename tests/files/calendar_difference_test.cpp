@@ -19,8 +19,9 @@ TEST(CalendarDifferenceTest, EachChangeIsALineAndNothingElseIs) {
   EXPECT_EQ(Lines(calendar, other), "Aucune différence avec le calendrier actuel.\n");
 
   other.content.dayEvents.push_back(calendar.content.dayEvents[0]);
-  EXPECT_EQ(Lines(calendar, other), "Revient : jour férié « A », le 1er janvier\n") << "it is there twice";
-  EXPECT_EQ(Lines(other, calendar), "Disparaît : jour férié « A », le 1er janvier\n");
+  EXPECT_EQ(Lines(calendar, other), "Revient\u00A0: jour férié «\u00A0A\u00A0», le 1er janvier\n")
+      << "it is there twice";
+  EXPECT_EQ(Lines(other, calendar), "Disparaît\u00A0: jour férié «\u00A0A\u00A0», le 1er janvier\n");
   other.content.dayEvents[1].name.Set(u"B");
   CalendarFile reversed = other;
   std::swap(reversed.content.dayEvents[0], reversed.content.dayEvents[1]);
@@ -31,17 +32,17 @@ TEST(CalendarDifferenceTest, EachChangeIsALineAndNothingElseIs) {
   other.rules.proleptic = true;
   other.info = u"x";
   EXPECT_EQ(Lines(calendar, other),
-            "L'apparence change : couleurs, police ou image.\n"
-            "Les règles du calendrier changent : réforme, années civiles ou semaines.\n"
+            "L'apparence change\u00A0: couleurs, police ou image.\n"
+            "Les règles du calendrier changent\u00A0: réforme, années civiles ou semaines.\n"
             "La description du calendrier change.\n");
 
   other = calendar;
   other.content.dayEvents[0].ymdFrom = 19410101;
   other.content.vacations.push_back({20260704, 20260831, NameText()});
   EXPECT_EQ(Lines(calendar, other),
-            "Revient : jour férié « A », le 1er janvier, depuis 1941\n"
-            "Revient : vacances du 4 juillet au 31 août 2026\n"
-            "Disparaît : jour férié « A », le 1er janvier\n");
+            "Revient\u00A0: jour férié «\u00A0A\u00A0», le 1er janvier, depuis 1941\n"
+            "Revient\u00A0: vacances du 4 juillet au 31 août 2026\n"
+            "Disparaît\u00A0: jour férié «\u00A0A\u00A0», le 1er janvier\n");
 }
 
 }  // namespace

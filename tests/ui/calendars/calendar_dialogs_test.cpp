@@ -172,7 +172,7 @@ TEST_F(CalendarDialogsTest, VersionsAreListedComparedAndRestored) {
   InDialog<CVersionsDlg>([](CVersionsDlg& versions) {
     versions.findChild<QPushButton*>(u"restore"_s)->click();
     EXPECT_EQ(versions.findChild<QLabel*>(u"heading"_s)->text(),
-              u"&Versions précédentes de « Maison (2) » :"_s);
+              u"&Versions précédentes de «\u00A0Maison (2)\u00A0»\u00A0:"_s);
   });
   Press("versions");
   EXPECT_EQ(OnDisk(), "Maison=theirs Maison (2)=mine Travail=work ");

@@ -55,7 +55,7 @@ TEST(EventFieldsTest, EveryRefusalIsSaidAtItsField) {
       {with([](auto& f) { f.name = u""; }), kName, "Donnez un intitulé"},
       {with([](auto& f) { f.name = u" \t\u200B\u00A0\u202E"; }), kName, "Donnez un intitulé"},
       {with([](auto& f) { f.name = std::u16string(300, u'a'); }), kName,
-       "254 caractères ; celui-ci en compte 300"},
+       "254 caractères\u00A0; celui-ci en compte 300"},
       {with([](auto& f) { f.name = u"\U0001F382 \u05D9\u05D5\u05DD"; }), {}, ""},
       {with([](auto& f) { f.month = 4, f.day = 31; }), kDay, "Avril n'a que 30 jours."},
       {with([](auto& f) { f.month = 2, f.day = 29; }), {}, ""},

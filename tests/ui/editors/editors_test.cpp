@@ -85,7 +85,7 @@ TEST_F(EditorTest, APeriodThatWasDrawnIsTitledSavedAndSeen) {
   EXPECT_EQ(Rows(), 1);
   EXPECT_TRUE(Note("toNote").contains(QStringLiteral("au moins deux jours"))) << "one day is refused";
   Type("to", QStringLiteral("10/07/2024"));
-  EXPECT_TRUE(Part<QLabel>("length").text().contains(QStringLiteral("Chevauche « Mer »")));
+  EXPECT_TRUE(Part<QLabel>("length").text().contains(QStringLiteral("Chevauche «\u00A0Mer\u00A0»")));
   Save();  // takes over what was typed
   EXPECT_EQ(dialog->result(), QDialog::Accepted);
   EXPECT_EQ(Saved().vacations, (std::vector{Period(20240706, 20240709, u"Mer"), Period(20240708, 20240710)}));

@@ -58,7 +58,7 @@ TEST_F(SaveCalendarTest, WhereSomebodyElseChangedTheFileTheUserDecides) {
     EXPECT_EQ(saved.reloaded.value_or(CalendarWith(u"theirs")), CalendarWith(u"theirs"));
     EXPECT_EQ(messages.buttons, QStringList({u"Garder les deux"_s, u"Recharger"_s, u"Remplacer"_s}));
     ExpectSaid("Le fichier /user/Calendar.xml contient ces autres modifications");
-    ExpectSaid("« Calendar (2) »");
+    ExpectSaid("«\u00A0Calendar (2)\u00A0»");
   }
 }
 
@@ -85,7 +85,8 @@ TEST_F(SaveCalendarTest, WhereTheFileCannotBeWrittenTheUserSavesUnderAnotherName
   EXPECT_TRUE(display.changed);
   ExpectSaid("n'a pas été enregistré");
   ExpectSaid("Le fichier /user/Calendar.xml est resté tel qu'il était");
-  EXPECT_EQ(messages.buttons, QStringList({u"Enregistrer sous « Calendar (2) »"_s, u"Réessayer"_s}));
+  EXPECT_EQ(messages.buttons,
+            QStringList({u"Enregistrer sous «\u00A0Calendar (2)\u00A0»"_s, u"Réessayer"_s}));
 
   messages.answers = {1, 0};  // again, in vain, then under the other name
   EXPECT_EQ(Save(u"Famille").end, SaveEnd::kSaved);
