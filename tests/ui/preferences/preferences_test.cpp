@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QStackedWidget>
 
 #include "tests/ui/preferences/preferences_fixture.h"
 #include "ui/preferences/color_presets.h"
@@ -29,15 +30,19 @@ TEST_F(PreferencesTest, CancelAfterApplyKeepsWhatWasAppliedAndNothingLater) {
   EXPECT_FALSE(Display().changed);
 }
 
-TEST_F(PreferencesTest, TheSheetFitsTheScreenInAFontTwiceAsLarge) {
+TEST_F(PreferencesTest, TheSheetFitsTheScreenAndShowsItsPagesWholeWhereItCan) {
   const QFont usual = QApplication::font();
-  QFont large = usual;
-  large.setPointSizeF(2 * usual.pointSizeF());
-  QApplication::setFont(large);
-  OpenSheet();
+  for (const int times : {1, 2, 4}) {
+    QFont font = usual;
+    font.setPointSizeF(times * usual.pointSizeF());
+    QApplication::setFont(font);
+    OpenSheet();
+    EXPECT_EQ(sheet->size().boundedTo(sheet->screen()->availableSize()), sheet->size()) << times;
+    const auto& pages = *sheet->findChild<QStackedWidget*>();
+    const QSize seen = pages.parentWidget()->size();
+    EXPECT_EQ(pages.size().boundedTo(seen) == pages.size(), times < 4) << times;
+  }
   QApplication::setFont(usual);
-  const QSize screen = sheet->screen()->availableSize();
-  EXPECT_EQ(sheet->size().boundedTo(screen), sheet->size());
 }
 
 // What is applied is in no hands but the sheet's when the session ends over it.
