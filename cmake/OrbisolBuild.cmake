@@ -42,7 +42,9 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release")
   # Hardened like the packages of Debian: a damaged stack or a call beyond its buffer ends the program, and no table of
   # addresses can be written to while it runs. The program is position-independent by the compiler's own default.
   add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
-  add_link_options(LINKER:-z,relro,-z,now)
+  if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    add_link_options(LINKER:-z,relro,-z,now)
+  endif()
 endif()
 if(ORBISOL_WERROR)
   add_compile_options(-Werror)
