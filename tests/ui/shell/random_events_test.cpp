@@ -210,6 +210,10 @@ TEST_F(RandomEventsTest, LeaveTheDateInBoundsAndTheToolkitSilent) {
     }
   }
   EXPECT_GT(months, events / 50);  // the events do reach something
+  // The help belongs to no other window, and nobody else would delete it.
+  for (QWidget* const window : QApplication::topLevelWidgets())
+    if (window->testAttribute(Qt::WA_DeleteOnClose)) window->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 }  // namespace
