@@ -33,9 +33,7 @@ TEST_F(PreferencesTest, CancelAfterApplyKeepsWhatWasAppliedAndNothingLater) {
 TEST_F(PreferencesTest, TheSheetFitsTheScreenAndShowsItsPagesWholeWhereItCan) {
   const QFont usual = QApplication::font();
   for (const int times : {1, 2, 4}) {
-    QFont font = usual;
-    font.setPointSizeF(times * usual.pointSizeF());
-    QApplication::setFont(font);
+    QApplication::setFont(QFont(usual.family(), times * usual.pointSize()));
     OpenSheet();
     EXPECT_EQ(sheet->size().boundedTo(sheet->screen()->availableSize()), sheet->size()) << times;
     const auto& pages = *sheet->findChild<QStackedWidget*>();
